@@ -1,0 +1,51 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace vypx {
+
+/// What stands in a file cell of a slot without an image. An empty cell means the same while a
+/// file is being read.
+inline constexpr std::string_view NoImage = "NEW";
+
+/// One row of `IconTable`: one icon of one application, or of the launcher, in one size class.
+/// Texts are single bytes (Latin-1).
+struct IconRow {
+    /// The row's unique text, also its tree node's key and text. Empty: a free row.
+    /// "(Large Icon", "(Small Icon", "Large", "Small" and "Orphan" in it are the only record of
+    /// size class and orphan state; other code finds them by search, so they stay letter for
+    /// letter.
+    std::string IconLabel;
+    /// The Palm resource with the images, type and decimal ID, such as `tAIB1005`.
+    /// Rows with the same key share their images.
+    std::string ResourceKey;
+    /// Bare name of the low-res image in the working folder, or NoImage.
+    std::string LowResFile;
+    /// The same for the high-res image.
+    std::string HighResFile;
+    /// 1: kept, 0: marked for deletion; empty in a table that nothing was read into yet.
+    std::optional<int> IconState;
+    /// One of the Kind... words, or empty.
+    std::string IconKind;
+
+    friend bool operator==(const IconRow&, const IconRow&) = default;
+};
+
+inline constexpr std::string_view KindVY = "VY";           ///< icon of the launcher itself
+inline constexpr std::string_view KindApp = "APP";         ///< of an application in `AppTable`
+inline constexpr std::string_view KindPalm = "PALM";       ///< of a system item in `PalmTable`
+inline constexpr std::string_view KindUnknown = "UNKNOWN"; ///< of something no catalog lists
+inline constexpr std::string_view KindDelete = "DELETE";   ///< orphan: no index entry names it
+
+/// Whether a LowResFile or HighResFile cell holds an image: it is neither empty nor NoImage.
+inline bool ImageFileValid(std::string_view cell) { return !cell.empty() && cell != NoImage; }
+
+/// Whether a label holds `words`. Case counts.
+inline bool LabelHolds(std::string_view label, std::string_view words)
+{
+    return label.find(words) != std::string_view::npos;
+}
+
+} // namespace vypx

@@ -1,0 +1,109 @@
+#pragma once
+
+#include "companion/ByteView.h"
+#include "companion/IconRow.h"
+#include "companion/Rgb.h"
+#include "document/IconTree.h"
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// The one open document: tables and fields of the process, read and written directly by every
+/// room. A load replaces it, a close empties it.
+///
+///   no document   FileLoaded false, tree empty, IconsetChanged false
+///   loading       the tree is cleared and the tables are being filled; FileLoaded false
+///   open          FileLoaded true, IconTable compacted, every image cell a file name or "NEW"
+///   changed       also IconsetChanged true
+namespace vypx {
+
+/// One row of `BitmapTable`: a decoded bitmap. A transparent colour belongs to a file, not to an
+/// icon. Cells are empty as long as nobody wrote them.
+struct BitmapEntry {
+    std::string file; ///< bare name of the working BMP; emptied when the image is dropped at load
+    std::optional<int> hasTransparent; ///< 1 or 0
+    std::optional<int> index; ///< palette index of the transparent colour, bitmaps of 1 to 8 bits
+    std::optional<int> red, green, blue; ///< the transparent colour, 0 to 255
+
+    friend bool operator==(const BitmapEntry&, const BitmapEntry&) = default;
+};
+
+/// One row of `Itbl`: which bitmap resources are an application's large and small icon.
+struct ItblRow {
+    std::string type, creator;    ///< four characters each, any byte values
+    int largeId = 0, smallId = 0; ///< resource IDs, 0 to 65535; 0: none
+
+    friend bool operator==(const ItblRow&, const ItblRow&) = default;
+};
+
+/// One bitmap of the family being walked.
+struct FamilyMember {
+    int depth = 0;   ///< pixel size in bits, as the record says it
+    int density = 0; ///< 1 low, 2 double
+};
+
+inline constexpr std::size_t MaxFamilyMembers = 11;
+
+inline std::vector<IconRow> IconTable(1);
+inline std::vector<BitmapEntry> BitmapTable(1);
+inline int BitmapRow = 0; ///< rows of BitmapTable that were filled
+/// Row 0 stays empty, records count from row 1. No rows at all: never read.
+inline std::vector<ItblRow> Itbl;
+inline std::array<FamilyMember, MaxFamilyMembers> BitmapFamily{};
+inline std::size_t BitmapFamilyCount = 0;
+/// The whole iconset file. Index 1 is its first byte, so offset n is index n + 1; one zero byte
+/// stands behind the last.
+inline Bytes FileCashe;
+inline std::int32_t IconFileSize = 0; ///< the file's length plus 1, FileCashe's last index
+inline IconTree Tree;                 ///< what TreeView1 shows
+
+inline std::string Parent;       ///< database name as read: key and text of the tree's root
+inline std::string DatabaseName; ///< database name of the document, 31 characters at most
+inline std::string FileName;     ///< path of the open iconset; empty for a new one not yet saved
+inline bool FileLoaded = false;
+inline bool IconsetChanged = false; ///< the document differs from what was last read or saved
+inline bool TemplateMode = false;   ///< LoadFile reads a template; lives for one call
+inline bool SkipOpenDialog = false; ///< FileName is set already; lives for one call of LoadFile
+inline bool DroppedFile = false;    ///< DroppedFileName replaces the file dialog
+inline std::string DroppedFileName;
+
+/// State of the walk over the resource list.
+inline int BmpTotalNum = 0; ///< bitmaps in all bitmap resources
+inline int TotalBmpResources = 0;
+inline std::int32_t FCin = 0;    ///< index into FileCashe of the current list entry
+inline int Rcntr = 0;            ///< number of the current resource, from 1
+inline std::string ResourceName; ///< of the current resource: type and decimal ID
+inline std::int32_t ResourceOffset = 0, NextOffset = 0, ResourceSize = 0;
+inline std::int32_t PFcnt = 0;         ///< index into FileCashe while a family is walked
+inline std::int32_t TLstCnt = 0;       ///< next free row of IconTable
+inline bool Abmp = false;              ///< little-endian records; nothing sets it
+inline bool DuplicateResource = false; ///< no pictures are read; nothing sets it
+inline Bytes ResourceBytes;            ///< index 1 is the first byte of the resource in hand
+
+/// What the main form shows and remembers of the selected icon.
+inline std::string SelectedNode;            ///< IconLabel of the selected row
+inline std::string HighResPath, LowResPath; ///< file on show in each slot, empty if none
+inline bool LGloaded = false, SMloaded = false;
+inline bool LGhasTransparent = false, SMhasTransparent = false;
+inline int MaskR_LG = 0, MaskG_LG = 0, MaskB_LG = 0;
+inline int MaskR_SM = 0, MaskG_SM = 0, MaskB_SM = 0;
+inline bool TransparentUse = true;
+inline int R = 0, G = 0, B = 255; ///< the panels' background
+/// Labels that share images with the selection, from entry 1; the first empty one ends them.
+inline std::vector<std::string> ShareNames;
+
+/// Puts everything above back to what it is when the process starts.
+void ResetDocument();
+
+/// Index of the first row with that label. An empty label is no row's.
+std::optional<std::size_t> FindIconRow(std::string_view label);
+
+/// Drops the rows without a label; the others keep their order. With `keepOne` a table that would
+/// be empty keeps one empty row.
+void CompactIconTable(bool keepOne = false);
+
+} // namespace vypx

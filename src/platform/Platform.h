@@ -1,0 +1,77 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <vector>
+
+/// What the standard library lacks: the one place for system calls. One part for each system.
+/// Paths inside of the program are UTF-8 texts with the system's own separator.
+namespace vypx::platform {
+
+#ifdef _WIN32
+inline constexpr char PathSeparator = '\\';
+#else
+inline constexpr char PathSeparator = '/';
+#endif
+
+std::filesystem::path NativePath(std::string_view utf8);
+std::string Utf8Path(const std::filesystem::path& path);
+
+/// What tells whether a file is still the one that was read: another file in its place has
+/// another `file` number, a written one another size or time.
+struct FileIdentity {
+    std::uint64_t volume = 0, file = 0;
+    std::uint64_t size = 0;    ///< bytes
+    std::int64_t modified = 0; ///< nanoseconds; the system's own epoch
+    std::int64_t changed = 0;  ///< nanoseconds; time of the last change of the file's own record
+
+    friend bool operator==(const FileIdentity&, const FileIdentity&) = default;
+};
+
+/// Empty when there is no such file.
+std::optional<FileIdentity> IdentityOf(const std::string& path);
+
+/// The whole of a regular file; empty when it can't be read or has more than `limit` bytes.
+/// Folders, pipes and devices are not read.
+std::optional<std::vector<std::uint8_t>> ReadWholeFile(
+    const std::string& path, std::uintmax_t limit = UINT32_MAX);
+
+/// Replaces or creates the file `path` by `bytes` in one step: written beside it under a name that
+/// ends in ".vypx-new", synced, given the old file's permissions, renamed over it. A symbolic link
+/// is followed first and stays a link. After a failure, which the result names, the old file
+/// stands as it was and nothing is left beside it. A leftover of a killed writer is no obstacle.
+std::error_code ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes);
+
+/// Whether files can be made in an existing folder, found out by making one.
+bool FolderIsWritable(const std::string& folder);
+
+/// A lock on a file that lives as long as this object and never longer than the process: the
+/// system frees it after a crash as well. Other processes and other objects of this process are
+/// kept out alike. The file stays empty.
+class FileLock {
+public:
+    FileLock() = default;
+    FileLock(FileLock&& other) noexcept;
+    FileLock& operator=(FileLock&& other) noexcept;
+    FileLock(const FileLock&) = delete;
+    FileLock& operator=(const FileLock&) = delete;
+    ~FileLock();
+
+    /// Makes the file if it is missing. False: another holds the lock, or the file can't be made.
+    bool TryLock(const std::string& path);
+    bool Held() const;
+    void Unlock();
+
+private:
+    std::intptr_t m_handle = -1;
+};
+
+/// Number of this process, for names of passing files.
+std::uint64_t ProcessNumber();
+
+} // namespace vypx::platform

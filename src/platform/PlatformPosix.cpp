@@ -1,0 +1,150 @@
+#ifndef _WIN32
+
+#include "platform/Platform.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace vypx::platform {
+
+namespace {
+
+std::error_code LastError() { return { errno, std::generic_category() }; }
+
+std::int64_t Nanoseconds(const timespec& time)
+{
+    return static_cast<std::int64_t>(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
+}
+
+bool WriteAll(int file, std::span<const std::uint8_t> bytes)
+{
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(file, bytes.data(), bytes.size());
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written <= 0)
+            return false;
+        bytes = bytes.subspan(static_cast<std::size_t>(written));
+    }
+    return true;
+}
+
+/// Makes the rename itself durable. A file system that can't sync folders is no failure: the
+/// file has its new content by then.
+void SyncFolderOf(const std::filesystem::path& file)
+{
+    const std::filesystem::path folder = file.has_parent_path() ? file.parent_path() : ".";
+    const int handle = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle < 0)
+        return;
+    ::fsync(handle);
+    ::close(handle);
+}
+
+/// Writes, syncs and closes the passing file. The first failure is the one that is told.
+std::error_code WritePassingFile(
+    const std::string& name, std::span<const std::uint8_t> bytes, const struct stat* old)
+{
+    ::unlink(name.c_str());
+    const int file = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    if (file < 0)
+        return LastError();
+    std::error_code error;
+    if (!WriteAll(file, bytes))
+        error = LastError();
+    // The owner is kept where the system allows it; without that right the file is ours.
+    if (!error && old && (old->st_uid != ::geteuid() || old->st_gid != ::getegid())
+        && ::fchown(file, old->st_uid, old->st_gid) != 0 && errno != EPERM)
+        error = LastError();
+    if (!error && old && ::fchmod(file, old->st_mode & 07777) != 0)
+        error = LastError();
+    if (!error && ::fsync(file) != 0)
+        error = LastError();
+    if (::close(file) != 0 && !error)
+        error = LastError();
+    return error;
+}
+
+} // namespace
+
+std::optional<FileIdentity> IdentityOf(const std::string& path)
+{
+    struct stat status { };
+    if (::stat(path.c_str(), &status) != 0)
+        return std::nullopt;
+#ifdef __APPLE__
+    const timespec modified = status.st_mtimespec, changed = status.st_ctimespec;
+#else
+    const timespec modified = status.st_mtim, changed = status.st_ctim;
+#endif
+    return FileIdentity{
+        .volume = static_cast<std::uint64_t>(status.st_dev),
+        .file = static_cast<std::uint64_t>(status.st_ino),
+        .size = static_cast<std::uint64_t>(status.st_size),
+        .modified = Nanoseconds(modified),
+        .changed = Nanoseconds(changed),
+    };
+}
+
+std::error_code ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes)
+{
+    std::error_code error;
+    std::filesystem::path target = path;
+    for (int links = 0; std::filesystem::is_symlink(target, error); ++links) {
+        if (links == 40)
+            return std::make_error_code(std::errc::too_many_symbolic_link_levels);
+        const std::filesystem::path next = std::filesystem::read_symlink(target, error);
+        if (error)
+            return error;
+        target = target.parent_path() / next; // an absolute `next` stands alone
+    }
+
+    struct stat old { };
+    const bool replaces = ::stat(target.c_str(), &old) == 0;
+    if (replaces && !S_ISREG(old.st_mode))
+        return std::make_error_code(std::errc::invalid_argument);
+    // A file that its user made read-only is not to be replaced behind that user's back.
+    if (replaces && ::access(target.c_str(), W_OK) != 0)
+        return LastError();
+
+    const std::string passing = target.string() + ".vypx-new";
+    error = WritePassingFile(passing, bytes, replaces ? &old : nullptr);
+    if (!error && std::rename(passing.c_str(), target.c_str()) != 0)
+        error = LastError();
+    if (error)
+        ::unlink(passing.c_str());
+    else
+        SyncFolderOf(target);
+    return error;
+}
+
+bool FileLock::TryLock(const std::string& path)
+{
+    Unlock();
+    const int file = ::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+    if (file < 0)
+        return false;
+    if (::flock(file, LOCK_EX | LOCK_NB) != 0) {
+        ::close(file);
+        return false;
+    }
+    m_handle = file;
+    return true;
+}
+
+void FileLock::Unlock()
+{
+    if (Held())
+        ::close(static_cast<int>(m_handle));
+    m_handle = -1;
+}
+
+std::uint64_t ProcessNumber() { return static_cast<std::uint64_t>(::getpid()); }
+
+} // namespace vypx::platform
+
+#endif

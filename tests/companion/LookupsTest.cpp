@@ -1,0 +1,76 @@
+#include "companion/Lookups.h"
+
+#include <gtest/gtest.h>
+
+namespace vypx {
+namespace {
+
+using Names = std::vector<std::string>;
+
+const std::vector<IconRow> Rows{
+    { .IconLabel = "Acorn (Large Icon)", .ResourceKey = "tAIB3500" },
+    { .IconLabel = "Bird (Large Icon)", .ResourceKey = "tAIB3501" },
+    { .IconLabel = "Fern (Large Icon)", .ResourceKey = "tAIB3500" },
+    { .IconLabel = "Moss (Large Icon)", .ResourceKey = "tAIB3500" },
+    { .IconLabel = "Bare one" },
+    { .IconLabel = "Bare two" },
+};
+
+TEST(ChkDup, FindsAKeyThatARowCarries)
+{
+    std::int32_t result = 0;
+    ChkDup({ "tAIB3500", "Tbmp1" }, "Tbmp1", result);
+
+    EXPECT_EQ(result, 1);
+}
+
+TEST(ChkDup, LeavesTheResultForAKeyThatNoRowCarries)
+{
+    std::int32_t result = 0;
+    ChkDup({ "tAIB3500" }, "tAIB350", result);
+
+    EXPECT_EQ(result, 0);
+}
+
+TEST(ChkShared, ListsTheOtherRowsOfTheResourceFromEntryOne)
+{
+    Names names(6, "stale");
+    ChkShared(Rows, names, "Fern (Large Icon)");
+
+    EXPECT_EQ(names, (Names{ "", "Acorn (Large Icon)", "Moss (Large Icon)", "", "", "" }));
+}
+
+TEST(ChkShared, ListsNothingForARowThatSharesWithNone)
+{
+    Names names(6, "stale");
+    ChkShared(Rows, names, "Bird (Large Icon)");
+
+    EXPECT_EQ(names, Names(6));
+}
+
+TEST(ChkShared, RowsWithoutAResourceShareNothing)
+{
+    Names names(6);
+    ChkShared(Rows, names, "Bare one");
+
+    EXPECT_EQ(names, Names(6));
+}
+
+TEST(ChkShared, ListsNothingForALabelThatNoRowHas)
+{
+    Names names(6, "stale");
+    ChkShared(Rows, names, "Parent");
+
+    EXPECT_EQ(names, Names(6));
+}
+
+TEST(ChkShared, NeverGrowsTheTableOfNames)
+{
+    Names names(2);
+    ChkShared(Rows, names, "Acorn (Large Icon)");
+
+    EXPECT_EQ(names, (Names{ "", "Fern (Large Icon)" }));
+}
+
+} // namespace
+} // namespace vypx

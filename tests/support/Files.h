@@ -1,0 +1,23 @@
+#pragma once
+
+#include "companion/ByteView.h"
+
+#include <string>
+#include <string_view>
+
+namespace vypx::test {
+
+/// Bytes from hexadecimal digits; blanks and line ends between them don't count.
+Bytes Hex(std::string_view digits);
+
+/// The whole file; fails the test when it can't be read.
+Bytes ReadBytes(const std::string& path);
+std::string ReadText(const std::string& path);
+
+void WriteBytes(const std::string& path, const Bytes& bytes);
+void WriteText(const std::string& path, std::string_view text);
+
+/// Path of a file of tests/data.
+std::string TestData(const std::string& name);
+
+} // namespace vypx::test

@@ -14,8 +14,8 @@ namespace fs = std::filesystem;
 #ifdef _WIN32
 constexpr std::string_view Separators = "\\/:";
 #else
-// A backslash is a letter of a name like any other here.
-constexpr std::string_view Separators = "/:";
+// A backslash or a colon is a letter of a name like any other here.
+constexpr std::string_view Separators = "/";
 #endif
 
 /// Whether `name` matches `pattern`, where "*" stands for any text and "?" for one byte.

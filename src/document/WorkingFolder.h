@@ -35,8 +35,8 @@ void MakeFolder(const std::string& path);
 /// regard to case. What can't be deleted stays.
 void DeleteWorkingFiles(std::initializer_list<std::string_view> endings);
 
-/// Last part of a path, and what stands before it without the separator at its end. Both "\" (on
-/// Windows), "/" and ":" separate. A path without any has itself as name and no folder.
+/// Last part of a path, and what stands before it without the separator at its end. "/" separates,
+/// on Windows also "\" and ":". A path without any has itself as name and no folder.
 std::string LastComponent(std::string_view path);
 std::string FolderOf(std::string_view path);
 

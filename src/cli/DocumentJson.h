@@ -1,0 +1,27 @@
+#pragma once
+
+#include <nlohmann/json_fwd.hpp>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vypx {
+
+/// Single bytes (Latin-1) as UTF-8.
+std::string Utf8FromLatin1(std::string_view text);
+
+/// The open document as one JSON object:
+///
+///   loaded        whether a document is open
+///   databaseName  its Palm database name
+///   messages      texts of the boxes, in order
+///   icons         IconTable in order, free rows left out
+///   bitmaps       rows of BitmapTable that the decoder made; an empty cell is null
+///   iconTable     Itbl, from row 1
+///   tree          icon nodes, sorted by key in byte order; colours as "#rrggbb"
+///   stats         the six counters
+///
+/// Bytes of texts are Latin-1 code points.
+nlohmann::ordered_json DocumentJson(const std::vector<std::string>& messages);
+
+} // namespace vypx

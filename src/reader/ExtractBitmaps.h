@@ -1,0 +1,23 @@
+#pragma once
+
+#include "reader/LoadListener.h"
+
+namespace vypx {
+
+/// Goes through the resource list once more and has every `tAIB` and `Tbmp` resource decoded into
+/// the working folder. An `abmp` resource keeps its row without images. Throws std::out_of_range
+/// where the list or a resource lies outside of the file.
+void ExtractBitmaps(LoadListener& listener);
+
+/// Copies the resource at ResourceOffset, ResourceSize bytes long, into ResourceBytes (from index
+/// 1) and decodes it. A size below 0 or above MaxResourceSize is told, and the resource skipped.
+void LoadBitmapResource(LoadListener& listener);
+
+/// Steps of the progress bar: how many bitmaps were counted, and how many are done.
+inline int BitmapCount = 0;
+inline int ProgressCount = 0;
+
+/// One bitmap more is done.
+void ProgBar(LoadListener& listener);
+
+} // namespace vypx

@@ -1,0 +1,58 @@
+#include "reader/IconTableResource.h"
+
+#include "document/Document.h"
+#include "reader/ResourceList.h"
+
+#include <stdexcept>
+
+namespace vypx {
+
+namespace {
+
+constexpr std::int32_t RecordSize = 16;
+
+/// Size from the own and the next offset; the rest of the file where that gives none.
+std::int32_t SizeOfIndex()
+{
+    const std::int32_t restOfFile = IconFileSize - 1 - ResourceOffset;
+    const std::int32_t size = NextOffset == 0 ? restOfFile : NextOffset - ResourceOffset;
+    return size < 0 ? restOfFile : size;
+}
+
+ItblRow ReadRecord(std::size_t index)
+{
+    const ByteView file = FileByIndex();
+    return {
+        .type = file.Text(index, 4),
+        .creator = file.Text(index + 4, 4),
+        .largeId = file.U16(index + 8),
+        .smallId = file.U16(index + 10),
+    };
+}
+
+} // namespace
+
+void ReadIconTableResource(LoadListener& listener)
+{
+    ResourceOffset = ReadDataOffset(FCin);
+    NextOffset = ReadDataOffset(FCin + EntrySize);
+    if (NextOffset > IconFileSize)
+        NextOffset = 0;
+    ResourceSize = SizeOfIndex();
+    if (ResourceSize % RecordSize != 0) {
+        listener.Message("Error reading iTbl");
+        return;
+    }
+
+    const std::int32_t count = ResourceSize / RecordSize;
+    if (count < 0)
+        throw PastTheEnd();
+    Itbl.assign(static_cast<std::size_t>(count) + 1, {});
+    if (count > INT16_MAX)
+        throw std::out_of_range("record count beyond 16 bits with sign");
+    std::size_t index = static_cast<std::size_t>(ResourceOffset) + 1;
+    for (std::size_t row = 1; row < Itbl.size(); ++row, index += RecordSize)
+        Itbl[row] = ReadRecord(index);
+}
+
+} // namespace vypx

@@ -1,0 +1,52 @@
+#include "reader/ResourceList.h"
+
+#include "document/Document.h"
+
+#include <stdexcept>
+
+namespace vypx {
+
+bool ResourceEntry::IsBitmap() const { return type == "Tbmp" || type == "tAIB" || type == "abmp"; }
+
+ByteView FileByIndex() { return FileCashe; }
+
+std::string ReadDatabaseName()
+{
+    const ByteView field = FileByIndex().Part(DatabaseNameOffset + 1, DatabaseNameSize);
+    std::string name;
+    for (const std::uint8_t byte : field.Span()) {
+        if (byte < 32 || byte > 126)
+            break;
+        name += static_cast<char>(byte);
+    }
+    return name;
+}
+
+int ReadResourceCount()
+{
+    const int count = FileByIndex().U16(ResourceCountOffset + 1);
+    if (count > INT16_MAX)
+        throw std::out_of_range("resource count beyond 16 bits with sign");
+    return count;
+}
+
+ResourceEntry ReadEntry(std::int32_t entryIndex)
+{
+    const auto index = static_cast<std::size_t>(entryIndex);
+    return {
+        .type = FileByIndex().Text(index, 4),
+        .id = FileByIndex().U16(index + 4),
+    };
+}
+
+std::int32_t ReadDataOffset(std::int32_t entryIndex)
+{
+    const auto index = static_cast<std::size_t>(entryIndex);
+    const std::int32_t highest = FileByIndex().U8(index + 6);
+    const auto rest = static_cast<std::int32_t>(FileByIndex().U24(index + 7));
+    // On purpose: 0x100000 and not 0x1000000. Below 16 MiB the highest byte is 0 and it is the
+    // same.
+    return highest * 0x100000 + rest;
+}
+
+} // namespace vypx

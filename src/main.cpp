@@ -1,1 +1,28 @@
-int main() { return 0; }
+#include "forms/Ask.h"
+#include "forms/MDIForm1.h"
+
+#include <QApplication>
+#include <QStandardPaths>
+#include <filesystem>
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    QApplication::setApplicationName("vy-pixelworks");
+    QApplication::setApplicationDisplayName("VY Pixelworks");
+    QApplication::setApplicationVersion("2.0.0");
+
+    vypx::ScreenAsk ask;
+    try {
+        vypx::MDIForm1 frame(ask);
+        frame.Start(QApplication::applicationDirPath(),
+            QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+        return QApplication::exec();
+    } catch (const std::filesystem::filesystem_error& error) {
+        ask.Show(nullptr,
+            { .text = QString("VY Pixelworks can't make its working folder.\n\n%1")
+                          .arg(QString::fromLocal8Bit(error.what())),
+                .icon = QMessageBox::Critical });
+        return 1;
+    }
+}

@@ -14,7 +14,7 @@ void ResetDocument()
     IconFileSize = 0;
     Tree.Clear();
     for (std::string* text : { &Parent, &DatabaseName, &FileName, &DroppedFileName, &ResourceName,
-             &SelectedNode, &HighResPath, &LowResPath })
+             &SelectedNode, &LastClickedText, &HighResPath, &LowResPath })
         text->clear();
     FileLoaded = IconsetChanged = TemplateMode = SkipOpenDialog = DroppedFile = false;
     BmpTotalNum = TotalBmpResources = Rcntr = 0;

@@ -28,6 +28,7 @@ struct BitmapEntry {
     std::optional<int> hasTransparent; ///< 1 or 0
     std::optional<int> index; ///< palette index of the transparent colour, bitmaps of 1 to 8 bits
     std::optional<int> red, green, blue; ///< the transparent colour, 0 to 255
+    int depth = 0; ///< bits per pixel of the record as read; 0: not from a file
 
     friend bool operator==(const BitmapEntry&, const BitmapEntry&) = default;
 };
@@ -86,6 +87,7 @@ inline Bytes ResourceBytes;            ///< index 1 is the first byte of the res
 
 /// What the main form shows and remembers of the selected icon.
 inline std::string SelectedNode;            ///< IconLabel of the selected row
+inline std::string LastClickedText;         ///< of the tree node that was clicked last
 inline std::string HighResPath, LowResPath; ///< file on show in each slot, empty if none
 inline bool LGloaded = false, SMloaded = false;
 inline bool LGhasTransparent = false, SMhasTransparent = false;

@@ -62,8 +62,14 @@ public:
     FileLock& operator=(const FileLock&) = delete;
     ~FileLock();
 
-    /// Makes the file if it is missing. False: another holds the lock, or the file can't be made.
-    bool TryLock(const std::string& path);
+    enum class Answer {
+        Taken,
+        HeldByAnother,
+        Failed, ///< the file can't be made or opened
+    };
+
+    /// Makes the file if it is missing. Gives up what this object held before.
+    Answer TryLock(const std::string& path);
     bool Held() const;
     void Unlock();
 

@@ -122,18 +122,19 @@ std::error_code ReplaceFile(const std::string& path, std::span<const std::uint8_
     return error;
 }
 
-bool FileLock::TryLock(const std::string& path)
+FileLock::Answer FileLock::TryLock(const std::string& path)
 {
     Unlock();
     const int file = ::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
     if (file < 0)
-        return false;
+        return Answer::Failed;
     if (::flock(file, LOCK_EX | LOCK_NB) != 0) {
+        const bool held = errno == EWOULDBLOCK;
         ::close(file);
-        return false;
+        return held ? Answer::HeldByAnother : Answer::Failed;
     }
     m_handle = file;
-    return true;
+    return Answer::Taken;
 }
 
 void FileLock::Unlock()

@@ -93,21 +93,22 @@ std::error_code ReplaceFile(const std::string& path, std::span<const std::uint8_
     return error;
 }
 
-bool FileLock::TryLock(const std::string& path)
+FileLock::Answer FileLock::TryLock(const std::string& path)
 {
     Unlock();
     const HANDLE file = ::CreateFileW(NativePath(path).c_str(), GENERIC_READ | GENERIC_WRITE,
         FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_ALWAYS,
         FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file == INVALID_HANDLE_VALUE)
-        return false;
+        return Answer::Failed;
     OVERLAPPED where{};
     if (!::LockFileEx(file, LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0, &where)) {
+        const bool held = ::GetLastError() == ERROR_LOCK_VIOLATION;
         ::CloseHandle(file);
-        return false;
+        return held ? Answer::HeldByAnother : Answer::Failed;
     }
     m_handle = reinterpret_cast<std::intptr_t>(file);
-    return true;
+    return Answer::Taken;
 }
 
 void FileLock::Unlock()

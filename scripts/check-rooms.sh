@@ -1,0 +1,42 @@
+#!/usr/bin/env bash
+# Fails where a room of src/ includes another that it may not know, where Qt has come downstairs, or
+# where headers include each other in a circle.
+set -euo pipefail
+cd "$(dirname "$0")/../src"
+
+declare -A may=(
+    [platform]="platform"
+    [companion]="companion"
+    [settings]="settings platform"
+    [document]="document settings companion platform"
+    [catalogs]="catalogs document settings companion platform"
+    [imaging]="imaging document settings companion platform"
+    [reader]="reader imaging catalogs document settings companion platform"
+    [writer]="writer imaging catalogs document settings companion platform"
+    [cli]="cli writer reader imaging catalogs document settings companion platform"
+    [forms]="forms writer reader imaging catalogs document settings companion platform"
+)
+bad=0
+for room in */; do
+    room=${room%/}
+    allowed=${may[$room]:-}
+    [ -n "$allowed" ] || { echo "src/$room is no room that scripts/check-rooms.sh knows"; bad=1; continue; }
+    while IFS=: read -r file line text; do
+        other=$(sed -E 's/.*"([^"\/]+)\/.*/\1/' <<<"$text")
+        [[ " $allowed " == *" $other "* ]] || { echo "src/$file:$line: $room must not include $other"; bad=1; }
+    done < <(grep -rnE '^#include "[a-z]+/' "$room" --include='*.h' --include='*.cpp' || true)
+    [ "$room" = forms ] && continue
+    if grep -rnE '^#include *[<"]Q[A-Za-z]' "$room"; then
+        echo "Qt has come into src/$room"
+        bad=1
+    fi
+done
+
+# tsort names the circles among headers.
+edges=$(grep -rnoE '^#include "[a-z]+/[A-Za-z0-9_]+\.h"' --include='*.h' . |
+    sed -E 's/^\.\/([^:]+):[0-9]+:#include "([^"]+)"/\1 \2/')
+if ! circles=$(tsort <<<"$edges" 2>&1 >/dev/null); then
+    printf 'Headers include each other in a circle:\n%s\n' "$circles"
+    bad=1
+fi
+exit "$bad"

@@ -1,0 +1,35 @@
+# Sourced by ./run and ./test: installs the Debian packages that are missing.
+
+build_packages=(
+    g++ cmake ninja-build qt6-base-dev libcli11-dev nlohmann-json3-dev
+    libgtest-dev libgmock-dev libbenchmark-dev librapidcheck-dev
+)
+test_packages=(clang clang-format libclang-rt-14-dev netpbm)
+screen_packages=(xvfb openbox fonts-dejavu-core imagemagick x11-utils xdotool)
+
+say() { printf '== %s\n' "$*"; }
+
+# install_packages NAME...: what is there already costs one look.
+install_packages() {
+    local missing=() name
+    for name in "$@"; do
+        if [ "$(dpkg-query -W -f='${Status}' "$name" 2>/dev/null)" != "install ok installed" ]; then
+            missing+=("$name")
+        fi
+    done
+    [ ${#missing[@]} -eq 0 ] && return 0
+
+    local as_root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        if ! command -v sudo >/dev/null; then
+            say "These packages are missing: ${missing[*]}"
+            say "Install them as root, or install sudo."
+            return 1
+        fi
+        as_root=(sudo)
+    fi
+    say "Installing missing packages: ${missing[*]}"
+    "${as_root[@]}" apt-get update -q
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -q -y --no-install-recommends "${missing[@]}"
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QMessageBox>
+#include <QString>
+#include <QStringList>
+
+namespace vypx {
+
+/// A message box. Texts are shown letter for letter, never as rich text.
+struct Box {
+    QString text;
+    QString title = "VY Pixelworks";
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    QMessageBox::StandardButtons buttons = QMessageBox::Ok;
+};
+
+/// A file dialog that opens.
+struct OpenQuestion {
+    QString title;
+    QString folder;      ///< where it starts; empty: where the program was started
+    QStringList filters; ///< "Words (*.a *.b)", patterns apart by blanks
+};
+
+/// The one door to boxes and file dialogs, so that tests can stand in for the user.
+class Ask {
+public:
+    virtual ~Ask() = default;
+
+    /// The button that was pressed.
+    virtual QMessageBox::StandardButton Show(QWidget* parent, const Box& box) = 0;
+    /// Path of the chosen file; empty when the dialog was cancelled.
+    virtual QString OpenFile(QWidget* parent, const OpenQuestion& question) = 0;
+};
+
+/// Shows real boxes and dialogs.
+class ScreenAsk : public Ask {
+public:
+    QMessageBox::StandardButton Show(QWidget* parent, const Box& box) override;
+    QString OpenFile(QWidget* parent, const OpenQuestion& question) override;
+};
+
+} // namespace vypx

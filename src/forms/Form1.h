@@ -1,0 +1,125 @@
+#pragma once
+
+#include "document/RunningCopies.h"
+#include "forms/Panel.h"
+#include "reader/LoadListener.h"
+
+#include <QElapsedTimer>
+#include <QWidget>
+#include <array>
+#include <initializer_list>
+#include <memory>
+
+class QMimeData;
+
+namespace Ui {
+class Form1;
+}
+
+namespace vypx {
+
+class Ask;
+
+/// The main form: the tree of icons, the two panels and every command. Its rooms by topic:
+/// Form1.cpp (making), Form1StartUp.cpp, Form1Exit.cpp, Form1Load.cpp (opening a file),
+/// Form1View.cpp (panels, tree and counts), Form1Events.cpp (keys, drops, what a load keeps out).
+class Form1 : public QWidget, private LoadListener {
+    Q_OBJECT
+
+public:
+    /// `frame` holds the menus and becomes the form's outer window.
+    Form1(QWidget& frame, Ask& ask);
+    ~Form1() override;
+
+    /// From the first step to the idle main window. Folders are the platform's own paths.
+    void StartUp(const QString& programFolder, const QString& userFolder);
+
+    /// Leaves the program: at once, without a question about changes.
+    void ExitProgram();
+
+    /// A window asks whether it may close. During a load the answer is no, and the exit follows
+    /// the load; else the exit runs first.
+    bool MayClose();
+
+    /// Asks for an iconset, or takes the one that is waiting, and opens it.
+    void LoadFile();
+
+    /// Counts the icons anew and shows what follows from that.
+    void UpdateIconStats();
+
+    /// Files were dropped on this window or on the frame.
+    void TakeDrop(const QMimeData& data);
+
+    bool IsLoading() const { return m_loading; }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    // Form1.cpp
+    void ConnectCommands();
+    void Enable(std::string_view command, bool on);
+    void Enable(std::initializer_list<std::string_view> commands, bool on);
+    void mnuOpen_Click();
+    void mnuExit_Click();
+    void cmdRemoveIcon_Click();
+
+    // Form1StartUp.cpp
+    void FindFolders(const QString& programFolder, const QString& userFolder);
+    void TurnOnDrops();
+    void TakeWorkingFolder();
+    void ChooseColours();
+    void PaintColours();
+    void ShowInFrame();
+    void CheckResolutionEntry();
+
+    // Form1Load.cpp
+    std::optional<std::string> ChooseIconset();
+    void DisableSlotCommands();
+    void EndLoad();
+    void Message(std::string_view text) override;
+    void BeginLoad() override;
+    void TreeCleared() override;
+    void DocumentNamed() override;
+    void ClearPictures() override;
+    void WalkGivenUp() override;
+    void Busy(std::string_view text) override;
+    void BusyEnded() override;
+    void ProgressMaximum(int maximum) override;
+    void ProgressShown() override;
+    void Progress(int count) override;
+    void ProgressHidden() override;
+    void Opened() override;
+    void StatsChanged() override;
+
+    // Form1View.cpp
+    Panel PanelOf(const QString& letters);
+    std::array<Panel*, 2> Panels() { return { &m_panelLG, &m_panelSM }; }
+    void ClearPicture(Panel& panel);
+    void ShowPanels(bool highRes, bool lowRes);
+    void ShowPanelsByOption();
+    void mnuShowBoth_Click();
+    void mnuHideLowRes_Click();
+    void mnuHideHighRes_Click();
+    void CheckOnly(const char* entry);
+    void ShowStatus(int panel, const QString& text);
+    void RemoveSelected();
+
+    // Form1Events.cpp
+    bool IsKeptOutByLoad(QEvent& event) const;
+    bool IsRemoveKey(QObject& watched, QEvent& event) const;
+
+    std::unique_ptr<Ui::Form1> m_ui;
+    QWidget& m_frame;
+    Ask& m_ask;
+    Panel m_panelLG, m_panelSM;
+    std::array<QLabel*, 2> m_statusPanels;
+    RunningCopies m_copies;
+    QElapsedTimer m_sincePaint;
+    bool m_loading = false;
+    bool m_closeAfterLoad = false;
+    bool m_exited = false;
+};
+
+} // namespace vypx

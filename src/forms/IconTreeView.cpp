@@ -1,0 +1,87 @@
+#include "forms/IconTreeView.h"
+
+#include "forms/Look.h"
+#include "forms/Text.h"
+
+#include <memory>
+
+namespace vypx {
+
+namespace {
+
+class IconItem : public QTreeWidgetItem {
+public:
+    using QTreeWidgetItem::QTreeWidgetItem;
+
+    bool operator<(const QTreeWidgetItem& other) const override
+    {
+        const QString mine = text(0), others = other.text(0);
+        const int order = mine.compare(others, Qt::CaseInsensitive);
+        return order != 0 ? order < 0 : mine < others;
+    }
+};
+
+} // namespace
+
+IconTreeView::IconTreeView(QWidget* parent)
+    : QTreeWidget(parent)
+{
+    for (std::size_t number = 1; number < m_images.size(); ++number)
+        m_images[number] = QIcon(QString(":/art/tree%1.png").arg(number));
+    setColumnCount(1);
+    setIconSize(QSize(16, 16));
+}
+
+QIcon IconTreeView::Image(int number) const
+{
+    const auto index = static_cast<std::size_t>(number);
+    return number >= 0 && index < m_images.size() ? m_images[index] : QIcon();
+}
+
+void IconTreeView::Dress(QTreeWidgetItem& item, int image, Rgb colour) const
+{
+    const QColor ink = ScreenColour(colour);
+    if (item.foreground(0) != ink)
+        item.setForeground(0, ink);
+    if (item.data(0, ImageRole) == image)
+        return;
+    item.setData(0, ImageRole, image);
+    item.setIcon(0, Image(image));
+}
+
+void IconTreeView::Fill(const IconTree& tree)
+{
+    clear();
+    m_byKey.clear();
+    if (!tree.HasRoot())
+        return;
+    auto root = std::make_unique<IconItem>(QStringList(Shown(tree.Root())));
+    Dress(*root, ImageRoot, Black);
+    QList<QTreeWidgetItem*> children;
+    children.reserve(static_cast<qsizetype>(tree.Nodes().size()));
+    for (const IconNode& node : tree.Nodes()) {
+        auto child = std::make_unique<IconItem>(QStringList(Shown(node.key)));
+        Dress(*child, node.image, node.colour);
+        m_byKey.insert(Shown(node.key), child.get());
+        children.append(child.release());
+    }
+    root->addChildren(children);
+    root->sortChildren(0, Qt::AscendingOrder);
+    QTreeWidgetItem* const shown = root.get();
+    addTopLevelItem(root.release());
+    shown->setExpanded(true);
+}
+
+void IconTreeView::Refresh(const IconTree& tree)
+{
+    const bool blocked = blockSignals(true); // many nodes, one repaint
+    for (const IconNode& node : tree.Nodes())
+        if (QTreeWidgetItem* item = NodeOf(Shown(node.key)))
+            Dress(*item, node.image, node.colour);
+    blockSignals(blocked);
+    viewport()->update();
+}
+
+QTreeWidgetItem* IconTreeView::NodeOf(const QString& key) const { return m_byKey.value(key); }
+
+} // namespace vypx

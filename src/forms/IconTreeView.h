@@ -1,0 +1,43 @@
+#pragma once
+
+#include "document/IconTree.h"
+
+#include <QHash>
+#include <QIcon>
+#include <QTreeWidget>
+#include <array>
+
+namespace vypx {
+
+/// The tree of icons: a root with one flat level of icons below it, sorted by text without regard
+/// to case, equal texts by code. Each item has its image's number in ImageRole.
+class IconTreeView : public QTreeWidget {
+    Q_OBJECT
+
+public:
+    static constexpr int ImageRole = Qt::UserRole;
+
+    explicit IconTreeView(QWidget* parent = nullptr);
+
+    /// Shows `tree`, all in one go, with the root expanded.
+    void Fill(const IconTree& tree);
+    /// Takes over the images and colours of nodes that are shown already.
+    void Refresh(const IconTree& tree);
+
+    /// Null when there is no such node.
+    QTreeWidgetItem* NodeOf(const QString& key) const;
+    QTreeWidgetItem* Root() const { return topLevelItem(0); }
+
+    /// Picture of a node, by its number; empty for a number that has none.
+    QIcon Image(int number) const;
+
+private:
+    void Dress(QTreeWidgetItem& item, int image, Rgb colour) const;
+
+    std::array<QIcon, 7> m_images; // by number; 0 has none
+    QHash<QString, QTreeWidgetItem*> m_byKey;
+};
+
+} // namespace vypx
+
+using vypx::IconTreeView; // generated code names it so

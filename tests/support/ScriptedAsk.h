@@ -1,0 +1,69 @@
+#pragma once
+
+#include "forms/Ask.h"
+
+#include <deque>
+#include <functional>
+#include <gtest/gtest.h>
+#include <vector>
+
+namespace vypx::test {
+
+/// Stands in for the user: answers boxes and dialogs from a queue and keeps what they showed.
+/// A box that nobody expected fails the test, and so does an answer that nobody asked for.
+class ScriptedAsk : public Ask {
+public:
+    ~ScriptedAsk() override
+    {
+        EXPECT_TRUE(m_boxes.empty()) << "an answer was queued and no box came";
+        EXPECT_TRUE(m_files.empty()) << "a file was queued and no dialog came";
+    }
+
+    /// The next box is answered so; `during` runs while it is up.
+    void Answer(QMessageBox::StandardButton button, std::function<void()> during = {})
+    {
+        m_boxes.push_back({ button, std::move(during) });
+    }
+    /// The next file dialog gives this path.
+    void Choose(const QString& path) { m_files.push_back(path); }
+    void CancelDialog() { m_files.push_back({}); }
+
+    QMessageBox::StandardButton Show(QWidget*, const Box& box) override
+    {
+        shown.push_back(box);
+        if (m_boxes.empty()) {
+            ADD_FAILURE() << "unexpected box: " << box.text.toStdString();
+            return QMessageBox::Cancel;
+        }
+        const BoxAnswer answer = m_boxes.front();
+        m_boxes.pop_front();
+        if (answer.during)
+            answer.during();
+        return answer.button;
+    }
+
+    QString OpenFile(QWidget*, const OpenQuestion& question) override
+    {
+        opened.push_back(question);
+        if (m_files.empty()) {
+            ADD_FAILURE() << "unexpected file dialog: " << question.title.toStdString();
+            return {};
+        }
+        const QString path = m_files.front();
+        m_files.pop_front();
+        return path;
+    }
+
+    std::vector<Box> shown;
+    std::vector<OpenQuestion> opened;
+
+private:
+    struct BoxAnswer {
+        QMessageBox::StandardButton button;
+        std::function<void()> during;
+    };
+    std::deque<BoxAnswer> m_boxes;
+    std::deque<QString> m_files;
+};
+
+} // namespace vypx::test

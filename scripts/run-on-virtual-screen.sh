@@ -56,8 +56,8 @@ mkdir -p "$(dirname "$picture")"
 import -window root "$picture"
 say "The program runs. Screenshot: $picture"
 
-xdotool windowclose "$window" 2>/dev/null || true
-xdotool key --window "$window" ctrl+q 2>/dev/null || true
+# The window manager's own key for the close button.
+xdotool windowactivate --sync "$window" key alt+F4
 for _ in $(seq 50); do
     kill -0 "$pid" 2>/dev/null || break
     sleep 0.1

@@ -28,6 +28,11 @@ export DISPLAY
 
 openbox >"$folder/openbox.log" 2>&1 &
 processes+=($!)
+# A window that is mapped while the window manager is still starting is never managed by it.
+for _ in $(seq 100); do
+    xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id' && break
+    sleep 0.1
+done
 "$program" &
 pid=$!
 processes+=("$pid")

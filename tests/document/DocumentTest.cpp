@@ -1,0 +1,70 @@
+#include "document/Document.h"
+
+#include "support/LoadFixture.h"
+
+namespace vypx::test {
+
+namespace {
+
+class Document : public LoadFixture { };
+
+TEST_F(Document, BeginsWithOneEmptyRow)
+{
+    EXPECT_EQ(IconTable.size(), 1u);
+    EXPECT_EQ(IconTable[0], IconRow());
+    EXPECT_EQ(BitmapTable.size(), 1u);
+    EXPECT_FALSE(FileLoaded);
+    EXPECT_FALSE(Tree.HasRoot());
+}
+
+TEST_F(Document, FindsTheFirstRowOfALabel)
+{
+    IconTable.assign(3, {});
+    IconTable[1].IconLabel = "Alpha (Large Icon)";
+    IconTable[2].IconLabel = "Alpha (Large Icon)";
+
+    EXPECT_EQ(FindIconRow("Alpha (Large Icon)"), 1u);
+    EXPECT_EQ(FindIconRow("alpha (large icon)"), std::nullopt);
+    EXPECT_EQ(FindIconRow(""), std::nullopt);
+}
+
+TEST_F(Document, CompactingKeepsOrderAndAllCells)
+{
+    IconTable.assign(5, {});
+    IconTable[1] = { "B", "tAIB2", "b.bmp", "NEW", 0, "APP" };
+    IconTable[3] = { "A", "tAIB1", "NEW", "a.bmp", 1, "VY" };
+    const IconRow b = IconTable[1], a = IconTable[3];
+
+    CompactIconTable();
+
+    EXPECT_EQ(IconTable, (std::vector<IconRow>{ b, a }));
+}
+
+TEST_F(Document, CompactingKeepsOneRowWhereToldTo)
+{
+    IconTable.assign(3, {});
+    CompactIconTable(true);
+    EXPECT_EQ(IconTable.size(), 1u);
+    CompactIconTable();
+    EXPECT_TRUE(IconTable.empty());
+}
+
+TEST_F(Document, OnlyAFileNameIsAnImage)
+{
+    EXPECT_FALSE(ImageFileValid(""));
+    EXPECT_FALSE(ImageFileValid("NEW"));
+    EXPECT_TRUE(ImageFileValid("tAIB1005.bmp"));
+    EXPECT_TRUE(ImageFileValid("new"));
+}
+
+TEST_F(Document, WorkingFilesLieBelowTheProgramsFolder)
+{
+    AppFolder = "/opt/icons";
+    SetTempSuffix(0);
+    EXPECT_EQ(WorkPath("tAIB1005.bmp"), "/opt/icons/temp/tAIB1005.bmp");
+    SetTempSuffix(2);
+    EXPECT_EQ(WorkPath("tAIB1005.bmp"), "/opt/icons/temp2/tAIB1005.bmp");
+}
+
+} // namespace
+} // namespace vypx::test

@@ -1,0 +1,142 @@
+#include "platform/Platform.h"
+
+#include "support/Files.h"
+#include "support/TempFolder.h"
+
+#include <fstream>
+#include <gtest/gtest.h>
+
+namespace vypx::test {
+
+namespace {
+
+namespace fs = std::filesystem;
+using platform::FileLock;
+
+Bytes TextBytes(std::string_view text) { return { text.begin(), text.end() }; }
+
+std::size_t FilesIn(const TempFolder& folder)
+{
+    return static_cast<std::size_t>(
+        std::distance(fs::directory_iterator(folder.Path()), fs::directory_iterator()));
+}
+
+TEST(ReadWholeFile, GivesAllBytes)
+{
+    const TempFolder folder;
+    const Bytes bytes{ 0, 13, 10, 255, 26, 0 };
+    WriteBytes(folder.File("a"), bytes);
+
+    EXPECT_EQ(platform::ReadWholeFile(folder.File("a")), bytes);
+}
+
+TEST(ReadWholeFile, RefusesMoreThanTheLimit)
+{
+    const TempFolder folder;
+    WriteText(folder.File("a"), "12345");
+
+    EXPECT_TRUE(platform::ReadWholeFile(folder.File("a"), 5));
+    EXPECT_FALSE(platform::ReadWholeFile(folder.File("a"), 4));
+}
+
+TEST(ReadWholeFile, ReadsNoFolderDeviceOrMissingFile)
+{
+    const TempFolder folder;
+
+    EXPECT_FALSE(platform::ReadWholeFile(folder.Path()));
+    EXPECT_FALSE(platform::ReadWholeFile(folder.File("missing")));
+    EXPECT_FALSE(platform::ReadWholeFile("/dev/zero"));
+}
+
+TEST(ReplaceFile, MakesAndReplacesAndLeavesNothingBeside)
+{
+    const TempFolder folder;
+
+    EXPECT_FALSE(platform::ReplaceFile(folder.File("a"), TextBytes("one")));
+    EXPECT_FALSE(platform::ReplaceFile(folder.File("a"), TextBytes("two")));
+
+    EXPECT_EQ(ReadText(folder.File("a")), "two");
+    EXPECT_EQ(FilesIn(folder), 1u);
+}
+
+TEST(ReplaceFile, FollowsASymbolicLinkAndKeepsIt)
+{
+    const TempFolder folder;
+    WriteText(folder.File("real"), "old");
+    fs::create_symlink("real", folder.File("link"));
+
+    EXPECT_FALSE(platform::ReplaceFile(folder.File("link"), TextBytes("new")));
+
+    EXPECT_TRUE(fs::is_symlink(folder.File("link")));
+    EXPECT_EQ(ReadText(folder.File("real")), "new");
+}
+
+TEST(ReplaceFile, KeepsPermissions)
+{
+    const TempFolder folder;
+    WriteText(folder.File("a"), "old");
+    const fs::perms mine = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read;
+    fs::permissions(folder.File("a"), mine);
+
+    EXPECT_FALSE(platform::ReplaceFile(folder.File("a"), TextBytes("new")));
+
+    EXPECT_EQ(fs::status(folder.File("a")).permissions(), mine);
+}
+
+TEST(ReplaceFile, AFailureIsNamedAndLeavesTheOldFile)
+{
+    const TempFolder folder;
+
+    EXPECT_TRUE(platform::ReplaceFile(folder.File("no/such/folder"), TextBytes("x")));
+    fs::create_directory(folder.File("sub"));
+    EXPECT_TRUE(platform::ReplaceFile(folder.File("sub"), TextBytes("x")));
+
+    EXPECT_TRUE(fs::is_directory(folder.File("sub")));
+    EXPECT_EQ(FilesIn(folder), 1u);
+}
+
+TEST(IdentityOf, AWriteChangesIt)
+{
+    const TempFolder folder;
+    WriteText(folder.File("a"), "one");
+    const auto before = platform::IdentityOf(folder.File("a"));
+
+    ASSERT_FALSE(platform::ReplaceFile(folder.File("a"), TextBytes("two")));
+
+    ASSERT_TRUE(before);
+    EXPECT_NE(platform::IdentityOf(folder.File("a")), before);
+    EXPECT_FALSE(platform::IdentityOf(folder.File("missing")));
+}
+
+TEST(FileLock, KeepsOthersOutUntilItGoes)
+{
+    const TempFolder folder;
+    FileLock second;
+    {
+        FileLock first;
+        EXPECT_EQ(first.TryLock(folder.File("l")), FileLock::Answer::Taken);
+        EXPECT_EQ(second.TryLock(folder.File("l")), FileLock::Answer::HeldByAnother);
+        EXPECT_FALSE(second.Held());
+    }
+    EXPECT_EQ(second.TryLock(folder.File("l")), FileLock::Answer::Taken);
+    EXPECT_TRUE(second.Held());
+}
+
+TEST(FileLock, FailsWhereNoFileCanBeMade)
+{
+    FileLock lock;
+
+    EXPECT_EQ(lock.TryLock("/nowhere/at/all"), FileLock::Answer::Failed);
+}
+
+TEST(FolderIsWritable, IsFoundOutByMakingAFileThatGoesAgain)
+{
+    const TempFolder folder;
+
+    EXPECT_TRUE(platform::FolderIsWritable(folder.Path()));
+    EXPECT_FALSE(platform::FolderIsWritable(folder.File("missing")));
+    EXPECT_EQ(FilesIn(folder), 0u);
+}
+
+} // namespace
+} // namespace vypx::test

@@ -1,0 +1,115 @@
+#include "reader/ExtractBitmaps.h"
+
+#include "reader/ResourceList.h"
+#include "support/LoadFixture.h"
+
+#include <gmock/gmock.h>
+
+namespace vypx::test {
+
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class ExtractBitmaps : public LoadFixture {
+protected:
+    void Keep(const Bytes& file)
+    {
+        FileCashe.assign(1, 0);
+        FileCashe.insert(FileCashe.end(), file.begin(), file.end());
+        FileCashe.push_back(0);
+        IconFileSize = static_cast<std::int32_t>(file.size() + 1);
+    }
+};
+
+TEST_F(ExtractBitmaps, TheLastResourceIsAByteLongerThanTheRestOfTheFile)
+{
+    Keep(Iconset{ .resources = { Icon(3500) } }.File());
+
+    vypx::ExtractBitmaps(listener);
+
+    Bytes expected{ 0 };
+    const Bytes record = LowRecord(8);
+    expected.insert(expected.end(), record.begin(), record.end());
+    expected.push_back(0);
+    EXPECT_EQ(ResourceBytes, expected);
+}
+
+TEST_F(ExtractBitmaps, AResourceReachesToTheNextOnesData)
+{
+    Keep(Iconset{ .resources = { Icon(3500), { "tver", 1000, { '1', 0 } } } }.File());
+
+    vypx::ExtractBitmaps(listener);
+
+    EXPECT_EQ(ResourceBytes.size(), LowRecord(8).size() + 1);
+}
+
+TEST_F(ExtractBitmaps, ASizeOutOfRangeIsToldAndTheResourceBehindItEndsThePass)
+{
+    Bytes file = Iconset{ .resources = { Icon(3500), Icon(3501), Icon(3502) } }.File();
+    PutU32(file, 78 + 6, 0x00FFFFFF);
+
+    Keep(file);
+    vypx::ExtractBitmaps(listener);
+
+    EXPECT_THAT(listener.messages,
+        ElementsAre("Error reading file.", "Error Number 0. Problem reading file."));
+    EXPECT_EQ(listener.steps.back(), "idle");
+}
+
+TEST_F(ExtractBitmaps, ASizeAboveTenMillionIsOutOfRange)
+{
+    Keep(Bytes(200, 0));
+    ResourceSize = MaxResourceSize + 1;
+
+    LoadBitmapResource(listener);
+
+    EXPECT_THAT(listener.messages, ElementsAre("Error reading file."));
+}
+
+TEST_F(ExtractBitmaps, ALastResourceOfNegativeSizeIsTold)
+{
+    Bytes file = Iconset{ .resources = { Icon(3500) } }.File();
+    PutU32(file, 78 + 6, 0x00FFFFFF);
+    Keep(file);
+
+    vypx::ExtractBitmaps(listener);
+
+    EXPECT_THAT(listener.messages, ElementsAre("Error reading file."));
+}
+
+TEST_F(ExtractBitmaps, OnPurposeTheHighestByteOfAnOffsetCountsAMebibyte)
+{
+    Bytes file = Iconset{ .resources = { Icon(3500) } }.File();
+    PutU32(file, 78 + 6, 0x02000003);
+    Keep(file);
+
+    EXPECT_EQ(ReadDataOffset(FirstEntryIndex), 2 * 0x100000 + 3);
+}
+
+TEST_F(ExtractBitmaps, ProgressStopsAtWhatWasCounted)
+{
+    BitmapCount = 2;
+    ProgressCount = 0;
+
+    ProgBar(listener);
+    ProgBar(listener);
+    ProgBar(listener);
+
+    EXPECT_THAT(listener.steps, ElementsAre("progress:1", "progress:2"));
+}
+
+TEST_F(ExtractBitmaps, DuplicateResourceKeepsAllPicturesOut)
+{
+    Keep(Iconset{ .resources = { Icon(3500) } }.File());
+    DuplicateResource = true;
+
+    vypx::ExtractBitmaps(listener);
+
+    DuplicateResource = false;
+    EXPECT_THAT(listener.steps, IsEmpty());
+}
+
+} // namespace
+} // namespace vypx::test

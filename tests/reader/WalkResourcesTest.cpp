@@ -1,0 +1,300 @@
+#include "reader/WalkResources.h"
+
+#include "support/LoadFixture.h"
+
+#include <gmock/gmock.h>
+
+namespace vypx::test {
+
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+constexpr const char* Duplicate = "Warning, file contains a duplicate resource!";
+
+class WalkResources : public LoadFixture {
+protected:
+    WalkResources()
+    {
+        AppTable = { {}, { "Alpha", "appl", "ALPH", "" }, { "Beta", "appl", "BETA", "" } };
+        PalmTable = { {}, { "Palm Clock", "appl", "CLCK", "" } };
+        VYTable = { {}, { "Launcher (Large Icon)", "2000", "" },
+            { "Launcher (Small Icon)", "2001", "" } };
+    }
+};
+
+TEST_F(WalkResources, WithoutAnIndexEveryBitmapIsUnknownWithAnEmptyNote)
+{
+    Open(Iconset{ .resources = { Icon(3500), Icon(3501, "Tbmp"), Icon(3502, "abmp") } }.File());
+
+    EXPECT_THAT(Labels(), ElementsAre("tAIB3500 () ", "Tbmp3501 () ", "abmp3502 () "));
+    for (const IconRow& row : IconTable) {
+        EXPECT_EQ(row.IconKind, "UNKNOWN");
+        EXPECT_EQ(row.IconState, 1);
+        EXPECT_EQ(Tree.Find(row.IconLabel)->image, ImageUnknown);
+    }
+}
+
+TEST_F(WalkResources, OtherTypesGetNoRow)
+{
+    Open(Iconset{ .resources = { { "tver", 1000, { '1', 0 } }, Icon(3500), { "TBMP", 1, {} } } }
+             .File());
+
+    EXPECT_THAT(Labels(), ElementsAre("tAIB3500 () "));
+}
+
+TEST_F(WalkResources, AnApplicationKnowsItsLargeAndItsSmallIcon)
+{
+    Open(Iconset{ .resources = { Index({ IndexRecord("appl", "ALPH", 3500, 3501) }), Icon(3500),
+                      Icon(3501) } }
+             .File());
+
+    EXPECT_THAT(Labels(), ElementsAre("Alpha (Large Icon)", "Alpha (Small Icon)"));
+    EXPECT_EQ(IconTable[0].IconKind, "APP");
+    EXPECT_EQ(IconTable[0].ResourceKey, "tAIB3500");
+    EXPECT_EQ(IconTable[1].ResourceKey, "tAIB3501");
+    EXPECT_EQ(Tree.Find("Alpha (Large Icon)")->image, ImageApp);
+}
+
+TEST_F(WalkResources, ASystemItemIsPalm)
+{
+    Open(Iconset{ .resources = { Index({ IndexRecord("appl", "CLCK", 3500, 0) }), Icon(3500) } }
+             .File());
+
+    EXPECT_THAT(Labels(), ElementsAre("Palm Clock (Large Icon)"));
+    EXPECT_EQ(IconTable[0].IconKind, "PALM");
+    EXPECT_EQ(Tree.Find("Palm Clock (Large Icon)")->image, ImagePalm);
+}
+
+TEST_F(WalkResources, TypeAndCreatorBothCount)
+{
+    Open(Iconset{ .resources = { Index({ IndexRecord("panl", "ALPH", 3500, 0),
+                                     IndexRecord("appl", "alph", 3501, 0) }),
+                      Icon(3500), Icon(3501) } }
+             .File());
+
+    EXPECT_THAT(Labels(), ElementsAre("tAIB3500 (ALPH - Large) ", "tAIB3501 (alph - Large) "));
+}
+
+TEST_F(WalkResources, ALauncherIconNeverAsksTheIndex)
+{
+    Open(Iconset{
+        .resources = { Index({ IndexRecord("appl", "ALPH", 2000, 0) }), Icon(2000), Icon(2001) } }
+             .File());
+
+    EXPECT_THAT(Labels(), ElementsAre("Launcher (Large Icon)", "Launcher (Small Icon)"));
+    EXPECT_EQ(IconTable[0].IconKind, "VY");
+    EXPECT_EQ(Tree.Find("Launcher (Large Icon)")->image, ImageVY);
+}
+
+TEST_F(WalkResources, LauncherIdsAreComparedAsNumbers)
+{
+    VYTable = { {}, { "Zeros", "02000", "" }, { "Blank", " 2001", "" }, { "Words", "x", "" } };
+
+    Open(Iconset{ .resources = { Icon(2000), Icon(2001), Icon(0) } }.File());
+
+    EXPECT_THAT(Labels(), ElementsAre("Zeros", "Blank", "tAIB0 () "));
+}
+
+TEST_F(WalkResources, EveryLauncherEntryWithTheIdGetsARow)
+{
+    VYTable = { {}, { "One", "2000", "" }, { "Two", "2000", "" } };
+
+    Open(Iconset{ .resources = { Icon(2000) } }.File());
+
+    EXPECT_THAT(Labels(), ElementsAre("One", "Two"));
+}
+
+TEST_F(WalkResources, TwoApplicationsWithOneIdShareOneResource)
+{
+    Open(Iconset{ .resources = { Index({ IndexRecord("appl", "ALPH", 3500, 0),
+                                     IndexRecord("appl", "BETA", 3500, 0) }),
+                      Icon(3500) } }
+             .File());
+
+    EXPECT_THAT(Labels(), ElementsAre("Alpha (Large Icon)", "Beta (Large Icon)"));
+    EXPECT_EQ(IconTable[0].ResourceKey, "tAIB3500");
+    EXPECT_EQ(IconTable[1].ResourceKey, "tAIB3500");
+    EXPECT_EQ(IconTable[0].LowResFile, IconTable[1].LowResFile);
+}
+
+TEST_F(WalkResources, OneResourceCanBeLargeAndSmall)
+{
+    Open(Iconset{ .resources = { Index({ IndexRecord("appl", "BETA", 3500, 3500),
+                                     IndexRecord("appl", "ALPH", 3500, 0),
+                                     IndexRecord("appl", "CLCK", 3500, 3500) }),
+                      Icon(3500) } }
+             .File());
+
+    EXPECT_THAT(
+        Labels(), ElementsAre("Beta (Large Icon)", "Alpha (Large Icon)", "Beta (Small Icon)"))
+        << "a file has room for two rows for each resource and one more";
+}
+
+TEST_F(WalkResources, OnPurposeTheRowBeyondTwiceTheResourcesEndsTheWalkSilently)
+{
+    AppTable = { {}, { "A", "appl", "AAAA", "" }, { "B", "appl", "BBBB", "" },
+        { "C", "appl", "CCCC", "" }, { "D", "appl", "DDDD", "" }, { "E", "appl", "EEEE", "" },
+        { "F", "appl", "FFFF", "" } };
+
+    EXPECT_EQ(Open(Iconset{ .resources = { Index({ IndexRecord("appl", "AAAA", 3500, 0),
+                                               IndexRecord("appl", "BBBB", 3500, 0),
+                                               IndexRecord("appl", "CCCC", 3500, 0),
+                                               IndexRecord("appl", "DDDD", 3500, 0),
+                                               IndexRecord("appl", "EEEE", 3500, 0),
+                                               IndexRecord("appl", "FFFF", 3500, 0) }),
+                                Icon(3500) } }
+                       .File()),
+        LoadResult::Opened);
+
+    EXPECT_EQ(IconTable.size(), 5u);
+    EXPECT_THAT(listener.messages, IsEmpty());
+}
+
+TEST_F(WalkResources, AnUnlistedOwnerIsUnknownWithCreatorAndSize)
+{
+    Open(Iconset{ .resources = { Index({ IndexRecord("appl", "QQQQ", 3500, 3501),
+                                     IndexRecord("appl", "RRRR", 3502, 3502) }),
+                      Icon(3500), Icon(3501), Icon(3502) } }
+             .File());
+
+    EXPECT_THAT(Labels(),
+        ElementsAre("Beta (Large Icon)", "Alpha (Large Icon)", "Beta (Small Icon)",
+            "Palm Clock (Large Icon)", "Palm Clock (Small Icon)"));
+}
+
+TEST_F(WalkResources, TheLastUnlistedOwnerGivesTheNote)
+{
+    Open(Iconset{ .resources = { Index({ IndexRecord("appl", "QQQQ", 3500, 3500),
+                                     IndexRecord("appl", "RRRR", 3500, 0) }),
+                      Icon(3500) } }
+             .File());
+
+    EXPECT_THAT(Labels(), ElementsAre("tAIB3500 (QQQQ - Small) "));
+}
+
+TEST_F(WalkResources, ABitmapThatNoRecordNamesIsAnOrphan)
+{
+    Open(Iconset{ .resources = { Index({ IndexRecord("appl", "ALPH", 1, 2) }), Icon(3500) } }
+             .File());
+
+    EXPECT_THAT(Labels(), ElementsAre("tAIB3500 (Orphan) "));
+    EXPECT_EQ(IconTable[0].IconKind, "DELETE");
+    EXPECT_EQ(IconTable[0].IconState, 0);
+    EXPECT_EQ(Tree.Nodes()[0].image, ImageDelete);
+    EXPECT_EQ(Tree.Nodes()[0].colour, Red);
+}
+
+TEST_F(WalkResources, AnIdOf0MatchesNothingEmpty)
+{
+    Open(Iconset{ .resources = { Index({ IndexRecord("appl", "ALPH", 3500, 3501) }), Icon(0) } }
+             .File());
+
+    EXPECT_THAT(Labels(), ElementsAre("tAIB0 (Orphan) "));
+}
+
+TEST_F(WalkResources, AnIdOf0InARecordNamesAResourceWithTheId0)
+{
+    Open(Iconset{ .resources = { Index({ IndexRecord("appl", "ALPH", 3500, 0) }), Icon(0) } }
+             .File());
+
+    EXPECT_THAT(Labels(), ElementsAre("Alpha (Small Icon)"));
+}
+
+TEST_F(WalkResources, CatalogRowsWithoutANameNeverMatch)
+{
+    AppTable = { {}, { "", "appl", "ALPH", "" } };
+    VYTable = { {}, { "", "2000", "" } };
+
+    Open(Iconset{
+        .resources = { Index({ IndexRecord("appl", "ALPH", 3500, 0) }), Icon(3500), Icon(2000) } }
+             .File());
+
+    EXPECT_THAT(Labels(), ElementsAre("tAIB3500 (ALPH - Large) ", "tAIB2000 (Orphan) "));
+}
+
+TEST_F(WalkResources, AnIndexAtTheEndIsFoundBeforeAnyRowIsMade)
+{
+    std::vector<std::size_t> rowsAtPictures;
+    Open(Iconset{ .resources = { Icon(3500), Icon(3501),
+                      Index({ IndexRecord("appl", "ALPH", 3500, 3501) }) } }
+             .File());
+
+    EXPECT_THAT(Labels(), ElementsAre("Alpha (Large Icon)", "Alpha (Small Icon)"));
+    EXPECT_EQ(BmpTotalNum, 2) << "the first pass counts nothing";
+}
+
+TEST_F(WalkResources, ASecondIndexIsNotRead)
+{
+    Open(Iconset{ .resources = { Index({ IndexRecord("appl", "ALPH", 3500, 0) }),
+                      { "iTbl", 1001, IndexRecord("appl", "BETA", 3500, 0) }, Icon(3500) } }
+             .File());
+
+    EXPECT_THAT(Labels(), ElementsAre("Alpha (Large Icon)"));
+    EXPECT_EQ(Itbl.size(), 2u);
+}
+
+TEST_F(WalkResources, TheSameResourceTwiceHasOneRowButItsBitmapsCountAgain)
+{
+    Open(Iconset{ .resources = { Icon(3500), Icon(3500) } }.File());
+
+    EXPECT_THAT(Labels(), ElementsAre("tAIB3500 () "));
+    EXPECT_EQ(BmpTotalNum, 2);
+    EXPECT_EQ(TotalBmpResources, 1);
+    EXPECT_THAT(listener.messages, IsEmpty());
+}
+
+TEST_F(WalkResources, ANodeWithTheRootsNameIsRetriedAsADuplicate)
+{
+    Open(Iconset{ .name = "tAIB3500 () ", .resources = { Icon(3500) } }.File());
+
+    EXPECT_THAT(listener.messages, ElementsAre(Duplicate));
+    EXPECT_THAT(Labels(), ElementsAre("tAIB3500(Dup) () "));
+    EXPECT_EQ(IconTable[0].ResourceKey, "tAIB3500(Dup)");
+}
+
+TEST_F(WalkResources, ACatalogLabelThatIsTakenIsToldOnceAndPassedOver)
+{
+    Open(Iconset{ .resources = { Index({ IndexRecord("appl", "ALPH", 3500, 0),
+                                     IndexRecord("appl", "ALPH", 3501, 0) }),
+                      Icon(3500), Icon(3501), Icon(3502) } }
+             .File());
+
+    EXPECT_THAT(listener.messages, ElementsAre(Duplicate));
+    EXPECT_THAT(Labels(),
+        ElementsAre("Alpha (Large Icon)", "tAIB3501 (ALPH - Large) ", "tAIB3502 (Orphan) "));
+}
+
+TEST_F(WalkResources, ALauncherLabelThatIsTakenIsToldOnceAndPassedOver)
+{
+    VYTable = { {}, { "Same", "2000", "" }, { "Same", "2001", "" } };
+
+    Open(Iconset{ .resources = { Icon(2000), Icon(2001) } }.File());
+
+    EXPECT_THAT(listener.messages, ElementsAre(Duplicate));
+    EXPECT_THAT(Labels(), ElementsAre("Same", "tAIB2001 () "));
+}
+
+TEST_F(WalkResources, AListThatEndsTooEarlyKeepsWhatWasFound)
+{
+    Bytes file = Iconset{ .resources = { Icon(3500) } }.File();
+    PutU16(file, 76, 60);
+    file.resize(88); // header and one entry
+
+    EXPECT_EQ(Open(file), LoadResult::Failed) << "the pictures can't be read either";
+
+    EXPECT_THAT(listener.messages, IsEmpty());
+    EXPECT_THAT(NodeKeys(), ElementsAre("tAIB3500 () "));
+    EXPECT_FALSE(FileLoaded);
+}
+
+TEST_F(WalkResources, TheNumberIsReadWithoutASign)
+{
+    Open(Iconset{ .resources = { Icon(65535), Icon(32768) } }.File());
+
+    EXPECT_THAT(Labels(), ElementsAre("tAIB65535 () ", "tAIB32768 () "));
+}
+
+} // namespace
+} // namespace vypx::test

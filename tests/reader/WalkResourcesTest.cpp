@@ -127,9 +127,9 @@ TEST_F(WalkResources, OneResourceCanBeLargeAndSmall)
                       Icon(3500) } }
              .File());
 
-    EXPECT_THAT(
-        Labels(), ElementsAre("Beta (Large Icon)", "Alpha (Large Icon)", "Beta (Small Icon)"))
-        << "a file has room for two rows for each resource and one more";
+    EXPECT_THAT(Labels(),
+        ElementsAre("Beta (Large Icon)", "Alpha (Large Icon)", "Beta (Small Icon)",
+            "Palm Clock (Large Icon)", "Palm Clock (Small Icon)"));
 }
 
 TEST_F(WalkResources, OnPurposeTheRowBeyondTwiceTheResourcesEndsTheWalkSilently)
@@ -160,8 +160,9 @@ TEST_F(WalkResources, AnUnlistedOwnerIsUnknownWithCreatorAndSize)
              .File());
 
     EXPECT_THAT(Labels(),
-        ElementsAre("Beta (Large Icon)", "Alpha (Large Icon)", "Beta (Small Icon)",
-            "Palm Clock (Large Icon)", "Palm Clock (Small Icon)"));
+        ElementsAre(
+            "tAIB3500 (QQQQ - Large) ", "tAIB3501 (QQQQ - Small) ", "tAIB3502 (RRRR - Small) "));
+    EXPECT_EQ(IconTable[0].IconKind, "UNKNOWN");
 }
 
 TEST_F(WalkResources, TheLastUnlistedOwnerGivesTheNote)
@@ -278,14 +279,17 @@ TEST_F(WalkResources, ALauncherLabelThatIsTakenIsToldOnceAndPassedOver)
 
 TEST_F(WalkResources, AListThatEndsTooEarlyKeepsWhatWasFound)
 {
-    Bytes file = Iconset{ .resources = { Icon(3500) } }.File();
+    constexpr std::size_t ListStart = 78, Entry = 10, Offset = 6, End = ListStart + 2 * Entry;
+    Bytes file = Iconset{ .resources = { Index({}), Icon(3500) } }.File();
     PutU16(file, 76, 60);
-    file.resize(88); // header and one entry
+    PutU32(file, ListStart + Offset, End); // an index without records
+    PutU32(file, ListStart + Entry + Offset, End);
+    file.resize(End);
 
     EXPECT_EQ(Open(file), LoadResult::Failed) << "the pictures can't be read either";
 
     EXPECT_THAT(listener.messages, IsEmpty());
-    EXPECT_THAT(NodeKeys(), ElementsAre("tAIB3500 () "));
+    EXPECT_THAT(NodeKeys(), ElementsAre("tAIB3500 (Orphan) "));
     EXPECT_FALSE(FileLoaded);
 }
 

@@ -1,0 +1,68 @@
+#include "Tool.h"
+#include "support/Files.h"
+#include "support/TempFolder.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+
+/// Every file of tests/data/iconsets against NAME.expected.json, which was worked out by other
+/// means than ours (see the README there).
+namespace vypx::test {
+
+namespace {
+
+using nlohmann::json;
+
+std::vector<std::string> SampleNames()
+{
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(TestData("iconsets")))
+        if (entry.path().extension() == ".prc")
+            names.push_back(entry.path().stem());
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+/// Resource keys in the order of their first row. Rows that share a key are told apart by the
+/// catalogs, which are not read yet.
+std::vector<std::string> KeysOf(const json& document)
+{
+    std::vector<std::string> keys;
+    for (const json& icon : document["icons"])
+        if (std::find(keys.begin(), keys.end(), icon["resourceKey"]) == keys.end())
+            keys.push_back(icon["resourceKey"]);
+    return keys;
+}
+
+class Samples : public ::testing::TestWithParam<std::string> { };
+
+TEST_P(Samples, OpenAsExpected)
+{
+    const TempFolder folder;
+    const json expected =
+        json::parse(ReadText(TestData("iconsets/" + GetParam() + ".expected.json")));
+
+    const ToolRun run = RunTool({ "dump", TestData("iconsets/" + GetParam() + ".prc"),
+        "--app-folder", TestData("iconsets/catalogs"), "--work", folder.File("work") });
+
+    EXPECT_EQ(run.exitCode, 0);
+    const json document = run.Json();
+    EXPECT_EQ(document["loaded"], expected["loaded"]);
+    EXPECT_EQ(document["databaseName"], expected["databaseName"]);
+    // Only launcher icons are found in that one, and only by a catalog.
+    if (GetParam() != "bad-index") {
+        EXPECT_EQ(KeysOf(document), KeysOf(expected));
+    }
+}
+
+std::string TestName(const ::testing::TestParamInfo<std::string>& sample)
+{
+    std::string name = sample.param;
+    std::replace(name.begin(), name.end(), '-', '_');
+    return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Iconsets, Samples, ::testing::ValuesIn(SampleNames()), TestName);
+
+} // namespace
+} // namespace vypx::test

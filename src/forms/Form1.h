@@ -34,11 +34,10 @@ public:
     /// From the first step to the idle main window. Folders are the platform's own paths.
     void StartUp(const QString& programFolder, const QString& userFolder);
 
-    /// Leaves the program: at once, without a question about changes.
+    /// Leaves the program: at once, without a question about changes; during a load at its end.
     void ExitProgram();
 
-    /// A window asks whether it may close. During a load the answer is no, and the exit follows
-    /// the load; else the exit runs first.
+    /// A window asks whether it may close, which means the exit.
     bool MayClose();
 
     /// Asks for an iconset, or takes the one that is waiting, and opens it.

@@ -9,6 +9,10 @@ namespace vypx {
 /// On purpose: there is no question about unsaved changes.
 void Form1::ExitProgram()
 {
+    if (m_loading) {
+        m_closeAfterLoad = true;
+        return;
+    }
     if (m_exited)
         return;
     m_exited = true;
@@ -20,12 +24,8 @@ void Form1::ExitProgram()
 
 bool Form1::MayClose()
 {
-    if (m_loading) {
-        m_closeAfterLoad = true;
-        return false;
-    }
     ExitProgram();
-    return true;
+    return m_exited;
 }
 
 void Form1::closeEvent(QCloseEvent* event) { event->setAccepted(MayClose()); }

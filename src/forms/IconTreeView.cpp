@@ -3,23 +3,19 @@
 #include "forms/Look.h"
 #include "forms/Text.h"
 
+#include <algorithm>
 #include <memory>
 
 namespace vypx {
 
 namespace {
 
-class IconItem : public QTreeWidgetItem {
-public:
-    using QTreeWidgetItem::QTreeWidgetItem;
-
-    bool operator<(const QTreeWidgetItem& other) const override
-    {
-        const QString mine = text(0), others = other.text(0);
-        const int order = mine.compare(others, Qt::CaseInsensitive);
-        return order != 0 ? order < 0 : mine < others;
-    }
-};
+bool StandsBefore(const QTreeWidgetItem* left, const QTreeWidgetItem* right)
+{
+    const QString mine = left->text(0), others = right->text(0);
+    const int order = mine.compare(others, Qt::CaseInsensitive);
+    return order != 0 ? order < 0 : mine < others;
+}
 
 } // namespace
 
@@ -55,18 +51,18 @@ void IconTreeView::Fill(const IconTree& tree)
     m_byKey.clear();
     if (!tree.HasRoot())
         return;
-    auto root = std::make_unique<IconItem>(QStringList(Shown(tree.Root())));
+    auto root = std::make_unique<QTreeWidgetItem>(QStringList(Shown(tree.Root())));
     Dress(*root, ImageRoot, Black);
     QList<QTreeWidgetItem*> children;
     children.reserve(static_cast<qsizetype>(tree.Nodes().size()));
     for (const IconNode& node : tree.Nodes()) {
-        auto child = std::make_unique<IconItem>(QStringList(Shown(node.key)));
+        auto child = std::make_unique<QTreeWidgetItem>(QStringList(Shown(node.key)));
         Dress(*child, node.image, node.colour);
         m_byKey.insert(Shown(node.key), child.get());
         children.append(child.release());
     }
+    std::sort(children.begin(), children.end(), StandsBefore);
     root->addChildren(children);
-    root->sortChildren(0, Qt::AscendingOrder);
     QTreeWidgetItem* const shown = root.get();
     addTopLevelItem(root.release());
     shown->setExpanded(true);

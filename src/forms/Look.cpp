@@ -1,5 +1,6 @@
 #include "forms/Look.h"
 
+#include <QApplication>
 #include <QPalette>
 #include <QWidget>
 
@@ -46,9 +47,10 @@ QGroupBox::title {
 
 } // namespace
 
+void UseLightColours() { QApplication::setPalette(LightPalette()); }
+
 void PaintChrome(QWidget& window)
 {
-    window.setPalette(LightPalette());
     window.setAutoFillBackground(true);
     window.setStyleSheet(GroupBoxes);
 }

@@ -28,6 +28,7 @@ QIcon ProgramIcon()
 MDIForm1::MDIForm1(Ask& ask)
     : m_ui(std::make_unique<Ui::MDIForm1>())
 {
+    UseLightColours();
     m_ui->setupUi(this);
     setWindowIcon(ProgramIcon());
     setAcceptDrops(true);

@@ -1,0 +1,85 @@
+#include "WindowFixture.h"
+
+#include <QMdiSubWindow>
+
+namespace vypx::test {
+
+namespace {
+
+class Exit : public WindowFixture {
+protected:
+    Exit()
+    {
+        Start();
+        for (const char* name : { "a.bmp", "A.BMP.BAK", "c.Bin", "keep.txt" })
+            WriteText(WorkPath(name), "x");
+    }
+
+    /// Working files are gone and no window stands: the program has been left.
+    void ExpectLeft()
+    {
+        EXPECT_FALSE(FileExists(WorkPath("a.bmp")));
+        EXPECT_FALSE(FileExists(WorkPath("A.BMP.BAK")));
+        EXPECT_FALSE(FileExists(WorkPath("c.Bin")));
+        EXPECT_TRUE(FileExists(WorkPath("keep.txt")));
+        EXPECT_TRUE(DirExists(WorkFolder()));
+        EXPECT_FALSE(frame->isVisible());
+    }
+};
+
+TEST_F(Exit, DeletesWorkingFilesAndKeepsTheFolder)
+{
+    Entry("mnuExit").trigger();
+
+    ExpectLeft();
+}
+
+TEST_F(Exit, TheFramesCloseButtonLeavesToo)
+{
+    EXPECT_TRUE(frame->close());
+
+    ExpectLeft();
+}
+
+TEST_F(Exit, TheFormsCloseButtonLeavesToo)
+{
+    frame->findChild<QMdiSubWindow*>()->close();
+
+    ExpectLeft();
+}
+
+TEST_F(Exit, OnPurposeAsksNothingAboutUnsavedChanges)
+{
+    FileLoaded = IconsetChanged = true;
+
+    Entry("mnuExit").trigger();
+
+    ExpectLeft();
+    EXPECT_TRUE(ask.shown.empty());
+}
+
+TEST_F(Exit, TheFolderOfACopyWithANumberStaysWithoutItsWorkingFiles)
+{
+    MDIForm1 second(ask);
+    second.Start(QString::fromStdString(program.Path()), {});
+    WriteText(WorkPath("a.bmp"), "x");
+
+    second.close();
+
+    EXPECT_TRUE(DirExists(program.File("temp1")));
+    EXPECT_FALSE(FileExists(program.File("temp1/a.bmp")));
+    EXPECT_TRUE(FileExists(program.File("temp/a.bmp"))) << "the first copy's files are its own";
+}
+
+TEST_F(Exit, FreesTheCopysPlace)
+{
+    Entry("mnuExit").trigger();
+    RunningCopies next;
+
+    next.Enter(program.Path());
+
+    EXPECT_FALSE(next.AnotherRan());
+}
+
+} // namespace
+} // namespace vypx::test

@@ -1,0 +1,145 @@
+#include "WindowFixture.h"
+
+#include <QMdiSubWindow>
+
+namespace vypx::test {
+
+namespace {
+
+class StartUp : public WindowFixture { };
+
+TEST_F(StartUp, MakesTheWorkingFolder)
+{
+    Start();
+
+    EXPECT_EQ(AppFolder, program.Path());
+    EXPECT_EQ(WorkFolder(), program.File("temp"));
+    EXPECT_TRUE(DirExists(program.File("temp")));
+    EXPECT_EQ(InstanceNumber, 0);
+}
+
+TEST_F(StartUp, KeepsAWorkingFolderThatIsThere)
+{
+    MakeFolder(program.File("temp"));
+    WriteText(program.File("temp/notes.txt"), "mine");
+
+    Start();
+
+    EXPECT_EQ(ReadText(program.File("temp/notes.txt")), "mine");
+}
+
+TEST_F(StartUp, GivesFurtherCopiesFoldersOfTheirOwn)
+{
+    Start();
+    MDIForm1 second(ask);
+
+    second.Start(QString::fromStdString(program.Path()), {});
+
+    EXPECT_EQ(InstanceNumber, 1);
+    EXPECT_EQ(WorkFolder(), program.File("temp1"));
+    EXPECT_TRUE(DirExists(program.File("temp1")));
+
+    MDIForm1 third(ask);
+    third.Start(QString::fromStdString(program.Path()), {});
+    EXPECT_EQ(WorkFolder(), program.File("temp2"));
+}
+
+TEST_F(StartUp, ACrashedCopyIsNotBelievedToRun)
+{
+    WriteText(program.File("copy0.lock"), "");
+
+    Start();
+
+    EXPECT_EQ(InstanceNumber, 0);
+}
+
+TEST_F(StartUp, DisablesWhatNeedsADocument)
+{
+    Start();
+
+    for (const QString name : { "mnuCloseIconset", "mnuSave", "mnuSaveandInstall", "mnuSaveAs",
+             "mnuExportTemplate", "mnuRemoveLR", "mnuRemoveHR", "mnuPasteLG", "mnuPasteSM" })
+        EXPECT_FALSE(Entry(name).isEnabled()) << name.toStdString();
+}
+
+TEST_F(StartUp, ShowsBothPanelsAndTheDepth)
+{
+    DefaultColorDepth = "8-Bit";
+
+    Start();
+
+    EXPECT_EQ(Find<QLabel>("lblTargetCD").text(), "8-Bit");
+    EXPECT_TRUE(Find<QWidget>("frameLG").isVisible());
+    EXPECT_TRUE(Find<QWidget>("frameSM").isVisible());
+    EXPECT_TRUE(Entry("mnuShowBoth").isChecked());
+}
+
+TEST_F(StartUp, ShowsOnlyTheHighResPanelByOption)
+{
+    HighResOnly = true;
+
+    Start();
+
+    EXPECT_TRUE(Find<QWidget>("frameLG").isVisible());
+    EXPECT_FALSE(Find<QWidget>("frameSM").isVisible());
+    EXPECT_TRUE(Entry("mnuHideLowRes").isChecked());
+}
+
+TEST_F(StartUp, ShowsOnlyTheLowResPanelByOption)
+{
+    LowResOnly = true;
+
+    Start();
+
+    EXPECT_FALSE(Find<QWidget>("frameLG").isVisible());
+    EXPECT_TRUE(Find<QWidget>("frameSM").isVisible());
+    EXPECT_TRUE(Entry("mnuHideHighRes").isChecked());
+}
+
+TEST_F(StartUp, TheFrameTakesItsSizeInTwips)
+{
+    MainWinWidth = 15000;
+    MainWinHeight = 10500;
+
+    Start();
+
+    EXPECT_EQ(frame->size(), QSize(1000, 700));
+}
+
+TEST_F(StartUp, TheFormStandsInTheFramesCorner)
+{
+    Start();
+
+    EXPECT_EQ(frame->findChild<QMdiSubWindow*>()->pos(), QPoint(0, 0));
+}
+
+TEST_F(StartUp, TheTreeIsEmptyAndHasTheFocus)
+{
+    Start();
+
+    EXPECT_EQ(Nodes().Root(), nullptr);
+    EXPECT_EQ(frame->focusWidget(), &Nodes());
+}
+
+TEST_F(StartUp, AProgramFolderThatCannotBeWrittenGivesWayToTheUsers)
+{
+    frame = std::make_unique<MDIForm1>(ask);
+
+    frame->Start(QString::fromStdString(program.File("missing/program")),
+        QString::fromStdString(program.File("user")));
+
+    EXPECT_EQ(AppFolder, program.File("user"));
+    EXPECT_TRUE(DirExists(program.File("user/temp")));
+}
+
+TEST_F(StartUp, AWorkingFolderThatCannotBeMadeIsNotCaught)
+{
+    WriteText(program.File("temp"), "a file in the way");
+    frame = std::make_unique<MDIForm1>(ask);
+
+    EXPECT_THROW(frame->Start(QString::fromStdString(program.Path()), {}),
+        std::filesystem::filesystem_error);
+}
+
+} // namespace
+} // namespace vypx::test

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "document/Catalogs.h"
+#include "document/Document.h"
+#include "document/WorkingFolder.h"
+#include "forms/Form1.h"
+#include "forms/IconTreeView.h"
+#include "forms/MDIForm1.h"
+#include "settings/Settings.h"
+#include "support/Files.h"
+#include "support/Iconsets.h"
+#include "support/ScriptedAsk.h"
+#include "support/TempFolder.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QTest>
+#include <memory>
+
+namespace vypx::test {
+
+/// The program in a fresh folder, not started yet.
+class WindowFixture : public ::testing::Test {
+protected:
+    WindowFixture()
+    {
+        SetDefaultSettings();
+        ResetDocument();
+        ResetCatalogs();
+    }
+
+    void Start()
+    {
+        frame = std::make_unique<MDIForm1>(ask);
+        frame->Start(QString::fromStdString(program.Path()), {});
+    }
+
+    template <typename T>
+    T& Find(const QString& name)
+    {
+        T* const found = frame->findChild<T*>(name);
+        if (!found)
+            throw std::runtime_error("no such control: " + name.toStdString());
+        return *found;
+    }
+    QAction& Entry(const QString& name) { return Find<QAction>(name); }
+    IconTreeView& Nodes() { return Find<IconTreeView>("TreeView1"); }
+    QString Status(int panel)
+    {
+        return Find<QLabel>("StatusBar1_Panel" + QString::number(panel)).text();
+    }
+    QStringList NodeTexts()
+    {
+        QStringList texts;
+        for (int i = 0; Nodes().Root() && i < Nodes().Root()->childCount(); ++i)
+            texts << Nodes().Root()->child(i)->text(0);
+        return texts;
+    }
+
+    /// A file in the program's folder.
+    QString Written(const Bytes& file, const std::string& name = "set.prc")
+    {
+        WriteBytes(program.File(name), file);
+        return QString::fromStdString(program.File(name));
+    }
+    /// Chooses File > Open and this file.
+    void Open(const QString& path)
+    {
+        ask.Choose(path);
+        Entry("mnuOpen").trigger();
+    }
+    QStringList Messages() const
+    {
+        QStringList texts;
+        for (const Box& box : ask.shown)
+            texts << box.text;
+        return texts;
+    }
+
+    TempFolder program;
+    ScriptedAsk ask;
+    std::unique_ptr<MDIForm1> frame;
+};
+
+/// A picture resource of one pixel.
+inline Resource Picture(int id, const std::string& type = "tAIB")
+{
+    return { .type = type, .id = id, .data = LowRecord(8) };
+}
+
+} // namespace vypx::test

@@ -1,0 +1,104 @@
+#include "settings/IniStore.h"
+
+#include "platform/Platform.h"
+
+#include <chrono>
+#include <filesystem>
+#include <map>
+
+namespace vypx {
+
+namespace {
+
+using platform::FileIdentity;
+
+/// A file as it was read, and its identity then.
+struct Kept {
+    std::optional<FileIdentity> identity;
+    std::vector<std::uint8_t> bytes;
+    std::shared_ptr<const IniText> text = std::make_shared<const IniText>();
+    bool sure = false; ///< the identity tells every later write from this state
+};
+
+std::string_view AsText(const std::vector<std::uint8_t>& bytes)
+{
+    return { reinterpret_cast<const char*>(bytes.data()), bytes.size() };
+}
+
+/// A file's times advance in ticks of some milliseconds. A second write within the tick of the
+/// first could leave the same size and times; a file that has rested for longer can't be written
+/// without another time.
+bool HasRested(const FileIdentity& file)
+{
+    using namespace std::chrono;
+    constexpr nanoseconds Rest = milliseconds(20);
+    const nanoseconds now = system_clock::now().time_since_epoch();
+    return now - nanoseconds(file.changed) > Rest && now - nanoseconds(file.modified) > Rest;
+}
+
+/// Whether a write would do, for a file that already reads as it should.
+bool CanBeReplaced(const std::string& path)
+{
+    std::error_code error;
+    const std::filesystem::path file =
+        std::filesystem::canonical(platform::NativePath(path), error);
+    return !error && platform::FolderIsWritable(platform::Utf8Path(file.parent_path()));
+}
+
+std::map<std::string, Kept>& AllKept()
+{
+    static std::map<std::string, Kept> kept;
+    return kept;
+}
+
+/// The newest state of the file. Its identity is taken before the bytes, so that a write in between
+/// is noticed by the next look.
+Kept& Look(const std::string& path)
+{
+    Kept& kept = AllKept()[path];
+    const std::optional<FileIdentity> identity = platform::IdentityOf(path);
+    if (identity && kept.sure && kept.identity == identity)
+        return kept;
+
+    std::optional<std::vector<std::uint8_t>> bytes;
+    if (identity)
+        bytes = platform::ReadWholeFile(path, MaxIniSize);
+    kept.sure = bytes && HasRested(*identity);
+    kept.identity = bytes ? identity : std::nullopt;
+    if (!bytes)
+        bytes.emplace();
+    if (*bytes != kept.bytes) {
+        kept.text = std::make_shared<const IniText>(AsText(*bytes));
+        kept.bytes = std::move(*bytes);
+    }
+    return kept;
+}
+
+} // namespace
+
+std::shared_ptr<const IniText> ReadIni(const std::string& path)
+{
+    if (path.empty())
+        return std::make_shared<const IniText>();
+    return Look(path).text;
+}
+
+bool EditIni(const std::string& path, const std::function<bool(IniText&)>& edit)
+{
+    if (path.empty())
+        return false;
+    const Kept& kept = Look(path);
+    std::error_code ignored;
+    if (!kept.identity && std::filesystem::exists(platform::NativePath(path), ignored))
+        return false; // what can't be read must not be replaced
+    IniText text = *kept.text;
+    if (!edit(text))
+        return false;
+    const std::string bytes = text.Bytes();
+    if (bytes == AsText(kept.bytes))
+        return !kept.identity || CanBeReplaced(path);
+    return !platform::ReplaceFile(
+        path, std::span(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()));
+}
+
+} // namespace vypx

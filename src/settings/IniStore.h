@@ -1,0 +1,24 @@
+#pragma once
+
+#include "settings/IniText.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace vypx {
+
+/// Largest ini file that is read, in bytes. A larger one has no sections and can't be written.
+inline constexpr std::size_t MaxIniSize = 64u << 20;
+
+/// The text of the ini file at `path` (UTF-8) as it stands on the disk now; without sections where
+/// there is no such file or it can't be read. A file that has not changed since the last look is
+/// not parsed again, so a look-up costs one question to the file system.
+std::shared_ptr<const IniText> ReadIni(const std::string& path);
+
+/// Applies `edit` to the file's text and replaces the file in one step; makes the file if it is
+/// missing. False, and the old file stands, when `edit` says false, when there is a file that can't
+/// be read, and when writing fails.
+bool EditIni(const std::string& path, const std::function<bool(IniText&)>& edit);
+
+} // namespace vypx

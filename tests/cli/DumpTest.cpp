@@ -101,7 +101,8 @@ TEST_F(Dump, ATemplateBringsNoImages)
     const ToolRun run = DumpOf(Written(TwoIcons().File(), "t.vpt"), { "--template" });
 
     EXPECT_EQ(run.exitCode, 0);
-    for (const json& icon : run.Json()["icons"])
+    const json document = run.Json();
+    for (const json& icon : document["icons"])
         EXPECT_EQ(icon["lowResFile"], "NEW");
 }
 

@@ -1,5 +1,6 @@
 #include "cli/Dump.h"
 
+#include "catalogs/CatalogFiles.h"
 #include "cli/DocumentJson.h"
 #include "document/Document.h"
 #include "document/WorkingFolder.h"
@@ -25,27 +26,27 @@ public:
     std::vector<std::string> texts;
 };
 
-/// Makes the working folder the one of this run. False, and a word to standard error, when it
-/// can't serve: files that are there already would be deleted by the load.
-bool UseWorkFolder(const std::string& folder)
+/// Makes `options.appFolder` the program's folder and the work folder the one of this run.
+/// False, and a word to standard error, when it can't serve: files that are there already would be
+/// deleted by the load.
+bool UseFolders(const OpenOptions& options)
 {
     std::error_code error;
-    const fs::path path = fs::absolute(platform::NativePath(folder), error).lexically_normal();
-    if (fs::exists(path, error) && !fs::is_empty(path, error)) {
-        std::cerr << "pixelworks-cli: the work folder is not empty: " << folder << '\n';
+    const fs::path work = platform::NativePath(options.workFolder);
+    if (fs::exists(work, error) && !(fs::is_directory(work, error) && fs::is_empty(work, error))) {
+        std::cerr << "pixelworks-cli: the work folder is not empty: " << options.workFolder << '\n';
         return false;
     }
-    fs::create_directories(path, error);
-    if (!fs::is_directory(path, error)) {
-        std::cerr << "pixelworks-cli: can't make the work folder: " << folder << '\n';
+    fs::create_directories(work, error);
+    if (!fs::is_directory(work, error)) {
+        std::cerr << "pixelworks-cli: can't make the work folder: " << options.workFolder << '\n';
         return false;
     }
-    // The working folder stands wherever the caller wants it, not below the program's.
-    std::string text = platform::Utf8Path(path);
-    if (text.size() > 1 && text.back() == platform::PathSeparator)
-        text.pop_back();
-    AppFolder = FolderOf(text);
-    TempSuffix = BelowFolder(LastComponent(text));
+    // The work folder stands wherever the caller wants it; from the program's folder a way leads
+    // there.
+    const fs::path app = fs::canonical(platform::NativePath(options.appFolder));
+    AppFolder = platform::Utf8Path(app);
+    TempSuffix = BelowFolder(platform::Utf8Path(fs::canonical(work).lexically_relative(app)));
     return true;
 }
 
@@ -62,9 +63,10 @@ void UseSettings(const OpenOptions& options)
 int Dump(const OpenOptions& options)
 {
     CollectedMessages messages;
-    if (!UseWorkFolder(options.workFolder))
+    if (!UseFolders(options))
         return 2;
     UseSettings(options);
+    ReadCatalogs([&](std::string_view text) { messages.Message(text); });
     LoadFile(options.file, messages);
     std::cout << DocumentJson(messages.texts).dump(1) << '\n';
     return FileLoaded ? 0 : 1;

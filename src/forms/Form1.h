@@ -68,6 +68,7 @@ private:
     void FindFolders(const QString& programFolder, const QString& userFolder);
     void TurnOnDrops();
     void TakeWorkingFolder();
+    void SaveRunCount(int count);
     void ChooseColours();
     void PaintColours();
     void ShowInFrame();

@@ -16,8 +16,12 @@ void Form1::ExitProgram()
     if (m_exited)
         return;
     m_exited = true;
-    m_copies.Leave();
+    // On purpose: the first copy never changes the count, and one that is not the last to leave
+    // may hand its number to a later one.
+    if (InstanceNumber >= 1)
+        SaveRunCount(InstanceNumber - 1);
     DeleteWorkingFiles({ ".bak", ".bmp", ".bin" });
+    m_copies.Leave();
     for (QWidget* window : QApplication::topLevelWidgets())
         window->close();
 }

@@ -1,8 +1,11 @@
 #include "forms/Form1.h"
 
+#include "catalogs/CatalogFiles.h"
 #include "document/AppFolders.h"
 #include "document/Document.h"
+#include "document/RunCount.h"
 #include "document/WorkingFolder.h"
+#include "forms/Ask.h"
 #include "forms/Commands.h"
 #include "forms/Look.h"
 #include "forms/Text.h"
@@ -30,6 +33,7 @@ void Form1::StartUp(const QString& programFolder, const QString& userFolder)
         false);
     IconTable.assign(1, {});
     BitmapTable.assign(1, {});
+    ReadCatalogs([this](std::string_view text) { Message(text); });
     ShowInFrame();
     CheckResolutionEntry();
     ShowPanelsByOption();
@@ -52,12 +56,22 @@ void Form1::TurnOnDrops()
         target->setAcceptDrops(true);
 }
 
+/// The first copy works in "temp"; a further one in "temp" and its number, which is one above the
+/// count that the settings file holds.
 void Form1::TakeWorkingFolder()
 {
     m_copies.Enter(AppFolder);
-    InstanceNumber = m_copies.Place();
+    InstanceNumber = m_copies.AnotherRan() ? ReadRunCount() + 1 : 0;
     SetTempSuffix(InstanceNumber);
+    SaveRunCount(InstanceNumber);
     MakeFolder(WorkFolder());
+}
+
+void Form1::SaveRunCount(int count)
+{
+    if (!WriteRunCount(count))
+        m_ask.Show(this,
+            { .text = "Failed to get value from VYPX.ini.", .icon = QMessageBox::Information });
 }
 
 void Form1::ChooseColours()

@@ -14,6 +14,12 @@ using nlohmann::json;
 
 class Dump : public ::testing::Test {
 protected:
+    Dump()
+    {
+        for (const char* name : { "AppList.dat", "PalmApp.dat", "VY_Icons.dat" })
+            WriteText(folder.File(name), "");
+    }
+
     ToolRun DumpOf(const std::string& file, const std::vector<std::string>& more = {})
     {
         std::vector<std::string> arguments{ "dump", file, "--app-folder", folder.Path(), "--work",
@@ -104,6 +110,30 @@ TEST_F(Dump, ATemplateBringsNoImages)
     const json document = run.Json();
     for (const json& icon : document["icons"])
         EXPECT_EQ(icon["lowResFile"], "NEW");
+}
+
+TEST_F(Dump, CatalogsComeFirstAndAreRepaired)
+{
+    WriteText(folder.File("AppList.dat"), "[Alpha]\nType=appl\nCreator=ALPH\n");
+    std::filesystem::remove(folder.File("PalmApp.dat"));
+    Iconset set = TwoIcons();
+    set.type = "appl";
+
+    const json document = DumpOf(Written(set.File())).Json();
+
+    EXPECT_EQ(document["messages"],
+        json::array({ "Error! Can't find PalmApp.dat.",
+            "This file doesn't appear to be a valid Vantry IconSet" }));
+    EXPECT_EQ(ReadText(folder.File("AppList.dat")), "[Alpha]\nType=appl\nCreator={ALPH}\n");
+}
+
+TEST_F(Dump, TheSettingsFileIsNeitherReadNorWritten)
+{
+    WriteText(folder.File("VYPX.ini"), "[Default Color Depth]\nUser Color Depth=4-Bit\n");
+
+    EXPECT_EQ(DumpOf(Written(TwoIcons().File())).exitCode, 0);
+
+    EXPECT_EQ(ReadText(folder.File("VYPX.ini")), "[Default Color Depth]\nUser Color Depth=4-Bit\n");
 }
 
 TEST_F(Dump, WrongUseIsExitCode2)

@@ -23,15 +23,22 @@ std::vector<std::string> SampleNames()
     return names;
 }
 
-/// Resource keys in the order of their first row. Rows that share a key are told apart by the
-/// catalogs, which are not read yet.
-std::vector<std::string> KeysOf(const json& document)
+/// Without what only decoded pictures bring: their names, their counts, and whether a node is blue
+/// for want of them.
+json WithoutPictures(json document)
 {
-    std::vector<std::string> keys;
-    for (const json& icon : document["icons"])
-        if (std::find(keys.begin(), keys.end(), icon["resourceKey"]) == keys.end())
-            keys.push_back(icon["resourceKey"]);
-    return keys;
+    document.erase("bitmaps");
+    for (json& icon : document["icons"]) {
+        icon.erase("lowResFile");
+        icon.erase("highResFile");
+    }
+    for (json& node : document["tree"]) {
+        if (node["colour"] == "#0000ff")
+            node["colour"] = "#000000";
+    }
+    document["stats"].erase("lowRes");
+    document["stats"].erase("highRes");
+    return document;
 }
 
 class Samples : public ::testing::TestWithParam<std::string> { };
@@ -42,17 +49,13 @@ TEST_P(Samples, OpenAsExpected)
     const json expected =
         json::parse(ReadText(TestData("iconsets/" + GetParam() + ".expected.json")));
 
+    std::filesystem::copy(TestData("iconsets/catalogs"), folder.File("catalogs"));
     const ToolRun run = RunTool({ "dump", TestData("iconsets/" + GetParam() + ".prc"),
-        "--app-folder", TestData("iconsets/catalogs"), "--work", folder.File("work") });
+        "--app-folder", folder.File("catalogs"), "--work", folder.File("work") });
 
     EXPECT_EQ(run.exitCode, 0);
     const json document = run.Json();
-    EXPECT_EQ(document["loaded"], expected["loaded"]);
-    EXPECT_EQ(document["databaseName"], expected["databaseName"]);
-    // Only launcher icons are found in that one, and only by a catalog.
-    if (GetParam() != "bad-index") {
-        EXPECT_EQ(KeysOf(document), KeysOf(expected));
-    }
+    EXPECT_EQ(WithoutPictures(document), WithoutPictures(expected));
 }
 
 std::string TestName(const ::testing::TestParamInfo<std::string>& sample)

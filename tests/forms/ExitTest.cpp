@@ -1,4 +1,5 @@
 #include "WindowFixture.h"
+#include "document/RunCount.h"
 
 #include <QMdiSubWindow>
 
@@ -69,6 +70,38 @@ TEST_F(Exit, TheFolderOfACopyWithANumberStaysWithoutItsWorkingFiles)
     EXPECT_TRUE(DirExists(program.File("temp1")));
     EXPECT_FALSE(FileExists(program.File("temp1/a.bmp")));
     EXPECT_TRUE(FileExists(program.File("temp/a.bmp"))) << "the first copy's files are its own";
+}
+
+TEST_F(Exit, ACopyWithANumberHandsItBack)
+{
+    MDIForm1 second(ask);
+    second.Start(QString::fromStdString(program.Path()), {});
+
+    second.close();
+
+    EXPECT_EQ(ReadRunCount(), 0);
+}
+
+TEST_F(Exit, TheFirstCopyLeavesTheCountAlone)
+{
+    WriteRunCount(2);
+
+    Entry("mnuExit").trigger();
+
+    EXPECT_EQ(ReadRunCount(), 2);
+}
+
+TEST_F(Exit, ACountThatCannotBeHandedBackIsTold)
+{
+    InstanceNumber = 1;
+    std::filesystem::remove(program.File("VYPX.ini"));
+    MakeFolder(program.File("VYPX.ini"));
+    ask.Answer(QMessageBox::Ok);
+
+    Entry("mnuExit").trigger();
+
+    EXPECT_EQ(Messages(), QStringList("Failed to get value from VYPX.ini."));
+    ExpectLeft();
 }
 
 TEST_F(Exit, FreesTheCopysPlace)

@@ -1,4 +1,5 @@
 #include "WindowFixture.h"
+#include "document/RunCount.h"
 
 #include <QMdiSubWindow>
 
@@ -28,20 +29,48 @@ TEST_F(StartUp, KeepsAWorkingFolderThatIsThere)
     EXPECT_EQ(ReadText(program.File("temp/notes.txt")), "mine");
 }
 
+TEST_F(StartUp, TheFirstCopyForgetsACountThatACrashLeft)
+{
+    WriteText(program.File("VYPX.ini"), "[Instance Count]\nRun Count=3\n");
+
+    Start();
+
+    EXPECT_EQ(WorkFolder(), program.File("temp"));
+    EXPECT_EQ(ReadRunCount(), 0);
+}
+
 TEST_F(StartUp, GivesFurtherCopiesFoldersOfTheirOwn)
 {
     Start();
-    MDIForm1 second(ask);
+    MDIForm1 second(ask), third(ask);
 
     second.Start(QString::fromStdString(program.Path()), {});
-
     EXPECT_EQ(InstanceNumber, 1);
     EXPECT_EQ(WorkFolder(), program.File("temp1"));
     EXPECT_TRUE(DirExists(program.File("temp1")));
+    EXPECT_EQ(ReadRunCount(), 1);
 
-    MDIForm1 third(ask);
     third.Start(QString::fromStdString(program.Path()), {});
     EXPECT_EQ(WorkFolder(), program.File("temp2"));
+    EXPECT_EQ(ReadRunCount(), 2);
+}
+
+TEST_F(StartUp, OnPurposeAFourthCopyMayGetTheNumberOfOneThatLeft)
+{
+    RunningCopies first, third;
+    first.Enter(program.Path());
+    AppFolder = program.Path();
+    WriteRunCount(0);
+    Start(); // the second
+    third.Enter(program.Path());
+    WriteRunCount(2);
+
+    frame->close();
+    EXPECT_EQ(ReadRunCount(), 0) << "although the third still runs";
+
+    MDIForm1 fourth(ask);
+    fourth.Start(QString::fromStdString(program.Path()), {});
+    EXPECT_EQ(WorkFolder(), program.File("temp1"));
 }
 
 TEST_F(StartUp, ACrashedCopyIsNotBelievedToRun)
@@ -51,6 +80,56 @@ TEST_F(StartUp, ACrashedCopyIsNotBelievedToRun)
     Start();
 
     EXPECT_EQ(InstanceNumber, 0);
+}
+
+TEST_F(StartUp, ACountThatIsNoNumberIsNone)
+{
+    for (const char* count : { "many", "-4", "99999999999", "2147483647" }) {
+        WriteText(
+            program.File("VYPX.ini"), std::string("[Instance Count]\nRun Count=") + count + "\n");
+        AppFolder = program.Path();
+        EXPECT_EQ(ReadRunCount(), 0) << count;
+    }
+}
+
+TEST_F(StartUp, ASettingsFileThatCannotBeWrittenIsToldAndTheStartGoesOn)
+{
+    MakeFolder(program.File("VYPX.ini")); // a folder in its place
+    ask.Answer(QMessageBox::Ok);
+
+    Start();
+
+    ASSERT_EQ(ask.shown.size(), 1u);
+    EXPECT_EQ(ask.shown[0].text, "Failed to get value from VYPX.ini.");
+    EXPECT_EQ(ask.shown[0].icon, QMessageBox::Information);
+    EXPECT_EQ(ask.shown[0].title, "VY Pixelworks");
+    EXPECT_EQ(WorkFolder(), program.File("temp"));
+    EXPECT_TRUE(frame->isVisible());
+}
+
+TEST_F(StartUp, TheShippedCatalogsShowNoMessage)
+{
+    Start();
+
+    EXPECT_TRUE(ask.shown.empty());
+    EXPECT_GT(PalmTable.size(), 80u);
+    EXPECT_GE(VYTable.size(), 3u);
+    EXPECT_EQ(AppTable.size(), 1u);
+}
+
+TEST_F(StartUp, MissingCatalogsAreToldInTheirOrderAndTheStartGoesOn)
+{
+    for (const char* name : { "AppList.dat", "PalmApp.dat", "VY_Icons.dat" }) {
+        std::filesystem::remove(program.File(name));
+        ask.Answer(QMessageBox::Ok);
+    }
+
+    Start();
+
+    EXPECT_EQ(Messages(),
+        QStringList({ "Error! Can't find VY_Icons.dat.", "Error! Can't find Applist.dat.",
+            "Error! Can't find PalmApp.dat." }));
+    EXPECT_TRUE(frame->isVisible());
 }
 
 TEST_F(StartUp, DisablesWhatNeedsADocument)
@@ -124,6 +203,8 @@ TEST_F(StartUp, TheTreeIsEmptyAndHasTheFocus)
 TEST_F(StartUp, AProgramFolderThatCannotBeWrittenGivesWayToTheUsers)
 {
     frame = std::make_unique<MDIForm1>(ask);
+    for (int missingCatalogs = 0; missingCatalogs < 3; ++missingCatalogs)
+        ask.Answer(QMessageBox::Ok);
 
     frame->Start(QString::fromStdString(program.File("missing/program")),
         QString::fromStdString(program.File("user")));

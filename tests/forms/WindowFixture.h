@@ -27,6 +27,9 @@ protected:
         SetDefaultSettings();
         ResetDocument();
         ResetCatalogs();
+        for (const char* name : { "AppList.dat", "PalmApp.dat", "VY_Icons.dat" })
+            std::filesystem::copy_file(
+                std::string(VYPX_SHIPPED_DATA) + "/" + name, program.File(name));
     }
 
     void Start()

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+/// The catalog files in AppFolder, in ini form, one section for each entry.
+///
+///   AppList.dat    [application]          Type=appl or panl   Creator={four characters}
+///   PalmApp.dat    [system item]          the same
+///   VY_Icons.dat   [item (Large Icon)]    ID=resource ID; one section more with (Small Icon)
+///
+/// The section's name is the entry's name. The braces keep blanks at either end of a Creator from
+/// being trimmed. Names of all sections of a file together, with one character more for each, must
+/// fit 8192 characters; what is beyond is not seen.
+namespace vypx {
+
+/// Shows a text (Latin-1) in a box.
+using ShowMessage = std::function<void(std::string_view)>;
+
+/// Replace AppTable, PalmTable, VYTable by what stands in the file. A value goes to the column of
+/// its key's position in the section, so the order of keys counts. A Creator that is empty, short
+/// or without braces is repaired in the file as well. No file: a message and an empty table; a
+/// value beyond the last column: a message, and the rows read so far stay.
+void ReadAppIni(const ShowMessage& show);
+void ReadPalmAppIni(const ShowMessage& show);
+void ReadVYIconsIni(const ShowMessage& show);
+
+/// Tells entries that have one Creator, within AppTable, within PalmTable and across the two.
+void ChkDupCreators(const ShowMessage& show);
+
+/// All of the above, in the order of a start.
+void ReadCatalogs(const ShowMessage& show);
+
+} // namespace vypx

@@ -1,0 +1,40 @@
+#include "document/RunCount.h"
+
+#include "document/WorkingFolder.h"
+#include "settings/Inifile.h"
+
+namespace vypx {
+
+namespace {
+
+/// No machine runs more copies; a higher count was written by something else.
+constexpr int MostCopies = 1'000'000;
+
+cInifile RunCountCell()
+{
+    cInifile ini;
+    ini.path(SettingsFile());
+    ini.Section("Instance Count");
+    ini.key("Run Count");
+    ini.Default("0");
+    return ini;
+}
+
+} // namespace
+
+std::string SettingsFile() { return AppFolder + BelowFolder("VYPX.ini"); }
+
+int ReadRunCount()
+{
+    const int count = cInifile::CLngDefault(RunCountCell().Value(), 0);
+    return count >= 0 && count < MostCopies ? count : 0;
+}
+
+bool WriteRunCount(int count)
+{
+    cInifile ini = RunCountCell();
+    ini.Value(std::to_string(count));
+    return ini.Success();
+}
+
+} // namespace vypx

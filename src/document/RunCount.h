@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+namespace vypx {
+
+/// The settings file, `VYPX.ini` in AppFolder.
+std::string SettingsFile();
+
+/// How many further copies of the program run beside the first, as the settings file has it under
+/// `Instance Count`, `Run Count`: it picks the name of the next copy's working folder. 0 where it
+/// is missing or no sensible number.
+int ReadRunCount();
+/// False when the file can't be written.
+bool WriteRunCount(int count);
+
+} // namespace vypx

@@ -18,6 +18,7 @@ void ExtractBitmaps(LoadListener& listener)
     if (DuplicateResource)
         return;
     listener.ProgressShown();
+    BitmapDecoder decoder(listener);
     const int count = ReadResourceCount();
     FCin = FirstEntryIndex;
     for (Rcntr = 1; Rcntr <= count; ++Rcntr, FCin += EntrySize) {
@@ -37,12 +38,12 @@ void ExtractBitmaps(LoadListener& listener)
         }
         Abmp = false;
         if (entry.type == "tAIB" || entry.type == "Tbmp")
-            LoadBitmapResource(listener);
+            LoadBitmapResource(decoder, listener);
     }
     listener.BusyEnded();
 }
 
-void LoadBitmapResource(LoadListener& listener)
+void LoadBitmapResource(BitmapDecoder& decoder, LoadListener& listener)
 {
     if (!SizeIsSound()) {
         listener.Message("Error reading file.");
@@ -52,13 +53,7 @@ void LoadBitmapResource(LoadListener& listener)
         static_cast<std::size_t>(ResourceOffset) + 1, static_cast<std::size_t>(ResourceSize));
     ResourceBytes.assign(1, 0);
     ResourceBytes.insert(ResourceBytes.end(), resource.Span().begin(), resource.Span().end());
-}
-
-void ProgBar(LoadListener& listener)
-{
-    ++ProgressCount;
-    if (ProgressCount <= BitmapCount)
-        listener.Progress(ProgressCount);
+    decoder.DecodeBitmapFamily();
 }
 
 } // namespace vypx

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "reader/BitmapDecoder.h"
 #include "reader/LoadListener.h"
 
 namespace vypx {
@@ -11,13 +12,6 @@ void ExtractBitmaps(LoadListener& listener);
 
 /// Copies the resource at ResourceOffset, ResourceSize bytes long, into ResourceBytes (from index
 /// 1) and decodes it. A size below 0 or above MaxResourceSize is told, and the resource skipped.
-void LoadBitmapResource(LoadListener& listener);
-
-/// Steps of the progress bar: how many bitmaps were counted, and how many are done.
-inline int BitmapCount = 0;
-inline int ProgressCount = 0;
-
-/// One bitmap more is done.
-void ProgBar(LoadListener& listener);
+void LoadBitmapResource(BitmapDecoder& decoder, LoadListener& listener);
 
 } // namespace vypx

@@ -5,6 +5,7 @@
 #include "document/WorkingFolder.h"
 #include "platform/Platform.h"
 #include "reader/ExtractBitmaps.h"
+#include "reader/Progress.h"
 #include "reader/ResourceList.h"
 #include "reader/WalkResources.h"
 #include "settings/Settings.h"

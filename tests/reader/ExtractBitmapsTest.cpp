@@ -1,5 +1,6 @@
 #include "reader/ExtractBitmaps.h"
 
+#include "reader/Progress.h"
 #include "reader/ResourceList.h"
 #include "support/LoadFixture.h"
 
@@ -63,7 +64,8 @@ TEST_F(ExtractBitmaps, ASizeAboveTenMillionIsOutOfRange)
     Keep(Bytes(200, 0));
     ResourceSize = MaxResourceSize + 1;
 
-    LoadBitmapResource(listener);
+    BitmapDecoder decoder(listener);
+    LoadBitmapResource(decoder, listener);
 
     EXPECT_THAT(listener.messages, ElementsAre("Error reading file."));
 }

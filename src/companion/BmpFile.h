@@ -1,0 +1,63 @@
+#pragma once
+
+#include "companion/ByteView.h"
+#include "companion/Palettes.h"
+#include "companion/Picture.h"
+
+#include <optional>
+#include <span>
+#include <string>
+
+/// Windows BMP files, as working files and exports are: uncompressed, rows from the bottom, each
+/// padded to 4 bytes. Little-endian:
+///
+///   offset width field
+///        0     2 "BM"
+///        2     4 size of the file
+///        6     4 0
+///       10     4 offset of the pixels: 54, behind the colour table
+///       14     4 40, size of the header from here on
+///       18     4 width          pixels
+///       22     4 height         pixels
+///       26     2 1, planes
+///       28     2 bits           per pixel: 4, 8 or 24
+///       30     4 0, not compressed
+///       34     4 size of the pixels
+///       38     8 2835 twice, pixels per metre
+///       46     4 colours in the table
+///       50     4 0
+///       54   4*n colour table: blue, green, red, 0; none at 24 bits
+///
+/// Source: Microsoft, "Bitmap Storage" (BITMAPFILEHEADER, BITMAPINFOHEADER).
+namespace vypx {
+
+/// A BMP in the making: the header stands, the pixels are 0.
+class BmpBytes {
+public:
+    /// `bits` is 4, 8 or 24; `colours` the table at 4 and 8. Throws std::length_error for sides
+    /// below 1 or a file of more than 1 GiB.
+    BmpBytes(int width, int height, int bits, Palette colours = {});
+
+    /// The row's bytes without padding; `y` counts from the top.
+    std::uint8_t* Row(int y);
+
+    const Bytes& File() const { return m_file; }
+
+private:
+    int m_height;
+    std::size_t m_pixels, m_rowSize;
+    Bytes m_file;
+};
+
+/// A picture as a 24-bit BMP.
+Bytes EncodeBmp24(const Picture& picture);
+
+/// Reads what the above writes, at 4, 8 and 24 bits. Empty for anything else, and for a file that
+/// is shorter than its header says.
+std::optional<Picture> DecodeBmp(ByteView file);
+
+/// Writes a working file in one go: open, write, close. Failures are not told; the file does not
+/// appear then.
+void WriteWorkingFile(const std::string& path, const Bytes& bytes);
+
+} // namespace vypx

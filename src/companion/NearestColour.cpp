@@ -1,0 +1,120 @@
+#include "companion/NearestColour.h"
+
+#include <algorithm>
+#include <memory>
+#include <stdexcept>
+
+namespace vypx {
+
+namespace {
+
+constexpr int CellSize = 16;
+
+/// A cell's lowest and highest corner.
+struct Box {
+    int low[3], high[3];
+};
+
+Box BoxOf(std::size_t cell)
+{
+    const int at[3] = { static_cast<int>(cell >> 8), static_cast<int>(cell >> 4 & 15),
+        static_cast<int>(cell & 15) };
+    Box box{};
+    for (int axis = 0; axis < 3; ++axis) {
+        box.low[axis] = at[axis] * CellSize;
+        box.high[axis] = box.low[axis] + CellSize - 1;
+    }
+    return box;
+}
+
+int SquareOf(int v) { return v * v; }
+
+/// Least and greatest squared distance of a colour to the cell's colours.
+struct Reach {
+    int least = 0, greatest = 0;
+};
+
+Reach ReachOf(const Rgb& colour, const Box& box)
+{
+    const int parts[3] = { colour.red, colour.green, colour.blue };
+    Reach reach;
+    for (int axis = 0; axis < 3; ++axis) {
+        const int toLow = parts[axis] - box.low[axis], toHigh = parts[axis] - box.high[axis];
+        reach.least += SquareOf(toLow < 0 ? toLow : std::max(toHigh, 0));
+        reach.greatest += std::max(SquareOf(toLow), SquareOf(toHigh));
+    }
+    return reach;
+}
+
+/// Whether `rival` is nearer than `colour` everywhere in the cell, or as near with the lower index.
+/// The difference of two squared distances is linear in the point, so the corners tell.
+bool IsBeatenEverywhere(const Rgb& colour, const Rgb& rival, bool rivalIsLower, const Box& box)
+{
+    // |p - rival|^2 - |p - colour|^2 = 2 p (colour - rival) + |rival|^2 - |colour|^2
+    const int c[3] = { colour.red, colour.green, colour.blue };
+    const int r[3] = { rival.red, rival.green, rival.blue };
+    int greatest = 0;
+    for (int axis = 0; axis < 3; ++axis) {
+        const int slope = 2 * (c[axis] - r[axis]);
+        greatest += std::max(slope * box.low[axis], slope * box.high[axis]);
+        greatest += SquareOf(r[axis]) - SquareOf(c[axis]);
+    }
+    return greatest < 0 || (greatest == 0 && rivalIsLower);
+}
+
+} // namespace
+
+NearestColour::NearestColour(Palette palette)
+    : m_palette(palette.begin(), palette.end())
+    , m_cells(CellSize * CellSize * CellSize)
+    , m_by565(65536)
+{
+    if (m_palette.empty() || m_palette.size() > 256)
+        throw std::invalid_argument("a palette has 1 to 256 colours");
+}
+
+void NearestColour::MakeCell(std::size_t cell)
+{
+    const Box box = BoxOf(cell);
+    int bound = INT32_MAX;
+    for (const Rgb& colour : m_palette)
+        bound = std::min(bound, ReachOf(colour, box).greatest);
+
+    std::vector<std::size_t> candidates;
+    for (std::size_t i = 0; i < m_palette.size(); ++i)
+        if (ReachOf(m_palette[i], box).least <= bound)
+            candidates.push_back(i);
+
+    const auto isBeaten = [&](std::size_t i) {
+        return std::any_of(candidates.begin(), candidates.end(), [&](std::size_t rival) {
+            return rival != i && IsBeatenEverywhere(m_palette[i], m_palette[rival], rival < i, box);
+        });
+    };
+    const auto first = static_cast<std::uint32_t>(m_entries.size());
+    for (const std::size_t i : candidates)
+        if (!isBeaten(i))
+            m_entries.push_back(
+                { m_palette[i].red, m_palette[i].green, m_palette[i].blue, static_cast<int>(i) });
+    m_cells[cell] = { first, static_cast<std::uint32_t>(m_entries.size()) - first };
+}
+
+int NearestColour::Learn565(std::uint16_t colour)
+{
+    const Rgb wide = From565(colour);
+    const int index = IndexOf(wide.red, wide.green, wide.blue);
+    m_by565[colour] = static_cast<std::uint16_t>(index + 1);
+    return index;
+}
+
+NearestColour& NearestIn(Palette palette)
+{
+    static std::vector<std::unique_ptr<NearestColour>> known;
+    for (const auto& table : known)
+        if (std::equal(
+                palette.begin(), palette.end(), table->Colours().begin(), table->Colours().end()))
+            return *table;
+    known.push_back(std::make_unique<NearestColour>(palette));
+    return *known.back();
+}
+
+} // namespace vypx

@@ -1,0 +1,237 @@
+#include "companion/PixelLibrary.h"
+
+#include "companion/BmpFile.h"
+#include "companion/NearestColour.h"
+
+#include <array>
+#include <stdexcept>
+
+namespace vypx {
+
+namespace {
+
+/// A pixel as a BMP has it.
+struct Bgr {
+    std::uint8_t blue = 0, green = 0, red = 0;
+};
+
+Bgr BgrOf(Rgb colour)
+{
+    return { static_cast<std::uint8_t>(colour.blue), static_cast<std::uint8_t>(colour.green),
+        static_cast<std::uint8_t>(colour.red) };
+}
+
+void Put(std::uint8_t* out, Bgr pixel)
+{
+    out[0] = pixel.blue;
+    out[1] = pixel.green;
+    out[2] = pixel.red;
+}
+
+/// Runs what makes a file; what can't be made does not appear.
+template <typename Make>
+void Quietly(const Make& make)
+{
+    try {
+        make();
+    } catch (const std::length_error&) {
+    } catch (const std::bad_alloc&) {
+    }
+}
+
+/// Writes the pixels at `depth` bits as a 24-bit BMP; `fillRow(in, out)` turns a row.
+template <typename FillRow>
+void WriteRows(const PixelBuffer& pixels, int depth, int width, int height, const std::string& path,
+    const FillRow& fillRow)
+{
+    const int needed = static_cast<int>((static_cast<std::int64_t>(width) * depth + 7) / 8);
+    if (needed > pixels.RowBytes() + pixels.RowPad() || height > pixels.RowsMade())
+        return;
+    Quietly([&] {
+        BmpBytes bmp(width, height, 24);
+        for (int y = 0; y < height; ++y)
+            fillRow(pixels.Row(y), bmp.Row(y));
+        WriteWorkingFile(path, bmp.File());
+    });
+}
+
+using Table = std::array<Bgr, 256>;
+
+Table TableOf(Palette palette)
+{
+    Table table{};
+    for (std::size_t i = 0; i < palette.size() && i < table.size(); ++i)
+        table[i] = BgrOf(palette[i]);
+    return table;
+}
+
+template <int Depth>
+void WriteIndexed(
+    const PixelBuffer& pixels, const Table& table, int width, int height, const std::string& path)
+{
+    constexpr int PerByte = 8 / Depth, Mask = (1 << Depth) - 1;
+    const auto fillRow = [&](const std::uint8_t* in, std::uint8_t* out) {
+        for (int x = 0; x < width; ++x, out += 3) {
+            const int shift = 8 - Depth - x % PerByte * Depth;
+            Put(out, table[static_cast<std::size_t>(in[x / PerByte] >> shift & Mask)]);
+        }
+    };
+    WriteRows(pixels, Depth, width, height, path, fillRow);
+}
+
+void WriteReduced16(
+    const PixelBuffer& pixels, Palette palette, int width, int height, const std::string& path)
+{
+    const Table table = TableOf(palette);
+    NearestColour& nearest = NearestIn(palette);
+    const auto fillRow = [&](const std::uint8_t* in, std::uint8_t* out) {
+        for (int x = 0; x < width; ++x, in += 2, out += 3) {
+            const auto colour = static_cast<std::uint16_t>(in[0] << 8 | in[1]);
+            Put(out, table[static_cast<std::size_t>(nearest.IndexOf565(colour))]);
+        }
+    };
+    WriteRows(pixels, 16, width, height, path, fillRow);
+}
+
+/// Each 8- and 6-bit half of a 5-6-5 pixel takes one look-up less than the arithmetic.
+struct Widener {
+    std::array<std::uint8_t, 32> five{};
+    std::array<std::uint8_t, 64> six{};
+
+    constexpr Widener()
+    {
+        for (int v = 0; v < 32; ++v)
+            five[static_cast<std::size_t>(v)] = static_cast<std::uint8_t>(Widened5(v));
+        for (int v = 0; v < 64; ++v)
+            six[static_cast<std::size_t>(v)] = static_cast<std::uint8_t>(Widened6(v));
+    }
+};
+
+constexpr Widener Wide;
+
+void WriteNearest(const Picture& picture, Palette palette, int bits, int width, int height,
+    const std::string& path)
+{
+    if (width > picture.Width() || height > picture.Height())
+        return;
+    Quietly([&] {
+        BmpBytes bmp(width, height, bits, palette);
+        NearestColour& nearest = NearestIn(palette);
+        for (int y = 0; y < height; ++y) {
+            const std::uint8_t* in = picture.Row(y);
+            std::uint8_t* const out = bmp.Row(y);
+            for (int x = 0; x < width; ++x, in += 3) {
+                const int index = nearest.IndexOf(in[0], in[1], in[2]);
+                if (bits == 8)
+                    out[x] = static_cast<std::uint8_t>(index);
+                else
+                    out[x / 2] =
+                        static_cast<std::uint8_t>(out[x / 2] | (x % 2 == 0 ? index << 4 : index));
+            }
+        }
+        WriteWorkingFile(path, bmp.File());
+    });
+}
+
+} // namespace
+
+void Bmp1to24(
+    const PixelBuffer& pixels, Palette palette1, int width, int height, const std::string& path)
+{
+    WriteIndexed<1>(pixels, TableOf(palette1), width, height, path);
+}
+
+void Bmp2to24(
+    const PixelBuffer& pixels, Palette palette2, int width, int height, const std::string& path)
+{
+    WriteIndexed<2>(pixels, TableOf(palette2), width, height, path);
+}
+
+void Bmp4to24(
+    const PixelBuffer& pixels, Palette palette4, int width, int height, const std::string& path)
+{
+    WriteIndexed<4>(pixels, TableOf(palette4), width, height, path);
+}
+
+void Bmp8to24(
+    const PixelBuffer& pixels, Palette palette8, int width, int height, const std::string& path)
+{
+    WriteIndexed<8>(pixels, TableOf(palette8), width, height, path);
+}
+
+void Bmp16to24(const PixelBuffer& pixels, int width, int height, const std::string& path)
+{
+    const auto fillRow = [&](const std::uint8_t* in, std::uint8_t* out) {
+        for (int x = 0; x < width; ++x, in += 2, out += 3) {
+            const auto colour = static_cast<std::size_t>(in[0] << 8 | in[1]);
+            Put(out,
+                { Wide.five[colour & 0x1F], Wide.six[colour >> 5 & 0x3F],
+                    Wide.five[colour >> 11] });
+        }
+    };
+    WriteRows(pixels, 16, width, height, path, fillRow);
+}
+
+void RGB16to8Bit(const PixelBuffer& pixels, Palette palette8, int width, int height, int,
+    const std::string& path)
+{
+    WriteReduced16(pixels, palette8, width, height, path);
+}
+
+void RGB16to4Bit(const PixelBuffer& pixels, Palette palette4, int width, int height, int,
+    const std::string& path)
+{
+    WriteReduced16(pixels, palette4, width, height, path);
+}
+
+void RGB8to4Bit(const PixelBuffer& pixels, Palette palette4, Palette palette8, int width,
+    int height, int, const std::string& path)
+{
+    NearestColour& nearest = NearestIn(palette4);
+    Table table{};
+    for (std::size_t i = 0; i < palette8.size() && i < table.size(); ++i) {
+        const int index = nearest.IndexOf(palette8[i].red, palette8[i].green, palette8[i].blue);
+        table[i] = BgrOf(palette4[static_cast<std::size_t>(index)]);
+    }
+    WriteIndexed<8>(pixels, table, width, height, path);
+}
+
+void TCchange(Palette palette4, Palette palette8, int depth, int& red, int& green, int& blue)
+{
+    const Palette palette = depth == 4 ? palette4 : palette8;
+    const int index = NearestIn(palette).IndexOf(red, green, blue);
+    const Rgb& colour = palette[static_cast<std::size_t>(index)];
+    red = colour.red;
+    green = colour.green;
+    blue = colour.blue;
+}
+
+void WriteBmp4(
+    const Picture& picture, Palette palette4, int width, int height, const std::string& path)
+{
+    WriteNearest(picture, palette4, 4, width, height, path);
+}
+
+void WriteBmp8(
+    const Picture& picture, Palette palette8, int width, int height, const std::string& path)
+{
+    WriteNearest(picture, palette8, 8, width, height, path);
+}
+
+void WriteBmp24(const Picture& picture, int width, int height, const std::string& path)
+{
+    if (width > picture.Width() || height > picture.Height())
+        return;
+    Quietly([&] {
+        BmpBytes bmp(width, height, 24);
+        for (int y = 0; y < height; ++y) {
+            const std::uint8_t* in = picture.Row(y);
+            std::uint8_t* out = bmp.Row(y);
+            for (int x = 0; x < width; ++x, in += 3, out += 3)
+                Put(out, { in[2], in[1], in[0] });
+        }
+        WriteWorkingFile(path, bmp.File());
+    });
+}
+
+} // namespace vypx

@@ -1,5 +1,7 @@
 #include "Tool.h"
+#include "companion/BmpFile.h"
 #include "support/Files.h"
+#include "support/Netpbm.h"
 #include "support/TempFolder.h"
 
 #include <filesystem>
@@ -38,6 +40,33 @@ TEST_P(Samples, OpenAsExpected)
     EXPECT_EQ(run.exitCode, 0);
     const json document = run.Json();
     EXPECT_EQ(document, expected);
+}
+
+/// Each picture as netpbm reads our working file, against the one that was worked out for it.
+TEST_P(Samples, HaveTheExpectedPictures)
+{
+    SKIP_WITHOUT_NETPBM();
+    const TempFolder folder;
+    std::filesystem::copy(TestData("iconsets/catalogs"), folder.File("catalogs"));
+    RunTool({ "dump", TestData("iconsets/" + GetParam() + ".prc"), "--app-folder",
+        folder.File("catalogs"), "--work", folder.File("work") });
+
+    std::size_t expected = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(TestData("iconsets/pictures"))) {
+        const std::string name = entry.path().stem();
+        if (!name.starts_with(GetParam() + "."))
+            continue;
+        ++expected;
+        const std::string file = folder.File("work/" + name.substr(GetParam().size() + 1) + ".bmp");
+        const Picture ours = PictureFrom("bmptopnm -quiet '" + file + "'");
+        EXPECT_EQ(ours, PictureFrom("pngtopnm -quiet '" + entry.path().string() + "'")) << file;
+        EXPECT_EQ(DecodeBmp(ReadBytes(file)), ours) << file;
+    }
+    std::size_t written = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(folder.File("work")))
+        written += entry.path().extension() == ".bmp";
+    EXPECT_EQ(written, expected);
+    EXPECT_GT(expected, 0u);
 }
 
 std::string TestName(const ::testing::TestParamInfo<std::string>& sample)

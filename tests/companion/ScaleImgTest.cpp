@@ -1,0 +1,145 @@
+#include "companion/ScaleImg.h"
+
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+namespace vypx::test {
+
+namespace {
+
+Picture Greys(int width, int height, const std::vector<int>& values)
+{
+    Picture picture(width, height);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x) {
+            const int v = values[static_cast<std::size_t>(y * width + x)];
+            picture.Set(x, y, { v, v, v });
+        }
+    return picture;
+}
+
+Picture Scaled(const Picture& source, int width, int height)
+{
+    Picture target(width, height);
+    ScaleImg(source, target, source.Width(), source.Height(), width, height);
+    return target;
+}
+
+std::vector<int> FirstRow(const Picture& picture)
+{
+    std::vector<int> values;
+    for (int x = 0; x < picture.Width(); ++x)
+        values.push_back(picture.At(x, 0).green);
+    return values;
+}
+
+TEST(ScaleImg, HalvingAveragesFourPixels)
+{
+    const Picture source = Greys(4, 2, { 0, 100, 200, 200, 100, 200, 0, 40 });
+
+    EXPECT_EQ(FirstRow(Scaled(source, 2, 1)), (std::vector<int>{ 100, 110 }));
+}
+
+TEST(ScaleImg, PixelsThatAreCoveredInPartCountInPart)
+{
+    // Three pixels into two: each takes one and a half.
+    const Picture source = Greys(3, 1, { 0, 90, 180 });
+
+    EXPECT_EQ(FirstRow(Scaled(source, 2, 1)), (std::vector<int>{ 30, 150 }));
+}
+
+TEST(ScaleImg, TheSameSizeIsTheSamePicture)
+{
+    const Picture source = Greys(3, 2, { 1, 2, 3, 253, 254, 255 });
+
+    EXPECT_EQ(Scaled(source, 3, 2), source);
+}
+
+TEST(ScaleImg, GrowingIsSmoothAndHoldsTheEdges)
+{
+    const Picture source = Greys(2, 1, { 0, 200 });
+
+    EXPECT_EQ(FirstRow(Scaled(source, 4, 1)), (std::vector<int>{ 0, 50, 150, 200 }));
+}
+
+TEST(ScaleImg, OnePixelFillsEverything)
+{
+    Picture source(1, 1);
+    source.Set(0, 0, { 10, 20, 30 });
+
+    const Picture target = Scaled(source, 7, 5);
+
+    for (int y = 0; y < 5; ++y)
+        for (int x = 0; x < 7; ++x)
+            EXPECT_EQ(target.At(x, y), (Rgb{ 10, 20, 30 }));
+}
+
+TEST(ScaleImg, OneAxisMayShrinkWhileTheOtherGrows)
+{
+    const Picture source = Greys(2, 2, { 0, 100, 200, 100 });
+
+    const Picture target = Scaled(source, 1, 4);
+
+    EXPECT_EQ(target.At(0, 0).red, 50);
+    EXPECT_EQ(target.At(0, 3).red, 150);
+    EXPECT_EQ(target.At(0, 1).red, 75);
+}
+
+TEST(ScaleImg, ComponentsDoNotMix)
+{
+    Picture source(2, 2);
+    for (int y = 0; y < 2; ++y)
+        for (int x = 0; x < 2; ++x)
+            source.Set(x, y, { 255, 0, 128 });
+
+    EXPECT_EQ(Scaled(source, 1, 1).At(0, 0), (Rgb{ 255, 0, 128 }));
+}
+
+TEST(ScaleImg, SizesThatThePicturesDoNotHaveDoNothing)
+{
+    const Picture source = Greys(2, 1, { 50, 50 });
+    Picture target(2, 2);
+
+    ScaleImg(source, target, 3, 1, 1, 1);
+    ScaleImg(source, target, 2, 1, 3, 1);
+    ScaleImg(source, target, 0, 1, 1, 1);
+    ScaleImg(source, target, 2, 1, 1, -1);
+
+    EXPECT_EQ(target, Picture(2, 2));
+}
+
+RC_GTEST_PROP(ScaleImg, AFlatPictureStaysFlatAtAnySize, ())
+{
+    const int value = *rc::gen::inRange(0, 256);
+    const int width = *rc::gen::inRange(1, 40), height = *rc::gen::inRange(1, 40);
+    const Picture source =
+        Greys(width, height, std::vector<int>(static_cast<std::size_t>(width * height), value));
+
+    const Picture target = Scaled(source, *rc::gen::inRange(1, 60), *rc::gen::inRange(1, 60));
+
+    for (int y = 0; y < target.Height(); ++y)
+        for (int x = 0; x < target.Width(); ++x)
+            RC_ASSERT(target.At(x, y).blue == value);
+}
+
+RC_GTEST_PROP(ScaleImg, AShrunkPictureHasTheSourcesMean, ())
+{
+    const int factor = *rc::gen::inRange(2, 6);
+    const auto values = *rc::gen::container<std::vector<int>>(
+        static_cast<std::size_t>(16 * factor * factor), rc::gen::inRange(0, 256));
+    const Picture source = Greys(4 * factor, 4 * factor, values);
+
+    const Picture target = Scaled(source, 4, 4);
+
+    for (int y = 0; y < 4; ++y)
+        for (int x = 0; x < 4; ++x) {
+            int sum = 0;
+            for (int i = 0; i < factor * factor; ++i)
+                sum += source.At(x * factor + i % factor, y * factor + i / factor).red;
+            const double mean = static_cast<double>(sum) / (factor * factor);
+            RC_ASSERT(std::abs(target.At(x, y).red - mean) <= 0.51);
+        }
+}
+
+} // namespace
+} // namespace vypx::test

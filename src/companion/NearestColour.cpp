@@ -8,7 +8,8 @@ namespace vypx {
 
 namespace {
 
-constexpr int CellSize = 16;
+constexpr int CellSize = 8;
+constexpr int CellsToASide = 256 / CellSize;
 
 /// A cell's lowest and highest corner.
 struct Box {
@@ -17,8 +18,8 @@ struct Box {
 
 Box BoxOf(std::size_t cell)
 {
-    const int at[3] = { static_cast<int>(cell >> 8), static_cast<int>(cell >> 4 & 15),
-        static_cast<int>(cell & 15) };
+    const int at[3] = { static_cast<int>(cell >> 10), static_cast<int>(cell >> 5 & 31),
+        static_cast<int>(cell & 31) };
     Box box{};
     for (int axis = 0; axis < 3; ++axis) {
         box.low[axis] = at[axis] * CellSize;
@@ -66,11 +67,17 @@ bool IsBeatenEverywhere(const Rgb& colour, const Rgb& rival, bool rivalIsLower, 
 
 NearestColour::NearestColour(Palette palette)
     : m_palette(palette.begin(), palette.end())
-    , m_cells(CellSize * CellSize * CellSize)
+    , m_cells(CellsToASide * CellsToASide * CellsToASide)
     , m_by565(65536)
 {
     if (m_palette.empty() || m_palette.size() > 256)
         throw std::invalid_argument("a palette has 1 to 256 colours");
+}
+
+NearestColour::Entry NearestColour::EntryOf(Rgb colour, std::size_t index)
+{
+    const auto byte = [](auto value) { return static_cast<std::uint8_t>(value); };
+    return { byte(colour.red), byte(colour.green), byte(colour.blue), byte(index) };
 }
 
 void NearestColour::MakeCell(std::size_t cell)
@@ -93,8 +100,7 @@ void NearestColour::MakeCell(std::size_t cell)
     const auto first = static_cast<std::uint32_t>(m_entries.size());
     for (const std::size_t i : candidates)
         if (!isBeaten(i))
-            m_entries.push_back(
-                { m_palette[i].red, m_palette[i].green, m_palette[i].blue, static_cast<int>(i) });
+            m_entries.push_back(EntryOf(m_palette[i], i));
     m_cells[cell] = { first, static_cast<std::uint32_t>(m_entries.size()) - first };
 }
 

@@ -10,7 +10,7 @@ namespace vypx {
 /// The one rule of the nearest colour: the least sum of the squared differences of red, green and
 /// blue; on a tie the lower index. Exact for every colour.
 ///
-/// The colour space is cut into 4096 cells of 16 x 16 x 16 colours. A cell keeps the few entries
+/// The colour space is cut into 32768 cells of 8 x 8 x 8 colours. A cell keeps the few entries
 /// that are nearest to some colour in it, so that a look-up compares those only. Cells are made
 /// when a colour of theirs is first asked for.
 class NearestColour {
@@ -46,12 +46,13 @@ public:
 
 private:
     struct Entry {
-        int red, green, blue, index;
+        std::uint8_t red, green, blue, index;
     };
     struct Cell {
         std::uint32_t first = 0, count = 0; // of m_entries
     };
 
+    static Entry EntryOf(Rgb colour, std::size_t index);
     static int Distance(const Entry& entry, int red, int green, int blue)
     {
         const int r = entry.red - red, g = entry.green - green, b = entry.blue - blue;
@@ -59,7 +60,8 @@ private:
     }
     const Cell& CellOf(int red, int green, int blue)
     {
-        const auto cell = static_cast<std::size_t>((red >> 4) << 8 | (green >> 4) << 4 | blue >> 4);
+        const auto cell =
+            static_cast<std::size_t>((red >> 3) << 10 | (green >> 3) << 5 | blue >> 3);
         if (m_cells[cell].count == 0)
             MakeCell(cell);
         return m_cells[cell];

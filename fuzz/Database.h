@@ -1,0 +1,48 @@
+#pragma once
+
+#include "document/Catalogs.h"
+#include "document/Document.h"
+#include "reader/ResourceList.h"
+#include "reader/WalkResources.h"
+
+#include <cstdint>
+#include <cstdlib>
+
+/// What the targets share that are given a whole database.
+namespace vypx::fuzz {
+
+class Silent : public LoadListener {
+    void Message(std::string_view) override { }
+};
+
+inline void Require(bool holds)
+{
+    if (!holds)
+        std::abort();
+}
+
+/// Makes the bytes the open file and walks them, with catalogs, so that rows of every kind can come
+/// up. False when there is no resource count.
+inline bool WalkDatabase(const std::uint8_t* data, std::size_t size)
+{
+    ResetDocument();
+    AppTable = { {}, { "Alpha", "appl", "ALPH", "" }, { "Beta", "appl", "ALPH", "" } };
+    PalmTable = { {}, { "Palm Clock", "appl", "CLCK", "" } };
+    VYTable = { {}, { "Launcher", "2000", "" }, { "Launcher", "2001", "" } };
+    FileCashe.assign(size + 2, 0);
+    std::copy(data, data + size, FileCashe.begin() + 1);
+    IconFileSize = static_cast<std::int32_t>(size + 1);
+    Silent listener;
+    try {
+        const int count = ReadResourceCount();
+        Parent = ReadDatabaseName();
+        Tree.SetRoot(Parent);
+        IconTable.assign(static_cast<std::size_t>(2 * count + 1), {});
+    } catch (const std::out_of_range&) {
+        return false;
+    }
+    WalkResources(listener);
+    return true;
+}
+
+} // namespace vypx::fuzz

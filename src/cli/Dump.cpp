@@ -52,6 +52,7 @@ bool UseFolders(const OpenOptions& options)
 
 void UseSettings(const OpenOptions& options)
 {
+    SetDefaultSettings();
     DefaultColorDepth = options.depth;
     HighResOnly = options.only == "high";
     LowResOnly = options.only == "low";

@@ -1,6 +1,6 @@
 #include "document/RunCount.h"
 
-#include "document/WorkingFolder.h"
+#include "document/SettingsFile.h"
 #include "settings/Inifile.h"
 
 namespace vypx {
@@ -21,8 +21,6 @@ cInifile RunCountCell()
 }
 
 } // namespace
-
-std::string SettingsFile() { return AppFolder + BelowFolder("VYPX.ini"); }
 
 int ReadRunCount()
 {

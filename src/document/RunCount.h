@@ -1,11 +1,6 @@
 #pragma once
 
-#include <string>
-
 namespace vypx {
-
-/// The settings file, `VYPX.ini` in AppFolder.
-std::string SettingsFile();
 
 /// How many further copies of the program run beside the first, as the settings file has it under
 /// `Instance Count`, `Run Count`: it picks the name of the next copy's working folder. 0 where it

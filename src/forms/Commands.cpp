@@ -15,9 +15,6 @@ namespace {
 constexpr std::array NotBuiltYet{
     std::string_view("cmdAddIcon"),
     std::string_view("cmdAssignApp"),
-    std::string_view("cmdRemoveIcon"),
-    std::string_view("cmdClrDeleted"),
-    std::string_view("cmdChangeDataBaseName"),
     std::string_view("cmdEditAppList"),
     std::string_view("cmdImportLG"),
     std::string_view("cmdSaveLG"),
@@ -46,7 +43,6 @@ constexpr std::array NotBuiltYet{
     std::string_view("mnuShowShared"),
     std::string_view("mnuRemoveLR"),
     std::string_view("mnuRemoveHR"),
-    std::string_view("mnuOptions"),
     std::string_view("mnuTips"),
     std::string_view("mnuManual"),
     std::string_view("mnuAbout"),

@@ -50,7 +50,7 @@ Form1::Form1(QWidget& frame, Ask& ask)
     for (const int image : { ImageVY, ImagePalm, ImageApp, ImageUnknown, ImageDelete })
         findChild<QLabel*>(QString("imgKey%1").arg(image))
             ->setPixmap(m_ui->TreeView1->Image(image).pixmap(16, 16));
-    m_ui->cmdRemoveIcon->setIcon(QIcon(":/art/remove.png"));
+    OfferRemoval(Removal::Remove);
     ConnectCommands();
     qApp->installEventFilter(this);
 }
@@ -67,7 +67,15 @@ void Form1::ConnectCommands()
     connectEntry("mnuShowBoth", &Form1::mnuShowBoth_Click);
     connectEntry("mnuHideLowRes", &Form1::mnuHideLowRes_Click);
     connectEntry("mnuHideHighRes", &Form1::mnuHideHighRes_Click);
-    connect(m_ui->cmdRemoveIcon, &QPushButton::clicked, this, &Form1::cmdRemoveIcon_Click);
+    connectEntry("mnuOptions", &Form1::mnuOptions_Click);
+    connect(m_ui->cmdRemoveIcon, &QPushButton::clicked, this, &Form1::RemoveSelected);
+    connect(m_ui->cmdClrDeleted, &QPushButton::clicked, this, &Form1::ClearDeletedIcons);
+    connect(m_ui->cmdChangeDataBaseName, &QPushButton::clicked, this,
+        &Form1::cmdChangeDataBaseName_Click);
+    connect(m_ui->TreeView1, &IconTreeView::NodeClick, this,
+        [this](const QTreeWidgetItem* node) { TreeView1_NodeClick(*node); });
+    connect(m_ui->TreeView1, &IconTreeView::AfterLabelEdit, this, &Form1::TreeView1_AfterLabelEdit,
+        Qt::QueuedConnection);
 }
 
 void Form1::Enable(std::string_view command, bool on) { EnableCommand(m_frame, command, on); }
@@ -87,7 +95,5 @@ void Form1::mnuOpen_Click()
 }
 
 void Form1::mnuExit_Click() { ExitProgram(); }
-
-void Form1::cmdRemoveIcon_Click() { RemoveSelected(); }
 
 } // namespace vypx

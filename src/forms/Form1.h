@@ -1,16 +1,20 @@
 #pragma once
 
 #include "document/RunningCopies.h"
+#include "document/Selection.h"
+#include "forms/Look.h"
 #include "forms/Panel.h"
 #include "reader/LoadListener.h"
 
 #include <QElapsedTimer>
+#include <QPointer>
 #include <QWidget>
 #include <array>
 #include <initializer_list>
 #include <memory>
 
 class QMimeData;
+class QTreeWidgetItem;
 
 namespace Ui {
 class Form1;
@@ -19,10 +23,13 @@ class Form1;
 namespace vypx {
 
 class Ask;
+class frmProgOptions;
 
 /// The main form: the tree of icons, the two panels and every command. Its rooms by topic:
 /// Form1.cpp (making), Form1StartUp.cpp, Form1Exit.cpp, Form1Load.cpp (opening a file),
-/// Form1View.cpp (panels, tree and counts), Form1Events.cpp (keys, drops, what a load keeps out).
+/// Form1View.cpp (panels, tree and counts), Form1Selection.cpp (a node was clicked),
+/// Form1Panels.cpp (drawing), Form1Settings.cpp, Form1Events.cpp (keys, drops, what a load keeps
+/// out).
 class Form1 : public QWidget, private LoadListener {
     Q_OBJECT
 
@@ -46,6 +53,14 @@ public:
     /// Counts the icons anew and shows what follows from that.
     void UpdateIconStats();
 
+    /// A node was clicked: shows its pictures and enables what it allows. Also to show the selected
+    /// one anew.
+    void TreeView1_NodeClick(const QTreeWidgetItem& node);
+
+    /// Draw the picture of a slot, by the document's fields of it.
+    void DrawLG();
+    void DrawSM();
+
     /// Files were dropped on this window or on the frame.
     void TakeDrop(const QMimeData& data);
 
@@ -62,13 +77,13 @@ private:
     void Enable(std::initializer_list<std::string_view> commands, bool on);
     void mnuOpen_Click();
     void mnuExit_Click();
-    void cmdRemoveIcon_Click();
+    void cmdChangeDataBaseName_Click();
+    void mnuOptions_Click();
 
     // Form1StartUp.cpp
     void FindFolders(const QString& programFolder, const QString& userFolder);
     void TurnOnDrops();
     void TakeWorkingFolder();
-    void SaveRunCount(int count);
     void ChooseColours();
     void PaintColours();
     void ShowInFrame();
@@ -80,6 +95,7 @@ private:
     void EndLoad();
     void Message(std::string_view text) override;
     void BeginLoad() override;
+    void FolderRemembered() override { SaveSettings(); }
     void TreeCleared() override;
     void DocumentNamed() override;
     void ClearPictures() override;
@@ -104,7 +120,28 @@ private:
     void mnuHideHighRes_Click();
     void CheckOnly(const char* entry);
     void ShowStatus(int panel, const QString& text);
+
+    // Form1Selection.cpp
+    void ShowSelection(Panel& panel, const SlotEffects& effects);
+    void OfferRemoval(Removal removal);
     void RemoveSelected();
+    void ClearDeletedIcons();
+    void RebuildTree();
+    void TreeView1_AfterLabelEdit(const QString& text);
+
+    // Form1Panels.cpp
+    void DrawSlot(Panel& panel);
+    void ShowColour(Panel& panel, bool hasTransparent);
+    void HideColour(Panel& panel);
+    void CentrePictures();
+
+    // Form1Settings.cpp
+    void TellOfSettings(const char* text);
+    void LoadSettings();
+    void SaveSettings();
+    void SaveRunCount(int count);
+    void ShowResolution();
+    void TakeOptions();
 
     // Form1Events.cpp
     bool IsKeptOutByLoad(QEvent& event) const;
@@ -116,6 +153,7 @@ private:
     Panel m_panelLG, m_panelSM;
     std::array<QLabel*, 2> m_statusPanels;
     RunningCopies m_copies;
+    QPointer<frmProgOptions> m_options;
     QElapsedTimer m_sincePaint;
     bool m_loading = false;
     bool m_closeAfterLoad = false;

@@ -64,6 +64,8 @@ bool Form1::eventFilter(QObject* watched, QEvent* event)
         RemoveSelected();
         return true;
     }
+    if (event->type() == QEvent::Resize && (watched == m_panelLG.box || watched == m_panelSM.box))
+        CentrePictures();
     const auto* const widget = qobject_cast<QWidget*>(watched);
     if (IsDrop(event->type()) && widget && (widget == this || isAncestorOf(widget))) {
         auto& drop = static_cast<QDropEvent&>(*event);

@@ -1,3 +1,4 @@
+#include "document/SettingsFile.h"
 #include "document/WorkingFolder.h"
 #include "forms/Form1.h"
 
@@ -20,6 +21,8 @@ void Form1::ExitProgram()
     // may hand its number to a later one.
     if (InstanceNumber >= 1)
         SaveRunCount(InstanceNumber - 1);
+    SaveSettings();
+    SettingsSaved = true;
     DeleteWorkingFiles({ ".bak", ".bmp", ".bin" });
     m_copies.Leave();
     for (QWidget* window : QApplication::topLevelWidgets())

@@ -5,7 +5,6 @@
 #include "document/Document.h"
 #include "document/RunCount.h"
 #include "document/WorkingFolder.h"
-#include "forms/Ask.h"
 #include "forms/Commands.h"
 #include "forms/Look.h"
 #include "forms/Text.h"
@@ -17,6 +16,13 @@
 
 namespace vypx {
 
+namespace {
+
+/// A frame below this, as a settings file can ask for, could not be found on the screen.
+constexpr int LeastSide = 200;
+
+} // namespace
+
 void Form1::StartUp(const QString& programFolder, const QString& userFolder)
 {
     FindFolders(programFolder, userFolder);
@@ -24,6 +30,7 @@ void Form1::StartUp(const QString& programFolder, const QString& userFolder)
     RememberPreviewColor = false;
     TransparentUse = true;
     MakeFolder(AppFolder + BelowFolder("temp"));
+    LoadSettings();
     TakeWorkingFolder();
     ChooseColours();
     m_ui->lblTargetCD->setText(Shown(DefaultColorDepth));
@@ -67,13 +74,6 @@ void Form1::TakeWorkingFolder()
     MakeFolder(WorkFolder());
 }
 
-void Form1::SaveRunCount(int count)
-{
-    if (!WriteRunCount(count))
-        m_ask.Show(this,
-            { .text = "Failed to get value from VYPX.ini.", .icon = QMessageBox::Information });
-}
-
 void Form1::ChooseColours()
 {
     R = RememberPreviewColor ? Rsave : 0;
@@ -94,7 +94,8 @@ void Form1::PaintColours()
 
 void Form1::ShowInFrame()
 {
-    m_frame.resize(PixelsFromTwips(MainWinWidth), PixelsFromTwips(MainWinHeight));
+    m_frame.resize(std::max(PixelsFromTwips(MainWinWidth), LeastSide),
+        std::max(PixelsFromTwips(MainWinHeight), LeastSide));
     m_frame.show();
     QWidget* const child = parentWidget();
     child->show();

@@ -1,6 +1,7 @@
 #include "document/Document.h"
 #include "document/IconStats.h"
 #include "forms/Form1.h"
+#include "forms/frmProgOptions.h"
 #include "settings/Settings.h"
 #include "ui_Form1.h"
 
@@ -11,7 +12,7 @@ namespace vypx {
 Panel Form1::PanelOf(const QString& letters)
 {
     return {
-        .letters = letters == "LG" ? "LG" : "SM",
+        .slot = letters == "LG" ? &SlotLG : &SlotSM,
         .frame = findChild<QGroupBox*>("frame" + letters),
         .box = findChild<PictureBox*>("pic" + letters + "frm"),
         .picture = findChild<PictureBox*>("pic" + letters),
@@ -80,11 +81,11 @@ void Form1::UpdateIconStats()
 void Form1::StatsChanged()
 {
     Enable("cmdClrDeleted", StatDeletable);
+    if (m_options)
+        m_options->ShowDepthLock();
     m_ui->TreeView1->Refresh(Tree);
     update();
     m_panelLG.frame->update();
 }
-
-void Form1::RemoveSelected() { }
 
 } // namespace vypx

@@ -3,6 +3,9 @@
 #include "forms/Look.h"
 #include "forms/Text.h"
 
+#include <QLineEdit>
+#include <QRegularExpressionValidator>
+#include <QStyledItemDelegate>
 #include <algorithm>
 #include <memory>
 
@@ -17,6 +20,34 @@ bool StandsBefore(const QTreeWidgetItem* left, const QTreeWidgetItem* right)
     return order != 0 ? order < 0 : mine < others;
 }
 
+/// Edits a label in place and hands the text over instead of writing it into the tree.
+class LabelEdit : public QStyledItemDelegate {
+public:
+    LabelEdit(IconTreeView& tree)
+        : QStyledItemDelegate(&tree)
+        , m_tree(tree)
+    {
+    }
+
+    QWidget* createEditor(
+        QWidget* parent, const QStyleOptionViewItem&, const QModelIndex&) const override
+    {
+        auto* const edit = new QLineEdit(parent);
+        edit->setObjectName("txtLabelEdit");
+        // What Latin-1 lacks can't stand in a database.
+        edit->setValidator(
+            new QRegularExpressionValidator(QRegularExpression("[\\x20-\\x7E\\xA0-\\xFF]*"), edit));
+        return edit;
+    }
+    void setModelData(QWidget* editor, QAbstractItemModel*, const QModelIndex&) const override
+    {
+        emit m_tree.AfterLabelEdit(static_cast<QLineEdit*>(editor)->text());
+    }
+
+private:
+    IconTreeView& m_tree;
+};
+
 } // namespace
 
 IconTreeView::IconTreeView(QWidget* parent)
@@ -26,6 +57,13 @@ IconTreeView::IconTreeView(QWidget* parent)
         m_images[number] = QIcon(QString(":/art/tree%1.png").arg(number));
     setColumnCount(1);
     setIconSize(QSize(16, 16));
+    setItemDelegate(new LabelEdit(*this));
+    connect(this, &QTreeWidget::itemSelectionChanged, this, [this] {
+        if (const QTreeWidgetItem* node = selectedItems().value(0))
+            emit NodeClick(node);
+    });
+    connect(this, &QTreeWidget::itemClicked, this,
+        [this](const QTreeWidgetItem* node) { emit NodeClick(node); });
 }
 
 QIcon IconTreeView::Image(int number) const
@@ -76,6 +114,13 @@ void IconTreeView::Refresh(const IconTree& tree)
             Dress(*item, node.image, node.colour);
     blockSignals(blocked);
     viewport()->update();
+}
+
+void IconTreeView::EditRoot()
+{
+    Root()->setFlags(Root()->flags() | Qt::ItemIsEditable);
+    setCurrentItem(Root());
+    editItem(Root());
 }
 
 QTreeWidgetItem* IconTreeView::NodeOf(const QString& key) const { return m_byKey.value(key); }

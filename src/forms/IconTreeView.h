@@ -24,12 +24,21 @@ public:
     /// Takes over the images and colours of nodes that are shown already.
     void Refresh(const IconTree& tree);
 
+    /// Lets the user edit the root's text in place.
+    void EditRoot();
+
     /// Null when there is no such node.
     QTreeWidgetItem* NodeOf(const QString& key) const;
     QTreeWidgetItem* Root() const { return topLevelItem(0); }
 
     /// Picture of a node, by its number; empty for a number that has none.
     QIcon Image(int number) const;
+
+signals:
+    /// A node was selected by mouse or keyboard, or clicked once more.
+    void NodeClick(const QTreeWidgetItem* node);
+    /// The root's text was edited to this; the tree does not change by itself.
+    void AfterLabelEdit(const QString& text);
 
 private:
     void Dress(QTreeWidgetItem& item, int image, Rgb colour) const;

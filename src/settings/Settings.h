@@ -2,29 +2,29 @@
 
 #include <string>
 
-/// The program's settings, read directly by every room. They begin with the defaults of a first
-/// run. Texts of folders are UTF-8.
+/// The program's settings, read directly by every room. Texts of folders are UTF-8. Before the
+/// settings file is read for the first time, every boolean is false.
 namespace vypx {
 
 inline bool RememberPreviewColor = false;
 inline int Rsave = 0, Gsave = 0, Bsave = 255; ///< the panels' back colour that was kept, 0 to 255
-inline bool AutoCreateLowRes = true;
+inline bool AutoCreateLowRes = false;
 inline bool StartupSearch = false;
 inline std::string DefaultColorDepth = "16-Bit"; ///< "4-Bit", "8-Bit" or "16-Bit"
-inline bool PromptColorDepth = true;
+inline bool PromptColorDepth = false;
 inline bool UsePackbits = false;
 inline std::string VersionString = "3.20";
-inline bool ShowSplash = true;
+inline bool ShowSplash = false;
 inline bool HighResOnly = false, LowResOnly = false; ///< at most one of them is true
-inline bool WarnOverwrite = true;
-inline bool KeepUnknown = true;
-inline bool CreateBackup = true;
-inline bool PreviewWinVisible = true, StatWinVisible = true, ShareWinVisible = true;
+inline bool WarnOverwrite = false;
+inline bool KeepUnknown = false;
+inline bool CreateBackup = false;
+inline bool PreviewWinVisible = false, StatWinVisible = false, ShareWinVisible = false;
 inline int PreviewWinX = 0, PreviewWinY = 100;         ///< twips
 inline int StatWinX = 0, StatWinY = 100;               ///< twips
 inline int ShareWinX = 0, ShareWinY = 100;             ///< twips
 inline int MainWinWidth = 14000, MainWinHeight = 9800; ///< twips
-inline bool UseLastDirs = true;
+inline bool UseLastDirs = false;
 inline std::string LastDirIconsetLoad, LastDirIconsetSave, LastDirImageLoad, LastDirImageSave;
 inline std::string PalmUserID;
 

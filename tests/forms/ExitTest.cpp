@@ -97,10 +97,13 @@ TEST_F(Exit, ACountThatCannotBeHandedBackIsTold)
     std::filesystem::remove(program.File("VYPX.ini"));
     MakeFolder(program.File("VYPX.ini"));
     ask.Answer(QMessageBox::Ok);
+    ask.Answer(QMessageBox::Ok);
 
     Entry("mnuExit").trigger();
 
-    EXPECT_EQ(Messages(), QStringList("Failed to get value from VYPX.ini."));
+    EXPECT_EQ(Messages(),
+        QStringList(
+            { "Failed to get value from VYPX.ini.", "Failed to save value to TBQX.ini file." }));
     ExpectLeft();
 }
 

@@ -1,4 +1,7 @@
+#include "support/TempFolder.h"
+
 #include <QApplication>
+#include <QSettings>
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv)
@@ -9,5 +12,9 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     QApplication::setCursorFlashTime(0);
     QApplication::setQuitOnLastWindowClosed(false);
+    // The user's own settings stay out of the tests and the tests out of them.
+    const vypx::test::TempFolder settings;
+    QSettings::setPath(
+        QSettings::NativeFormat, QSettings::UserScope, QString::fromStdString(settings.Path()));
     return RUN_ALL_TESTS();
 }

@@ -1,12 +1,17 @@
 #include "forms/Form1.h"
+#include "forms/IconTreeView.h"
 #include "forms/MDIForm1.h"
+#include "support/Files.h"
 #include "support/ScriptedAsk.h"
 #include "support/TempFolder.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QDialog>
+#include <QRadioButton>
 #include <QScreen>
 #include <QTest>
+#include <filesystem>
 #include <iostream>
 
 namespace {
@@ -35,14 +40,40 @@ int main(int argc, char** argv)
     }
     const QString folder = argv[1];
     const test::TempFolder programFolder;
+    for (const char* name : { "AppList.dat", "PalmApp.dat", "VY_Icons.dat" })
+        std::filesystem::copy_file(
+            test::TestData("iconsets/catalogs/") + name, programFolder.File(name));
     test::ScriptedAsk ask;
     MDIForm1 frame(ask);
     frame.Start(QString::fromStdString(programFolder.Path()), {});
     frame.move(20, 40);
     Take(folder, "main-form-empty");
 
-    ask.Choose(QString(VYPX_SHIPPED_DATA "/samples/owners.prc"));
-    frame.findChild<QAction*>("mnuOpen")->trigger();
+    const auto open = [&](const char* name) {
+        ask.Choose(QString(VYPX_TEST_DATA "/iconsets/") + name);
+        frame.findChild<QAction*>("mnuOpen")->trigger();
+    };
+    const auto select = [&](const char* label) {
+        auto& tree = *frame.findChild<IconTreeView*>("TreeView1");
+        tree.setCurrentItem(tree.NodeOf(label));
+    };
+    frame.findChild<QAction*>("mnuOptions")->trigger();
+    auto& options = *frame.findChild<QDialog*>("frmProgOptions");
+    options.move(60, 80);
+    Take(folder, "program-options");
+    options.findChild<QRadioButton*>("opt8Bit")->click();
+    Take(folder, "program-options-8-bit");
+    options.findChild<QRadioButton*>("opt16Bit")->click();
+    open("owners.prc");
+    select("Compass (Large Icon)");
+    Take(folder, "program-options-locked");
+    options.close();
+    open("owners.prc");
+    select("Compass (Large Icon)");
+    Take(folder, "main-form-owners");
+    open("depth8.prc");
+    frame.findChild<IconTreeView*>("TreeView1")
+        ->setCurrentItem(frame.findChild<IconTreeView*>("TreeView1")->Root()->child(0));
     Take(folder, "main-form");
     frame.Form().ExitProgram();
     return 0;

@@ -95,16 +95,21 @@ TEST_F(StartUp, ACountThatIsNoNumberIsNone)
 TEST_F(StartUp, ASettingsFileThatCannotBeWrittenIsToldAndTheStartGoesOn)
 {
     MakeFolder(program.File("VYPX.ini")); // a folder in its place
-    ask.Answer(QMessageBox::Ok);
+    for (int boxes = 0; boxes < 3; ++boxes)
+        ask.Answer(QMessageBox::Ok);
 
     Start();
 
-    ASSERT_EQ(ask.shown.size(), 1u);
-    EXPECT_EQ(ask.shown[0].text, "Failed to get value from VYPX.ini.");
-    EXPECT_EQ(ask.shown[0].icon, QMessageBox::Information);
-    EXPECT_EQ(ask.shown[0].title, "VY Pixelworks");
+    EXPECT_EQ(Messages(),
+        QStringList({ "Failed to save value to TBQX.ini file.",
+            "Failed to get value from VYPX.ini.", "Failed to get value from VYPX.ini." }));
+    for (const Box& box : ask.shown) {
+        EXPECT_EQ(box.icon, QMessageBox::Information);
+        EXPECT_EQ(box.title, "VY Pixelworks");
+    }
     EXPECT_EQ(WorkFolder(), program.File("temp"));
     EXPECT_TRUE(frame->isVisible());
+    EXPECT_EQ(MainWinWidth, 14000);
 }
 
 TEST_F(StartUp, TheShippedCatalogsShowNoMessage)
@@ -143,7 +148,7 @@ TEST_F(StartUp, DisablesWhatNeedsADocument)
 
 TEST_F(StartUp, ShowsBothPanelsAndTheDepth)
 {
-    DefaultColorDepth = "8-Bit";
+    WriteSettings("[Default Color Depth]\nUser Color Depth=8-Bit\n");
 
     Start();
 
@@ -155,7 +160,7 @@ TEST_F(StartUp, ShowsBothPanelsAndTheDepth)
 
 TEST_F(StartUp, ShowsOnlyTheHighResPanelByOption)
 {
-    HighResOnly = true;
+    WriteSettings("[Resolution]\nDefault Icon Res=High Res Only\n");
 
     Start();
 
@@ -166,7 +171,7 @@ TEST_F(StartUp, ShowsOnlyTheHighResPanelByOption)
 
 TEST_F(StartUp, ShowsOnlyTheLowResPanelByOption)
 {
-    LowResOnly = true;
+    WriteSettings("[Resolution]\nDefault Icon Res=Low Res Only\n");
 
     Start();
 
@@ -177,8 +182,7 @@ TEST_F(StartUp, ShowsOnlyTheLowResPanelByOption)
 
 TEST_F(StartUp, TheFrameTakesItsSizeInTwips)
 {
-    MainWinWidth = 15000;
-    MainWinHeight = 10500;
+    WriteSettings("[Main Window Size]\nWidth=15000\nHeight=10500\n");
 
     Start();
 

@@ -32,6 +32,10 @@ protected:
                 std::string(VYPX_SHIPPED_DATA) + "/" + name, program.File(name));
     }
 
+    /// Before a start: what stands in the settings file.
+    void WriteSettings(const std::string& text) { WriteText(program.File("VYPX.ini"), text); }
+    std::string Settings() const { return ReadText(program.File("VYPX.ini")); }
+
     void Start()
     {
         frame = std::make_unique<MDIForm1>(ask);

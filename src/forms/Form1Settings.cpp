@@ -1,0 +1,75 @@
+#include "document/RunCount.h"
+#include "document/SettingsFile.h"
+#include "forms/Ask.h"
+#include "forms/Form1.h"
+#include "forms/Text.h"
+#include "forms/frmProgOptions.h"
+#include "settings/Settings.h"
+#include "ui_Form1.h"
+
+namespace vypx {
+
+void Form1::TellOfSettings(const char* text)
+{
+    m_ask.Show(this, { .text = text, .icon = QMessageBox::Information });
+}
+
+void Form1::LoadSettings()
+{
+    SettingsSaved = false;
+    const bool written = InitializeIni();
+    if (!written)
+        TellOfSettings("Failed to save value to TBQX.ini file.");
+    const std::vector<std::string> bad = ReadSettings();
+    if (!bad.empty()) {
+        QString text = tr("VYPX.ini holds no usable number under these keys. "
+                          "Their defaults are used:\n");
+        for (const std::string& key : bad)
+            text += "\n" + Shown(key);
+        m_ask.Show(this, { .text = text, .icon = QMessageBox::Information });
+    }
+    if (!written)
+        TellOfSettings("Failed to get value from VYPX.ini.");
+}
+
+void Form1::SaveSettings()
+{
+    const WindowsToSave windows{
+        .mainWidth = m_frame.width() * TwipsPerPixel,
+        .mainHeight = m_frame.height() * TwipsPerPixel,
+    };
+    if (!SaveIni(windows))
+        TellOfSettings("Failed to save value to TBQX.ini file.");
+}
+
+void Form1::SaveRunCount(int count)
+{
+    if (!WriteRunCount(count))
+        TellOfSettings("Failed to get value from VYPX.ini.");
+}
+
+void Form1::mnuOptions_Click()
+{
+    if (!m_options) {
+        m_options = new frmProgOptions(this);
+        connect(m_options, &frmProgOptions::ResolutionChosen, this, &Form1::ShowResolution);
+        connect(m_options, &frmProgOptions::Done, this, &Form1::TakeOptions);
+    }
+    m_options->show();
+    m_options->raise();
+    m_options->activateWindow();
+}
+
+void Form1::ShowResolution()
+{
+    ShowPanelsByOption();
+    CheckResolutionEntry();
+}
+
+void Form1::TakeOptions()
+{
+    SaveSettings();
+    m_ui->lblTargetCD->setText(Shown(DefaultColorDepth));
+}
+
+} // namespace vypx

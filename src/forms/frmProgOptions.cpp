@@ -1,0 +1,136 @@
+#include "forms/frmProgOptions.h"
+
+#include "document/Document.h"
+#include "forms/Look.h"
+#include "forms/Text.h"
+#include "forms/UserStore.h"
+#include "settings/Settings.h"
+#include "ui_frmProgOptions.h"
+
+namespace vypx {
+
+namespace {
+
+constexpr int OpenAt = 300; // twips from the left and the top
+
+} // namespace
+
+frmProgOptions::frmProgOptions(QWidget* parent)
+    : QDialog(parent)
+    , m_ui(std::make_unique<Ui::frmProgOptions>())
+{
+    m_ui->setupUi(this);
+    setAttribute(Qt::WA_DeleteOnClose);
+    PaintChrome(*this);
+    move(PixelsFromTwips(OpenAt), PixelsFromTwips(OpenAt));
+    ShowSettings();
+    ConnectBoxes();
+    ConnectDepths();
+    ConnectResolutions();
+    connect(
+        m_ui->cmdDoneOptions, &QPushButton::clicked, this, &frmProgOptions::cmdDoneOptions_Click);
+}
+
+frmProgOptions::~frmProgOptions() = default;
+
+void frmProgOptions::ShowSettings()
+{
+    m_ui->txtPalmUserID->setText(Shown(PalmUserID));
+    m_ui->txtVstring->setText(Shown(VersionString));
+    m_ui->chkRemeberDirs->setChecked(UseLastDirs);
+    m_ui->chkCreateLowRes->setChecked(AutoCreateLowRes);
+    m_ui->chkCreateBak->setChecked(CreateBackup);
+    m_ui->chkKeepUnknown->setChecked(KeepUnknown);
+    m_ui->chkWarnOverwrite->setChecked(WarnOverwrite);
+    m_ui->chkShowSplash->setChecked(ShowSplash);
+    m_ui->chkShowTips->setChecked(ShowTipsAtStartup());
+    m_ui->chkStartupSearch->setChecked(StartupSearch);
+    m_ui->chkRememberBackColor->setChecked(RememberPreviewColor);
+    m_ui->chkPromptForCDepth->setChecked(PromptColorDepth);
+    (HighResOnly         ? m_ui->optHighResOnly
+            : LowResOnly ? m_ui->optLowResOnly
+                         : m_ui->optBothRes)
+        ->setChecked(true);
+    (DefaultColorDepth == "4-Bit"          ? m_ui->opt4Bit
+            : DefaultColorDepth == "8-Bit" ? m_ui->opt8Bit
+                                           : m_ui->opt16Bit)
+        ->setChecked(true);
+    (UsePackbits ? m_ui->optPalm40 : m_ui->optPalm35)->setChecked(true);
+    ShowDepthLock();
+}
+
+void frmProgOptions::ShowDepthLock()
+{
+    m_ui->lblCantChange->setVisible(FileLoaded);
+    for (QWidget* control : std::initializer_list<QWidget*>{ m_ui->opt16Bit, m_ui->opt8Bit,
+             m_ui->opt4Bit, m_ui->chkPromptForCDepth, m_ui->frameCD })
+        control->setEnabled(!FileLoaded);
+    ShowDepthWarning();
+}
+
+void frmProgOptions::ShowDepthWarning()
+{
+    for (QWidget* line : { m_ui->lblCDwarn1, m_ui->lblCDwarn2, m_ui->lblCDwarn3, m_ui->lblCDwarn4 })
+        line->setVisible(!m_ui->opt16Bit->isChecked() && !FileLoaded);
+}
+
+void frmProgOptions::ConnectBoxes()
+{
+    const auto setsVariable = [this](QAbstractButton* box, bool& variable) {
+        connect(box, &QAbstractButton::toggled, this, [&variable](bool on) { variable = on; });
+    };
+    setsVariable(m_ui->chkRemeberDirs, UseLastDirs);
+    setsVariable(m_ui->chkCreateLowRes, AutoCreateLowRes);
+    setsVariable(m_ui->chkCreateBak, CreateBackup);
+    setsVariable(m_ui->chkKeepUnknown, KeepUnknown);
+    setsVariable(m_ui->chkWarnOverwrite, WarnOverwrite);
+    setsVariable(m_ui->chkShowSplash, ShowSplash);
+    setsVariable(m_ui->chkStartupSearch, StartupSearch);
+    setsVariable(m_ui->chkRememberBackColor, RememberPreviewColor);
+    setsVariable(m_ui->chkPromptForCDepth, PromptColorDepth);
+    setsVariable(m_ui->optPalm40, UsePackbits);
+    connect(m_ui->chkShowTips, &QAbstractButton::toggled, this, &SaveShowTipsAtStartup);
+}
+
+void frmProgOptions::ConnectDepths()
+{
+    const auto setsDepth = [this](QAbstractButton* option, const char* depth) {
+        connect(option, &QAbstractButton::toggled, this, [this, depth](bool on) {
+            if (on)
+                DefaultColorDepth = depth;
+            ShowDepthWarning();
+        });
+    };
+    setsDepth(m_ui->opt4Bit, "4-Bit");
+    setsDepth(m_ui->opt8Bit, "8-Bit");
+    setsDepth(m_ui->opt16Bit, "16-Bit");
+}
+
+void frmProgOptions::ConnectResolutions()
+{
+    const auto setsResolution = [this](QAbstractButton* option, bool highOnly, bool lowOnly) {
+        connect(option, &QAbstractButton::toggled, this, [this, highOnly, lowOnly](bool on) {
+            if (!on)
+                return;
+            HighResOnly = highOnly;
+            LowResOnly = lowOnly;
+            emit ResolutionChosen();
+        });
+    };
+    setsResolution(m_ui->optBothRes, false, false);
+    setsResolution(m_ui->optHighResOnly, true, false);
+    setsResolution(m_ui->optLowResOnly, false, true);
+}
+
+void frmProgOptions::cmdDoneOptions_Click()
+{
+    QString version = m_ui->txtVstring->text();
+    while (version.endsWith(' '))
+        version.chop(1);
+    VersionString = version.isEmpty() ? "3.20" : Inner(version);
+    PalmUserID = Inner(m_ui->txtPalmUserID->text().trimmed());
+    emit Done();
+    close();
+}
+
+} // namespace vypx

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+class QAbstractButton;
+
+namespace Ui {
+class frmProgOptions;
+}
+
+namespace vypx {
+
+/// The window of the program's options. Every change takes effect at once, on the variables of
+/// settings/Settings.h; the two texts are taken by its Done button. It does not block the main
+/// form and goes when it is closed.
+class frmProgOptions : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit frmProgOptions(QWidget* parent);
+    ~frmProgOptions() override;
+
+    /// An iconset was opened or closed: the colour depth can only be changed without one.
+    void ShowDepthLock();
+
+signals:
+    /// HighResOnly and LowResOnly have new values.
+    void ResolutionChosen();
+    /// The settings are to be saved.
+    void Done();
+
+private:
+    void ShowSettings();
+    void ConnectBoxes();
+    void ConnectDepths();
+    void ConnectResolutions();
+    void ShowDepthWarning();
+    void cmdDoneOptions_Click();
+
+    std::unique_ptr<Ui::frmProgOptions> m_ui;
+};
+
+} // namespace vypx

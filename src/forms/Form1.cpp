@@ -74,8 +74,7 @@ void Form1::ConnectCommands()
         &Form1::cmdChangeDataBaseName_Click);
     connect(m_ui->TreeView1, &IconTreeView::NodeClick, this,
         [this](const QTreeWidgetItem* node) { TreeView1_NodeClick(*node); });
-    connect(m_ui->TreeView1, &IconTreeView::AfterLabelEdit, this, &Form1::TreeView1_AfterLabelEdit,
-        Qt::QueuedConnection);
+    connect(m_ui->TreeView1, &IconTreeView::AfterLabelEdit, this, &Form1::TreeView1_AfterLabelEdit);
 }
 
 void Form1::Enable(std::string_view command, bool on) { EnableCommand(m_frame, command, on); }

@@ -7,6 +7,7 @@
 #include "ui_Form1.h"
 
 #include <QCoreApplication>
+#include <QTimer>
 
 namespace vypx {
 
@@ -100,14 +101,18 @@ void Form1::cmdChangeDataBaseName_Click() { m_ui->TreeView1->EditRoot(); }
 void Form1::TreeView1_AfterLabelEdit(const QString& text)
 {
     constexpr int MaxNameLength = 31;
-    if (text.size() > MaxNameLength)
-        m_ask.Show(this, { .text = "Maximum name length is 31 characters." });
-    else if (!text.isEmpty())
+    const bool tooLong = text.size() > MaxNameLength;
+    if (!tooLong && !text.isEmpty())
         m_ui->TreeView1->Root()->setText(0, text);
     DatabaseName = Inner(text);
     ShowStatus(2, "Palm Database Name = " + text);
     m_ui->TreeView1->scrollToItem(m_ui->TreeView1->Root());
     m_ui->TreeView1->setFocus();
+    if (!tooLong)
+        return;
+    // Not before the editor has closed, which a box of its own would disturb.
+    QTimer::singleShot(
+        0, this, [this] { m_ask.Show(this, { .text = "Maximum name length is 31 characters." }); });
 }
 
 } // namespace vypx

@@ -286,9 +286,7 @@ protected:
         else
             QTest::keyClicks(&edit, text);
         QTest::keyClick(&edit, Qt::Key_Return);
-        // The form has the text when the editor is gone.
-        EXPECT_TRUE(QTest::qWaitFor(
-            [&] { return frame->findChild<QLineEdit*>("txtLabelEdit") == nullptr; }));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Status(2) != "Palm Database Name = Set"; }));
     }
 };
 
@@ -319,6 +317,7 @@ TEST_F(Renaming, OnPurposeANameThatIsTooLongIsRefusedByTheTreeOnly)
 
     Rename("ABCDEFGHIJKLMNOPQRSTUVWXYZ012345");
 
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !ask.shown.empty(); }));
     EXPECT_EQ(Messages(), QStringList("Maximum name length is 31 characters."));
     EXPECT_EQ(Nodes().Root()->text(0), "Set");
     EXPECT_EQ(DatabaseName, "ABCDEFGHIJKLMNOPQRSTUVWXYZ012345");

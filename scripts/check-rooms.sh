@@ -6,7 +6,7 @@ cd "$(dirname "$0")/../src"
 
 declare -A may=(
     [platform]="platform"
-    [companion]="companion"
+    [companion]="companion platform"
     [settings]="settings platform"
     [document]="document settings companion platform"
     [catalogs]="catalogs document settings companion platform"

@@ -13,17 +13,35 @@ QMessageBox::StandardButton ScreenAsk::Show(QWidget* parent, const Box& box)
     return static_cast<QMessageBox::StandardButton>(shown.exec());
 }
 
+namespace {
+
+QString Chosen(QFileDialog& dialog, const QString& folder, const QStringList& filters)
+{
+    dialog.setNameFilters(filters);
+    dialog.setDirectory(folder.isEmpty() ? QDir::currentPath() : folder);
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    return dialog.selectedFiles().value(0);
+}
+
+} // namespace
+
 QString ScreenAsk::OpenFile(QWidget* parent, const OpenQuestion& question)
 {
     QFileDialog dialog(parent, question.title);
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setOption(QFileDialog::ReadOnly); // it chooses a file; it renames and deletes none
-    dialog.setNameFilters(question.filters);
-    dialog.setDirectory(question.folder.isEmpty() ? QDir::currentPath() : question.folder);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
-        return {};
-    return dialog.selectedFiles().first();
+    return Chosen(dialog, question.folder, question.filters);
+}
+
+QString ScreenAsk::SaveFile(QWidget* parent, const SaveQuestion& question)
+{
+    QFileDialog dialog(parent, question.title);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(question.defaultEnding);
+    return Chosen(dialog, question.folder, question.filters);
 }
 
 } // namespace vypx

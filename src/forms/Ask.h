@@ -21,6 +21,14 @@ struct OpenQuestion {
     QStringList filters; ///< "Words (*.a *.b)", patterns apart by blanks
 };
 
+/// A file dialog that saves. It asks before it accepts an existing file.
+struct SaveQuestion {
+    QString title;
+    QString folder;        ///< where it starts; empty: where the program was started
+    QStringList filters;   ///< as above
+    QString defaultEnding; ///< without the dot; put behind a name that has none
+};
+
 /// The one door to boxes and file dialogs, so that tests can stand in for the user.
 class Ask {
 public:
@@ -30,6 +38,8 @@ public:
     virtual QMessageBox::StandardButton Show(QWidget* parent, const Box& box) = 0;
     /// Path of the chosen file; empty when the dialog was cancelled.
     virtual QString OpenFile(QWidget* parent, const OpenQuestion& question) = 0;
+    /// Path of the file to write; empty when the dialog was cancelled.
+    virtual QString SaveFile(QWidget* parent, const SaveQuestion& question) = 0;
 };
 
 /// Shows real boxes and dialogs.
@@ -37,6 +47,7 @@ class ScreenAsk : public Ask {
 public:
     QMessageBox::StandardButton Show(QWidget* parent, const Box& box) override;
     QString OpenFile(QWidget* parent, const OpenQuestion& question) override;
+    QString SaveFile(QWidget* parent, const SaveQuestion& question) override;
 };
 
 } // namespace vypx

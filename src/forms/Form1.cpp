@@ -51,6 +51,9 @@ Form1::Form1(QWidget& frame, Ask& ask)
         findChild<QLabel*>(QString("imgKey%1").arg(image))
             ->setPixmap(m_ui->TreeView1->Image(image).pixmap(16, 16));
     OfferRemoval(Removal::Remove);
+    QPalette warning = m_ui->lblNotSaved->palette();
+    warning.setColor(QPalette::WindowText, QColor(176, 0, 0));
+    m_ui->lblNotSaved->setPalette(warning);
     ConnectCommands();
     qApp->installEventFilter(this);
 }
@@ -62,7 +65,11 @@ void Form1::ConnectCommands()
     const auto connectEntry = [this](const char* name, void (Form1::*handler)()) {
         connect(m_frame.findChild<QAction*>(name), &QAction::triggered, this, handler);
     };
+    connectEntry("mnuNew", &Form1::mnuNew_Click);
     connectEntry("mnuOpen", &Form1::mnuOpen_Click);
+    connectEntry("mnuCloseIconset", &Form1::mnuCloseIconset_Click);
+    connectEntry("mnuSave", &Form1::mnuSave_Click);
+    connectEntry("mnuSaveAs", &Form1::mnuSaveAs_Click);
     connectEntry("mnuExit", &Form1::mnuExit_Click);
     connectEntry("mnuShowBoth", &Form1::mnuShowBoth_Click);
     connectEntry("mnuHideLowRes", &Form1::mnuHideLowRes_Click);
@@ -83,14 +90,6 @@ void Form1::Enable(std::initializer_list<std::string_view> commands, bool on)
 {
     for (const std::string_view command : commands)
         Enable(command, on);
-}
-
-void Form1::mnuOpen_Click()
-{
-    Enable("cmdChangeDataBaseName", false);
-    for (Panel* panel : Panels())
-        panel->sizeLimit->clear();
-    LoadFile();
 }
 
 void Form1::mnuExit_Click() { ExitProgram(); }

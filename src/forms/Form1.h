@@ -2,6 +2,7 @@
 
 #include "document/RunningCopies.h"
 #include "document/Selection.h"
+#include "forms/Ask.h"
 #include "forms/Look.h"
 #include "forms/Panel.h"
 #include "reader/LoadListener.h"
@@ -22,8 +23,9 @@ class Form1;
 
 namespace vypx {
 
-class Ask;
+class frmNewIconset;
 class frmProgOptions;
+class frmSelectCDepth;
 
 /// The main form: the tree of icons, the two panels and every command. Its rooms by topic:
 /// Form1.cpp (making), Form1StartUp.cpp, Form1Exit.cpp, Form1Load.cpp (opening a file),
@@ -50,6 +52,9 @@ public:
     /// Asks for an iconset, or takes the one that is waiting, and opens it.
     void LoadFile();
 
+    /// Checks that the document can be saved, and saves it under its name or a new one.
+    void SaveIconset();
+
     /// Counts the icons anew and shows what follows from that.
     void UpdateIconStats();
 
@@ -75,10 +80,29 @@ private:
     void ConnectCommands();
     void Enable(std::string_view command, bool on);
     void Enable(std::initializer_list<std::string_view> commands, bool on);
-    void mnuOpen_Click();
     void mnuExit_Click();
     void cmdChangeDataBaseName_Click();
     void mnuOptions_Click();
+
+    // Form1Document.cpp
+    void mnuNew_Click();
+    void mnuOpen_Click();
+    void mnuCloseIconset_Click();
+    QMessageBox::StandardButton AskAboutChanges();
+    void ShowDepthWindow();
+    void LeaveDepthWindow();
+    void ShowNewIconset();
+    void MakeNewIconset(const QString& name);
+
+    // Form1Save.cpp
+    void mnuSave_Click();
+    void mnuSaveAs_Click();
+    bool PassesSaveChecks();
+    void SaveToKnownName();
+    void SaveNewIconset();
+    std::optional<std::string> ChooseTarget();
+    void TakeTargetFolder();
+    bool Compile();
 
     // Form1StartUp.cpp
     void FindFolders(const QString& programFolder, const QString& userFolder);
@@ -154,6 +178,8 @@ private:
     std::array<QLabel*, 2> m_statusPanels;
     RunningCopies m_copies;
     QPointer<frmProgOptions> m_options;
+    QPointer<frmSelectCDepth> m_depthWindow;
+    QPointer<frmNewIconset> m_newIconset;
     QElapsedTimer m_sincePaint;
     bool m_loading = false;
     bool m_closeAfterLoad = false;

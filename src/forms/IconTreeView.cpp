@@ -4,7 +4,6 @@
 #include "forms/Text.h"
 
 #include <QLineEdit>
-#include <QRegularExpressionValidator>
 #include <QStyledItemDelegate>
 #include <algorithm>
 #include <memory>
@@ -34,9 +33,7 @@ public:
     {
         auto* const edit = new QLineEdit(parent);
         edit->setObjectName("txtLabelEdit");
-        // What Latin-1 lacks can't stand in a database.
-        edit->setValidator(
-            new QRegularExpressionValidator(QRegularExpression("[\\x20-\\x7E\\xA0-\\xFF]*"), edit));
+        edit->setValidator(Latin1Validator(*edit));
         return edit;
     }
     void setModelData(QWidget* editor, QAbstractItemModel*, const QModelIndex&) const override

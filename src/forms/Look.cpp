@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <QRegularExpressionValidator>
 #include <QWidget>
 
 namespace vypx {
@@ -53,6 +54,11 @@ void PaintChrome(QWidget& window)
 {
     window.setAutoFillBackground(true);
     window.setStyleSheet(GroupBoxes);
+}
+
+QValidator* Latin1Validator(QObject& owner)
+{
+    return new QRegularExpressionValidator(QRegularExpression("[\\x20-\\x7E\\xA0-\\xFF]*"), &owner);
 }
 
 } // namespace vypx

@@ -1,9 +1,13 @@
 #pragma once
 
 #include "companion/Rgb.h"
+#include "settings/Settings.h"
 
 #include <QColor>
+#include <QPoint>
 
+class QObject;
+class QValidator;
 class QWidget;
 
 namespace vypx {
@@ -21,5 +25,11 @@ void UseLightColours();
 /// Gives a window the chrome colour. Its group boxes get a plain frame, since a style's own tints
 /// the colour.
 void PaintChrome(QWidget& window);
+
+/// Where most dialogs open: 100 twips from the left and the top.
+inline QPoint DialogPlace() { return { PixelsFromTwips(100), PixelsFromTwips(100) }; }
+
+/// Keeps what Latin-1 lacks out of an edit whose text goes into a database.
+QValidator* Latin1Validator(QObject& owner);
 
 } // namespace vypx

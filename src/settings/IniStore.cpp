@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <fstream>
 #include <map>
 
 namespace vypx {
@@ -42,7 +43,8 @@ bool CanBeReplaced(const std::string& path)
     std::error_code error;
     const std::filesystem::path file =
         std::filesystem::canonical(platform::NativePath(path), error);
-    return !error && platform::FolderIsWritable(platform::Utf8Path(file.parent_path()));
+    const bool writable = std::ofstream(file, std::ios::app).is_open();
+    return !error && writable && platform::FolderIsWritable(platform::Utf8Path(file.parent_path()));
 }
 
 std::map<std::string, Kept>& AllKept()

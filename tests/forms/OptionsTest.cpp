@@ -1,6 +1,6 @@
 #include "WindowFixture.h"
 
-#include "document/RunCount.h"
+#include "document/SettingsFile.h"
 #include "forms/UserStore.h"
 
 #include <QCheckBox>
@@ -18,6 +18,7 @@ protected:
     Options()
     {
         Start();
+        PromptColorDepth = true;
         Entry("mnuOptions").trigger();
     }
 
@@ -162,6 +163,7 @@ TEST_F(Options, LowerDepthsComeWithAWarning)
 TEST_F(Options, AnOpenIconsetLocksTheDepthAndNothingElse)
 {
     Click("opt8Bit");
+    PromptColorDepth = false;
     Open(Written(Iconset{ .resources = { Picture(3500) } }.File()));
 
     for (const QString name : { "opt16Bit", "opt8Bit", "opt4Bit", "chkPromptForCDepth" })
@@ -227,6 +229,7 @@ TEST_F(Options, EveryOptionSurvivesTheNextStart)
 
     SetDefaultSettings();
     Start();
+    ReadSettings(); // with what the fixture changes for other tests
     Entry("mnuOptions").trigger();
 
     for (const auto& [name, on] : chosen)

@@ -1,6 +1,7 @@
 #include "forms/Form1.h"
 #include "forms/IconTreeView.h"
 #include "forms/MDIForm1.h"
+#include "settings/Settings.h"
 #include "support/Files.h"
 #include "support/ScriptedAsk.h"
 #include "support/TempFolder.h"
@@ -8,6 +9,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
 #include <QTest>
@@ -49,6 +51,15 @@ int main(int argc, char** argv)
     frame.move(20, 40);
     Take(folder, "main-form-empty");
 
+    frame.findChild<QAction*>("mnuNew")->trigger();
+    Take(folder, "select-color-depth");
+    frame.findChild<QDialog*>("frmSelectCDepth")->findChild<QRadioButton*>("opt8Bit")->click();
+    Take(folder, "select-color-depth-8-bit");
+    frame.findChild<QDialog*>("frmSelectCDepth")->findChild<QRadioButton*>("opt16Bit")->click();
+    frame.findChild<QPushButton*>("cmdDoneCDepth")->click();
+    Take(folder, "new-iconset");
+    frame.findChild<QPushButton*>("cmdCancelName")->click();
+    PromptColorDepth = false;
     const auto open = [&](const char* name) {
         ask.Choose(QString(VYPX_TEST_DATA "/iconsets/") + name);
         frame.findChild<QAction*>("mnuOpen")->trigger();

@@ -40,6 +40,7 @@ protected:
     {
         frame = std::make_unique<MDIForm1>(ask);
         frame->Start(QString::fromStdString(program.Path()), {});
+        PromptColorDepth = false; // where a test does not want it
     }
 
     template <typename T>

@@ -17,6 +17,7 @@ public:
     {
         EXPECT_TRUE(m_boxes.empty()) << "an answer was queued and no box came";
         EXPECT_TRUE(m_files.empty()) << "a file was queued and no dialog came";
+        EXPECT_TRUE(m_targets.empty()) << "a file to save was queued and no dialog came";
     }
 
     /// The next box is answered so; `during` runs while it is up.
@@ -27,6 +28,8 @@ public:
     /// The next file dialog gives this path.
     void Choose(const QString& path) { m_files.push_back(path); }
     void CancelDialog() { m_files.push_back({}); }
+    /// The next dialog that saves gives this path; empty: it is cancelled.
+    void SaveTo(const QString& path) { m_targets.push_back(path); }
 
     QMessageBox::StandardButton Show(QWidget*, const Box& box) override
     {
@@ -54,8 +57,21 @@ public:
         return path;
     }
 
+    QString SaveFile(QWidget*, const SaveQuestion& question) override
+    {
+        saved.push_back(question);
+        if (m_targets.empty()) {
+            ADD_FAILURE() << "unexpected dialog to save: " << question.title.toStdString();
+            return {};
+        }
+        const QString path = m_targets.front();
+        m_targets.pop_front();
+        return path;
+    }
+
     std::vector<Box> shown;
     std::vector<OpenQuestion> opened;
+    std::vector<SaveQuestion> saved;
 
 private:
     struct BoxAnswer {
@@ -63,7 +79,7 @@ private:
         std::function<void()> during;
     };
     std::deque<BoxAnswer> m_boxes;
-    std::deque<QString> m_files;
+    std::deque<QString> m_files, m_targets;
 };
 
 } // namespace vypx::test

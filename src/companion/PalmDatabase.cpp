@@ -1,0 +1,211 @@
+#include "companion/PalmDatabase.h"
+
+#include "companion/BmpFile.h"
+#include "companion/PalmRecord.h"
+#include "platform/Platform.h"
+
+#include <algorithm>
+#include <charconv>
+#include <chrono>
+#include <map>
+#include <numeric>
+#include <unordered_map>
+
+namespace vypx {
+
+namespace {
+
+constexpr std::size_t HeaderSize = 78, EntrySize = 10, Gap = 2;
+
+void Append16(Bytes& bytes, unsigned value)
+{
+    bytes.push_back(static_cast<std::uint8_t>(value >> 8));
+    bytes.push_back(static_cast<std::uint8_t>(value));
+}
+
+void Append32(Bytes& bytes, std::uint32_t value)
+{
+    Append16(bytes, value >> 16);
+    Append16(bytes, value & 0xFFFF);
+}
+
+void AppendText(Bytes& bytes, std::string_view text, std::size_t width)
+{
+    for (std::size_t i = 0; i < width; ++i)
+        bytes.push_back(i < text.size() ? static_cast<std::uint8_t>(text[i]) : 0);
+}
+
+/// Seconds since the beginning of 1904, as Palm OS counts them.
+std::uint32_t PalmNow()
+{
+    using namespace std::chrono;
+    constexpr sys_days Epoch = 1904y / January / 1;
+    return static_cast<std::uint32_t>(duration_cast<seconds>(system_clock::now() - Epoch).count());
+}
+
+std::optional<int> NumberOf(std::string_view text)
+{
+    int number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc() || number < 0 || number > 255)
+        return std::nullopt;
+    return number;
+}
+
+/// The decimal ID behind the type; what follows the number doesn't count.
+unsigned IdOf(std::string_view key)
+{
+    unsigned id = 0;
+    for (std::size_t i = 4; i < key.size() && key[i] >= '0' && key[i] <= '9' && id < 65536; ++i)
+        id = id * 10 + static_cast<unsigned>(key[i] - '0');
+    return id & 0xFFFF;
+}
+
+class Compiler {
+public:
+    Compiler(std::span<const TransparencyRow> transparency, const RecordForm& form,
+        const std::string& workFolder)
+        : m_form(form)
+        , m_workFolder(workFolder)
+    {
+        for (const TransparencyRow& row : transparency)
+            if (!row.file.empty())
+                m_transparency[row.file] = &row; // a later row overrides an earlier one
+    }
+
+    /// Throws CompileFailure.
+    Bytes Body(const ResourceRow& row)
+    {
+        if (row.IsPlainFile())
+            return ReadFile(row.key + ".bin");
+        Bytes family;
+        if (!row.lowFile.empty())
+            family = EncodeLowDensity(
+                ReadPicture(row.lowFile), m_form, ColourOf(row.lowFile), !row.highFile.empty());
+        if (!row.highFile.empty()) {
+            const Bytes mark = HighDensityMark();
+            const Bytes record =
+                EncodeHighDensity(ReadPicture(row.highFile), m_form, ColourOf(row.highFile));
+            family.insert(family.end(), mark.begin(), mark.end());
+            family.insert(family.end(), record.begin(), record.end());
+        }
+        return family;
+    }
+
+private:
+    Bytes ReadFile(const std::string& name) const
+    {
+        const std::string path = m_workFolder + name;
+        std::optional<Bytes> bytes = platform::ReadWholeFile(path);
+        if (!bytes)
+            throw CompileFailure{ .file = path, .reading = true };
+        return *std::move(bytes);
+    }
+
+    Picture ReadPicture(const std::string& name) const
+    {
+        std::optional<Picture> picture = DecodeBmp(ReadFile(name));
+        if (!picture)
+            throw CompileFailure{ .file = m_workFolder + name, .reading = true };
+        return *std::move(picture);
+    }
+
+    std::optional<Rgb> ColourOf(const std::string& file) const
+    {
+        const auto found = m_transparency.find(file);
+        if (found == m_transparency.end() || found->second->flag != "1")
+            return std::nullopt;
+        const TransparencyRow& row = *found->second;
+        const auto red = NumberOf(row.red), green = NumberOf(row.green), blue = NumberOf(row.blue);
+        if (!red || !green || !blue)
+            return std::nullopt;
+        return Rgb{ *red, *green, *blue };
+    }
+
+    RecordForm m_form;
+    std::string m_workFolder;
+    std::unordered_map<std::string, const TransparencyRow*> m_transparency;
+};
+
+Bytes Header(const std::string& databaseName, std::size_t count)
+{
+    constexpr std::size_t NameSize = 32, LongestName = 31;
+    constexpr unsigned ResourceDatabase = 0x0001;
+    Bytes bytes;
+    AppendText(bytes, std::string_view(databaseName).substr(0, LongestName), NameSize);
+    Append16(bytes, ResourceDatabase);
+    Append16(bytes, 1); // version
+    const std::uint32_t now = PalmNow();
+    Append32(bytes, now);
+    Append32(bytes, now);
+    Append32(bytes, 0); // never backed up
+    Append32(bytes, 1); // modification number
+    Append32(bytes, 0);
+    Append32(bytes, 0);
+    AppendText(bytes, "ICONVNTR", 8);
+    Append32(bytes, 0);
+    Append32(bytes, 0);
+    Append16(bytes, static_cast<unsigned>(count));
+    return bytes;
+}
+
+Bytes Database(
+    std::span<const ResourceRow> resources, const std::string& databaseName, Compiler& compiler)
+{
+    Bytes file = Header(databaseName, resources.size());
+    const std::size_t dataStart = HeaderSize + EntrySize * resources.size() + Gap;
+    Bytes data;
+    for (const ResourceRow& row : resources) {
+        data.resize((data.size() + 1) / 2 * 2);
+        AppendText(file, std::string_view(row.key).substr(0, 4), 4);
+        Append16(file, IdOf(row.key));
+        Append32(file, static_cast<std::uint32_t>(dataStart + data.size()));
+        const Bytes body = compiler.Body(row);
+        data.insert(data.end(), body.begin(), body.end());
+    }
+    file.resize(dataStart);
+    file.insert(file.end(), data.begin(), data.end());
+    return file;
+}
+
+} // namespace
+
+std::error_code WriteItbl(
+    std::span<const ItblValue> values, std::span<const ItblKey> keys, const std::string& path)
+{
+    std::vector<std::size_t> order(values.size());
+    std::iota(order.begin(), order.end(), std::size_t{ 0 });
+    const auto sum = [&](std::size_t i) { return keys[i].entryClass + keys[i].creator; };
+    std::stable_sort(order.begin(), order.end(),
+        [&](std::size_t left, std::size_t right) { return sum(left) < sum(right); });
+
+    Bytes body;
+    for (const std::size_t i : order) {
+        Append32(body, values[i].type);
+        Append32(body, values[i].creator);
+        Append16(body, values[i].largeId);
+        Append16(body, values[i].smallId);
+        Append32(body, 0);
+    }
+    return platform::ReplaceFile(path, body);
+}
+
+std::optional<CompileFailure> CompilePRC(std::span<const ResourceRow> resources,
+    std::span<const TransparencyRow> transparency, Palette palette8, Palette palette4, int depth,
+    bool pack, const std::string& outputPath, const std::string& databaseName,
+    const std::string& workFolder)
+{
+    try {
+        Compiler compiler(transparency,
+            { .depth = depth, .packed = pack, .palette8 = palette8, .palette4 = palette4 },
+            workFolder);
+        const Bytes file = Database(resources, databaseName, compiler);
+        if (const std::error_code error = platform::ReplaceFile(outputPath, file))
+            return CompileFailure{ .file = outputPath, .error = error };
+        return std::nullopt;
+    } catch (const CompileFailure& failure) {
+        return failure;
+    }
+}
+
+} // namespace vypx

@@ -1,0 +1,223 @@
+#include "companion/PalmRecord.h"
+
+#include "companion/NearestColour.h"
+
+#include <algorithm>
+
+namespace vypx {
+
+namespace {
+
+constexpr std::uint16_t Compressed = 0x8000, HasTransparent = 0x2000, DirectColour = 0x0400;
+constexpr std::uint8_t PackBitsType = 2, NoCompression = 0xFF;
+
+void Put8(Bytes& bytes, std::size_t offset, int value)
+{
+    bytes[offset] = static_cast<std::uint8_t>(value);
+}
+
+void Put16(Bytes& bytes, std::size_t offset, int value)
+{
+    Put8(bytes, offset, value >> 8);
+    Put8(bytes, offset + 1, value & 0xFF);
+}
+
+int RowBytesOf(int width, int depth) { return (width * depth + 15) / 16 * 2; }
+
+int IndexOf(const RecordForm& form, Rgb colour)
+{
+    return NearestIn(form.depth == 4 ? form.palette4 : form.palette8)
+        .IndexOf(colour.red, colour.green, colour.blue);
+}
+
+/// One row of pixels at the record's depth; the rest of the row stays 0.
+class RowMaker {
+public:
+    RowMaker(const Picture& picture, const RecordForm& form)
+        : m_picture(picture)
+        , m_depth(form.depth)
+        , m_nearest(NearestIn(form.depth == 4 ? form.palette4 : form.palette8))
+        , m_row(static_cast<std::size_t>(RowBytesOf(picture.Width(), form.depth)))
+    {
+    }
+
+    const Bytes& Make(int y)
+    {
+        std::fill(m_row.begin(), m_row.end(), std::uint8_t{ 0 });
+        const std::uint8_t* in = m_picture.Row(y);
+        std::uint8_t* const out = m_row.data();
+        for (int x = 0; x < m_picture.Width(); ++x, in += 3) {
+            if (m_depth == 16) {
+                const int value = To565({ in[0], in[1], in[2] });
+                out[2 * x] = static_cast<std::uint8_t>(value >> 8);
+                out[2 * x + 1] = static_cast<std::uint8_t>(value);
+                continue;
+            }
+            const int index = IndexAt(in);
+            if (m_depth == 8)
+                out[x] = static_cast<std::uint8_t>(index);
+            else
+                out[x / 2] =
+                    static_cast<std::uint8_t>(out[x / 2] | (x % 2 == 0 ? index << 4 : index));
+        }
+        return m_row;
+    }
+
+private:
+    /// Neighbours often have one colour, which is then looked up once.
+    int IndexAt(const std::uint8_t* pixel)
+    {
+        const int colour = pixel[0] << 16 | pixel[1] << 8 | pixel[2];
+        if (colour != m_lastColour) {
+            m_lastColour = colour;
+            m_lastIndex = m_nearest.IndexOf(pixel[0], pixel[1], pixel[2]);
+        }
+        return m_lastIndex;
+    }
+
+    const Picture& m_picture;
+    int m_depth;
+    NearestColour& m_nearest;
+    Bytes m_row;
+    int m_lastColour = -1, m_lastIndex = 0;
+};
+
+/// The record's pixels; empty when they can't be packed into a size field of that many bytes.
+std::optional<Bytes> PackedPixels(
+    const Picture& picture, const RecordForm& form, std::size_t sizeField)
+{
+    Bytes packed(sizeField);
+    RowMaker rows(picture, form);
+    for (int y = 0; y < picture.Height(); ++y)
+        AppendPackBits(packed, rows.Make(y), form.depth == 16 ? 2 : 1);
+    if (sizeField == 2 && packed.size() > UINT16_MAX)
+        return std::nullopt;
+    for (std::size_t i = 0; i < sizeField; ++i)
+        Put8(packed, i, static_cast<int>(packed.size() >> 8 * (sizeField - 1 - i) & 0xFF));
+    return packed;
+}
+
+Bytes PlainPixels(const Picture& picture, const RecordForm& form)
+{
+    Bytes pixels;
+    RowMaker rows(picture, form);
+    for (int y = 0; y < picture.Height(); ++y) {
+        const Bytes& row = rows.Make(y);
+        pixels.insert(pixels.end(), row.begin(), row.end());
+    }
+    return pixels;
+}
+
+/// Puts pixels behind the header, and what both densities have at the same place.
+Bytes Finish(Bytes record, const Picture& picture, const RecordForm& form, bool transparent,
+    std::size_t sizeField)
+{
+    std::optional<Bytes> packed;
+    if (form.packed)
+        packed = PackedPixels(picture, form, sizeField);
+    const bool direct = sizeField == 2 && form.depth == 16;
+    Put16(record, 0, picture.Width());
+    Put16(record, 2, picture.Height());
+    Put16(record, 4, RowBytesOf(picture.Width(), form.depth));
+    Put16(record, 6,
+        (packed ? Compressed : 0) | (transparent ? HasTransparent : 0)
+            | (direct ? DirectColour : 0));
+    Put8(record, 8, form.depth);
+    Put8(record, 13, packed ? PackBitsType : NoCompression);
+    const Bytes pixels = packed ? *packed : PlainPixels(picture, form);
+    record.insert(record.end(), pixels.begin(), pixels.end());
+    record.resize((record.size() + 3) / 4 * 4);
+    return record;
+}
+
+/// Length of the run that begins at a unit, 128 at most.
+std::size_t RunAt(std::span<const std::uint8_t> row, std::size_t at, std::size_t unit)
+{
+    constexpr std::size_t Longest = 128;
+    std::size_t length = 1;
+    while (length < Longest && (at + length + 1) * unit <= row.size()
+        && std::equal(row.begin() + static_cast<std::ptrdiff_t>(at * unit),
+            row.begin() + static_cast<std::ptrdiff_t>((at + 1) * unit),
+            row.begin() + static_cast<std::ptrdiff_t>((at + length) * unit)))
+        ++length;
+    return length;
+}
+
+} // namespace
+
+void AppendPackBits(Bytes& packed, std::span<const std::uint8_t> row, std::size_t unit)
+{
+    constexpr std::size_t LongestLiteral = 128;
+    const std::size_t units = row.size() / unit;
+    std::size_t literal = 0; // offset of the control byte of a literal that may go on
+    std::size_t literalLength = 0;
+    for (std::size_t at = 0; at < units;) {
+        const std::size_t run = RunAt(row, at, unit);
+        const auto first = row.begin() + static_cast<std::ptrdiff_t>(at * unit);
+        // A run of two single bytes costs as much as two more bytes of a literal, and ends it.
+        const bool worthARun = run > 2 || (run == 2 && (unit == 2 || literalLength == 0));
+        if (worthARun) {
+            packed.push_back(static_cast<std::uint8_t>(257 - run));
+            packed.insert(packed.end(), first, first + static_cast<std::ptrdiff_t>(unit));
+            literalLength = 0;
+            at += run;
+            continue;
+        }
+        if (literalLength == 0 || literalLength == LongestLiteral) {
+            literal = packed.size();
+            literalLength = 0;
+            packed.push_back(0);
+        }
+        packed.insert(packed.end(), first, first + static_cast<std::ptrdiff_t>(unit));
+        packed[literal] = static_cast<std::uint8_t>(literalLength++);
+        ++at;
+    }
+}
+
+Bytes EncodeLowDensity(const Picture& picture, const RecordForm& form,
+    const std::optional<Rgb>& transparent, bool leadsOn)
+{
+    Bytes record(form.depth == 16 ? 24 : 16);
+    Put8(record, 9, 2);
+    if (form.depth == 16) {
+        Put8(record, 16, 5);
+        Put8(record, 17, 6);
+        Put8(record, 18, 5);
+        // The colour that the picture's own pixels will have once they are read again.
+        const Rgb colour = transparent ? From565(To565(*transparent)) : Black;
+        Put8(record, 21, colour.red);
+        Put8(record, 22, colour.green);
+        Put8(record, 23, colour.blue);
+    } else if (transparent) {
+        Put8(record, 12, IndexOf(form, *transparent));
+    }
+    record = Finish(std::move(record), picture, form, transparent.has_value(), 2);
+    if (leadsOn)
+        Put16(record, 10, static_cast<int>(record.size() / 4));
+    return record;
+}
+
+Bytes EncodeHighDensity(
+    const Picture& picture, const RecordForm& form, const std::optional<Rgb>& transparent)
+{
+    Bytes record(24);
+    Put8(record, 9, 3);
+    Put8(record, 10, 24);
+    Put8(record, 11, form.depth == 16 ? 1 : 0);
+    Put16(record, 14, 144);
+    if (transparent && form.depth == 16)
+        Put16(record, 18, To565(*transparent));
+    else if (transparent)
+        Put8(record, 19, IndexOf(form, *transparent));
+    return Finish(std::move(record), picture, form, transparent.has_value(), 4);
+}
+
+Bytes HighDensityMark()
+{
+    Bytes mark(16);
+    mark[8] = 0xFF;
+    mark[9] = 1;
+    return mark;
+}
+
+} // namespace vypx

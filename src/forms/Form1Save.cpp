@@ -1,0 +1,139 @@
+#include "document/Document.h"
+#include "document/WorkingFolder.h"
+#include "forms/Ask.h"
+#include "forms/Form1.h"
+#include "forms/Text.h"
+#include "settings/Settings.h"
+#include "ui_Form1.h"
+#include "writer/CompileIconset.h"
+#include "writer/SaveChecks.h"
+
+namespace vypx {
+
+namespace {
+
+constexpr const char* NoImages = "Can't save. The iconset doesn't contain any images.";
+
+} // namespace
+
+void Form1::mnuSave_Click() { SaveIconset(); }
+
+void Form1::SaveIconset()
+{
+    if (!PassesSaveChecks())
+        return;
+    if (FileName.empty())
+        SaveNewIconset();
+    else
+        SaveToKnownName();
+}
+
+bool Form1::PassesSaveChecks()
+{
+    const std::optional<std::string_view> why = WhyNotSaved();
+    if (why)
+        Message(*why);
+    return !why;
+}
+
+void Form1::SaveToKnownName()
+{
+    if (FileExists(FileName) && WarnOverwrite) {
+        const auto answer = m_ask.Show(this,
+            { .text = "About to overwrite the existing file.\nAre you sure?",
+                .title = "Overwrite file?",
+                .icon = QMessageBox::Warning,
+                .buttons = QMessageBox::Yes | QMessageBox::No });
+        if (answer != QMessageBox::Yes)
+            return;
+    }
+    if (!HasNormalImages()) {
+        Message(NoImages);
+        return;
+    }
+    SavingAs = false;
+    if (Compile())
+        IconsetChanged = false;
+}
+
+/// On purpose: unlike Save As, this takes the document for unchanged before it is written, and goes
+/// on without a name.
+void Form1::SaveNewIconset()
+{
+    if (!HasNormalImages()) {
+        Message(NoImages);
+        return;
+    }
+    SavingAs = true;
+    const std::optional<std::string> path = ChooseTarget();
+    if (!path)
+        return;
+    FileName = *path;
+    if (FileName.empty())
+        Message("Can't save. Filename not specified.");
+    TakeTargetFolder();
+    IconsetChanged = false;
+    SavingAs = true;
+    if (Compile())
+        SavingAs = false;
+}
+
+void Form1::mnuSaveAs_Click()
+{
+    if (!PassesSaveChecks())
+        return;
+    SavingAs = true;
+    const std::optional<std::string> path = ChooseTarget();
+    if (!path)
+        return;
+    FileName = *path;
+    TakeTargetFolder();
+    SavingAs = true;
+    if (!Compile())
+        return;
+    IconsetChanged = false;
+    SavingAs = false;
+}
+
+/// Empty when the dialog was cancelled.
+std::optional<std::string> Form1::ChooseTarget()
+{
+    SaveQuestion question{
+        .title = tr("Save Iconset"),
+        .folder = {},
+        .filters = { "Vantry Iconset (*.prc *.pdb)" },
+        // On purpose: the template's ending on this dialog too.
+        .defaultEnding = "vpt",
+    };
+    if (UseLastDirs && DirExists(LastDirIconsetSave))
+        question.folder = ShownPath(LastDirIconsetSave);
+    const QString chosen = m_ask.SaveFile(this, question);
+    if (chosen.isEmpty())
+        return std::nullopt;
+    return chosen.toStdString();
+}
+
+void Form1::TakeTargetFolder()
+{
+    LastDirIconsetSave = FolderOf(FileName);
+    SaveSettings();
+    ShowStatus(1, "Windows Filename = " + ShownPath(LastComponent(FileName)));
+}
+
+/// Writes the iconset. A failure shows no box but a note that stays until a save succeeds; the old
+/// file stands.
+bool Form1::Compile()
+{
+    try {
+        CompileIconset();
+        m_ui->lblNotSaved->setVisible(false);
+        return true;
+    } catch (const std::exception& failure) {
+        m_ui->lblNotSaved->setText(
+            tr("The iconset was not saved. %1").arg(QString::fromStdString(failure.what())));
+        m_ui->lblNotSaved->setVisible(true);
+        return false;
+    }
+}
+
+} // namespace vypx

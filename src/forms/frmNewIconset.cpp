@@ -1,0 +1,47 @@
+#include "forms/frmNewIconset.h"
+
+#include "forms/Look.h"
+#include "forms/Text.h"
+#include "ui_frmNewIconset.h"
+
+#include <QKeyEvent>
+
+namespace vypx {
+
+frmNewIconset::frmNewIconset(QWidget* parent)
+    : QDialog(parent)
+    , m_ui(std::make_unique<Ui::frmNewIconset>())
+{
+    m_ui->setupUi(this);
+    setAttribute(Qt::WA_DeleteOnClose);
+    PaintChrome(*this);
+    move(DialogPlace());
+    m_ui->txtNewIconsetDBName->setValidator(Latin1Validator(*m_ui->txtNewIconsetDBName));
+    m_ui->txtNewIconsetDBName->installEventFilter(this);
+    connect(m_ui->cmdDoneName, &QPushButton::clicked, this, &frmNewIconset::cmdDoneName_Click);
+    connect(m_ui->cmdCancelName, &QPushButton::clicked, this, &QDialog::close);
+    m_ui->txtNewIconsetDBName->setFocus();
+}
+
+frmNewIconset::~frmNewIconset() = default;
+
+void frmNewIconset::cmdDoneName_Click()
+{
+    emit Done(m_ui->txtNewIconsetDBName->text());
+    close();
+}
+
+/// Into an empty box no character below "A" can be typed; it can be pasted.
+bool frmNewIconset::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress && m_ui->txtNewIconsetDBName->text().isEmpty()) {
+        const QString typed = static_cast<QKeyEvent*>(event)->text();
+        constexpr ushort FirstControlEnd = 32, FirstLetter = 65;
+        if (!typed.isEmpty() && typed[0].unicode() >= FirstControlEnd
+            && typed[0].unicode() < FirstLetter)
+            return true;
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+} // namespace vypx

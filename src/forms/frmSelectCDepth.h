@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+namespace Ui {
+class frmSelectCDepth;
+}
+
+namespace vypx {
+
+/// Asks for the colour depth and the resolutions of a document that is to be opened or made. It
+/// does not block the main form; every choice takes effect at once. Closing it by its frame gives
+/// the command up.
+class frmSelectCDepth : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit frmSelectCDepth(QWidget* parent);
+    ~frmSelectCDepth() override;
+
+signals:
+    /// HighResOnly and LowResOnly have new values.
+    void ResolutionChosen();
+    /// On to the document. The window is hidden.
+    void Done();
+
+private:
+    void ConnectDepths();
+    void ConnectResolutions();
+    void ShowDepthWarning();
+    void TakeResolution();
+    void cmdDoneCDepth_Click();
+
+    std::unique_ptr<Ui::frmSelectCDepth> m_ui;
+};
+
+/// What follows the window: a new iconset, or one that is opened.
+inline bool PendingNew = false, PendingOpen = false;
+
+} // namespace vypx

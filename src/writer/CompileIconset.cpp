@@ -1,0 +1,138 @@
+#include "writer/CompileIconset.h"
+
+#include "document/Document.h"
+#include "document/Slot.h"
+#include "document/WorkingFolder.h"
+#include "platform/Platform.h"
+#include "settings/Settings.h"
+#include "writer/IconIndex.h"
+
+#include <unordered_set>
+
+namespace vypx {
+
+namespace {
+
+constexpr std::string_view VersionKey = "tver1000", IndexKey = "iTbl1000";
+
+std::span<const std::uint8_t> BytesOf(std::string_view text)
+{
+    return { reinterpret_cast<const std::uint8_t*>(text.data()), text.size() };
+}
+
+/// Whether a file cell holds a picture: "bmp" in any letter case.
+bool NamesABmp(const std::string& cell) { return LowerCase(cell).find("bmp") != std::string::npos; }
+
+bool Qualifies(const IconRow& row)
+{
+    const bool hasPicture = NamesABmp(row.LowResFile) || NamesABmp(row.HighResFile);
+    const bool isKept = KeepUnknown || row.IconKind != KindUnknown;
+    return hasPicture && isKept && row.IconState != 0;
+}
+
+int DepthArgument()
+{
+    return DefaultColorDepth == "4-Bit" ? 4 : DefaultColorDepth == "8-Bit" ? 8 : 16;
+}
+
+/// Scratch files of an earlier compile must not get into this one.
+void DeleteScratchFiles()
+{
+    DeleteWorkingFiles({ ".bin" });
+    if (FileExists(WorkPath("*.bin")))
+        throw SaveFailure(WorkPath("*.bin"), "an old scratch file can't be deleted");
+}
+
+void BackUp()
+{
+    if (!FileExists(FileName) || SavingAs || !CreateBackup)
+        return;
+    const auto old = platform::ReadWholeFile(FileName);
+    if (!old)
+        throw SaveFailure(FileName, "the old file can't be read for its backup");
+    if (const std::error_code error = platform::ReplaceFile(FileName + ".bak", *old))
+        throw SaveFailure(FileName + ".bak", error.message());
+}
+
+} // namespace
+
+SaveFailure::SaveFailure(const std::string& file, const std::string& reason)
+    : std::runtime_error(file + ": " + reason)
+{
+}
+
+SaveFailure::SaveFailure(const CompileFailure& failure)
+    : SaveFailure(failure.file,
+        failure.reading ? "this working file is missing or no picture" : failure.error.message())
+{
+}
+
+void WriteVersionResource()
+{
+    std::string text = VersionString.substr(0, VersionString.find_last_not_of(' ') + 1);
+    text += '\0';
+    const std::string path = WorkPath(std::string(VersionKey) + ".bin");
+    if (const std::error_code error = platform::ReplaceFile(path, BytesOf(text)))
+        throw SaveFailure(path, error.message());
+}
+
+std::vector<ResourceRow> PictureRows()
+{
+    std::vector<ResourceRow> rows;
+    std::unordered_set<std::string> keys;
+    for (const IconRow& icon : IconTable) {
+        // Icons that share a resource give one.
+        if (!Qualifies(icon) || !keys.insert(icon.ResourceKey).second)
+            continue;
+        rows.push_back({
+            .lowFile = NamesABmp(icon.LowResFile) ? icon.LowResFile : std::string(),
+            .highFile = NamesABmp(icon.HighResFile) ? icon.HighResFile : std::string(),
+            .key = icon.ResourceKey,
+        });
+    }
+    return rows;
+}
+
+std::vector<TransparencyRow> TransparencyRows()
+{
+    std::vector<TransparencyRow> rows(BitmapTable.size());
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const BitmapEntry& bitmap = BitmapTable[i];
+        if (bitmap.file.empty())
+            continue;
+        rows[i].file = bitmap.file;
+        rows[i].flag = std::to_string(bitmap.hasTransparent.value_or(0));
+        // A flagged picture of 1 or 2 bits has no colour of its own but that of its index.
+        const std::optional<Rgb> colour = TransparentColour(bitmap);
+        if (!colour)
+            continue;
+        rows[i].red = std::to_string(colour->red);
+        rows[i].green = std::to_string(colour->green);
+        rows[i].blue = std::to_string(colour->blue);
+    }
+    return rows;
+}
+
+void CompileIconset()
+{
+    DeleteScratchFiles();
+    WriteVersionResource();
+    BuildIconTableResource();
+    std::vector<ResourceRow> resources = PictureRows();
+    const auto addFile = [&](std::string_view name) {
+        resources.push_back({ .lowFile = std::string(name),
+            .highFile = std::string(name),
+            .key = std::string(name) });
+    };
+    addFile(VersionKey);
+    if (FileExists(WorkPath(std::string(IndexKey) + ".bin")))
+        addFile(IndexKey);
+    const std::vector<TransparencyRow> transparency = TransparencyRows();
+    BackUp();
+    const auto failure = CompilePRC(resources, transparency, Palette8, Palette4, DepthArgument(),
+        UsePackbits, FileName, DatabaseName, WorkFolder() + platform::PathSeparator);
+    if (failure)
+        throw SaveFailure(*failure);
+}
+
+} // namespace vypx

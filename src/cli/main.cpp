@@ -1,3 +1,4 @@
+#include "cli/Convert.h"
 #include "cli/Dump.h"
 
 #include <CLI/CLI.hpp>
@@ -6,21 +7,38 @@
 
 namespace {
 
-void AddDump(CLI::App& tool, vypx::OpenOptions& options)
+void AddOpenOptions(CLI::App& command, vypx::OpenOptions& options)
 {
-    CLI::App* dump = tool.add_subcommand("dump", "Open an iconset and print it as JSON");
-    dump->add_option("FILE", options.file, "Iconset (.prc, .pdb) or template (.vpt)")->required();
-    dump->add_option("--app-folder", options.appFolder, "Folder with the catalogs")
+    command.add_option("FILE", options.file, "Iconset (.prc, .pdb) or template (.vpt)")->required();
+    command.add_option("--app-folder", options.appFolder, "Folder with the catalogs")
         ->required()
         ->check(CLI::ExistingDirectory);
-    dump->add_option("--work", options.workFolder, "Folder for the pictures; absent or empty")
+    command.add_option("--work", options.workFolder, "Folder for the pictures; absent or empty")
         ->required();
-    dump->add_option("--depth", options.depth, "Working colour depth")
+    command.add_option("--depth", options.depth, "Working colour depth")
         ->check(CLI::IsMember({ "4-Bit", "8-Bit", "16-Bit" }))
         ->capture_default_str();
-    dump->add_option("--only", options.only, "Keep the pictures of one resolution only")
+    command.add_option("--only", options.only, "Keep the pictures of one resolution only")
         ->check(CLI::IsMember({ "high", "low" }));
+}
+
+CLI::App& AddDump(CLI::App& tool, vypx::OpenOptions& options)
+{
+    CLI::App* dump = tool.add_subcommand("dump", "Open an iconset and print it as JSON");
+    AddOpenOptions(*dump, options);
     dump->add_flag("--template", options.asTemplate, "FILE is a template");
+    return *dump;
+}
+
+void AddConvert(CLI::App& tool, vypx::ConvertOptions& options)
+{
+    CLI::App* convert = tool.add_subcommand("convert", "Open an iconset and save it as OUT");
+    AddOpenOptions(*convert, options.open);
+    convert->add_option("OUT", options.out, "File to write; may be FILE")->required();
+    convert->add_flag("--packbits", options.packed, "Compress the pictures");
+    convert->add_flag("--drop-unknown", options.dropUnknown, "Leave unknown icons out");
+    convert->add_option("--version-string", options.versionString, "Text of the version resource");
+    convert->add_option("--name", options.databaseName, "Palm database name");
 }
 
 } // namespace
@@ -29,11 +47,13 @@ int main(int argc, char** argv)
 {
     CLI::App tool("VY Pixelworks without windows: iconsets on the command line", "pixelworks-cli");
     tool.require_subcommand(1);
-    vypx::OpenOptions options;
-    AddDump(tool, options);
+    vypx::OpenOptions dumpOptions;
+    vypx::ConvertOptions convertOptions;
+    const CLI::App& dump = AddDump(tool, dumpOptions);
+    AddConvert(tool, convertOptions);
     try {
         tool.parse(argc, argv);
-        return vypx::Dump(options);
+        return dump.parsed() ? vypx::Dump(dumpOptions) : vypx::Convert(convertOptions);
     } catch (const CLI::ParseError& error) {
         const bool askedForHelp = tool.exit(error) == 0;
         return askedForHelp ? 0 : 2;

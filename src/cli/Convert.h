@@ -1,0 +1,20 @@
+#pragma once
+
+#include "cli/OpenIconset.h"
+
+#include <optional>
+
+namespace vypx {
+
+struct ConvertOptions {
+    OpenOptions open;
+    std::string out; ///< may be the file that is opened
+    bool packed = false, dropUnknown = false;
+    std::optional<std::string> versionString, databaseName; ///< UTF-8
+};
+
+/// Opens an iconset and writes it as Save As would. Messages and what keeps it from being written
+/// go to standard error. 0: OUT is complete; 1: it was not written; 2: as Dump.
+int Convert(const ConvertOptions& options);
+
+} // namespace vypx

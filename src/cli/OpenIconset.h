@@ -1,0 +1,32 @@
+#pragma once
+
+#include "reader/LoadListener.h"
+
+#include <string>
+#include <vector>
+
+namespace vypx {
+
+/// What the command line says about the iconset to open and where.
+struct OpenOptions {
+    std::string file;             ///< the iconset or template
+    std::string appFolder;        ///< folder with the catalogs
+    std::string workFolder;       ///< for the working pictures; absent or empty
+    std::string depth = "16-Bit"; ///< "4-Bit", "8-Bit" or "16-Bit"
+    std::string only;             ///< "high", "low" or empty
+    bool asTemplate = false;
+};
+
+/// Keeps the texts that the windows would show in boxes.
+class CollectedMessages : public LoadListener {
+public:
+    void Message(std::string_view text) override { texts.emplace_back(text); }
+
+    std::vector<std::string> texts;
+};
+
+/// Reads the catalogs and opens the iconset, with the settings of a first run. False, and a word to
+/// standard error, when the folders can't serve; whether a document was opened FileLoaded tells.
+bool OpenIconset(const OpenOptions& options, CollectedMessages& messages);
+
+} // namespace vypx

@@ -1,0 +1,252 @@
+#include "companion/PalmDatabase.h"
+
+#include "companion/BmpFile.h"
+#include "companion/NearestColour.h"
+#include "companion/PalmRecord.h"
+#include "support/Files.h"
+#include "support/Iconsets.h"
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+namespace vypx::test {
+
+namespace {
+
+Bytes Packed(const std::string& row, std::size_t unit = 1)
+{
+    Bytes packed;
+    AppendPackBits(packed, Hex(row), unit);
+    return packed;
+}
+
+TEST(PackBits, RunsAndLiterals)
+{
+    EXPECT_EQ(Packed("AAAAAA"), Hex("FEAA"));
+    EXPECT_EQ(Packed("010203"), Hex("02010203"));
+    EXPECT_EQ(Packed("AAAAAA0102"), Hex("FEAA010102"));
+    EXPECT_EQ(Packed("0102AAAAAA"), Hex("010102FEAA"));
+}
+
+TEST(PackBits, TwoEqualBytesStayInALiteralThatIsThere)
+{
+    EXPECT_EQ(Packed("01AAAA02"), Hex("0301AAAA02")) << "five bytes; a run of its own gives six";
+    EXPECT_EQ(Packed("AAAA01"), Hex("FFAA0001"));
+}
+
+TEST(PackBits, RunsAndLiteralsEndAt128)
+{
+    Bytes packed;
+    AppendPackBits(packed, Bytes(129, 0x55), 1);
+    EXPECT_EQ(packed, Hex("81550055"));
+
+    Bytes row;
+    for (int i = 0; i < 130; ++i)
+        row.push_back(static_cast<std::uint8_t>(i));
+    packed.clear();
+    AppendPackBits(packed, row, 1);
+    EXPECT_EQ(packed.size(), 132u);
+    EXPECT_EQ(packed[0], 127);
+    EXPECT_EQ(packed[129], 1);
+}
+
+TEST(PackBits, SixteenBitsPackPairs)
+{
+    EXPECT_EQ(Packed("1234123412345678", 2), Hex("FE1234005678"));
+    EXPECT_EQ(Packed("1212", 2), Hex("001212")) << "one pair, not two bytes";
+}
+
+/// Two pixels: white, and (255, 0, 255), which is index 5.
+Picture TwoPixels()
+{
+    Picture picture(2, 1);
+    picture.Set(0, 0, { 255, 255, 255 });
+    picture.Set(1, 0, { 255, 0, 255 });
+    return picture;
+}
+
+RecordForm Form(int depth, bool packed = false)
+{
+    return { .depth = depth, .packed = packed, .palette8 = Palette8, .palette4 = Palette4 };
+}
+
+TEST(PalmRecord, LowDensityAt8Bits)
+{
+    EXPECT_EQ(EncodeLowDensity(TwoPixels(), Form(8), Rgb{ 255, 0, 255 }, false),
+        Hex("0002 0001 0002 2000 08 02 0000 05 FF 0000 0005 0000"));
+}
+
+TEST(PalmRecord, LowDensityAt4BitsTakesTheHighNibbleFirst)
+{
+    EXPECT_EQ(EncodeLowDensity(TwoPixels(), Form(4), std::nullopt, false),
+        Hex("0002 0001 0002 0000 04 02 0000 00 FF 0000 0500 0000"));
+}
+
+TEST(PalmRecord, LowDensityAt16BitsHasADirectColourBlock)
+{
+    // The colour is the one that the pixels widen back to: 250 has 30 in 5 bits, 30 x 255 / 31 =
+    // 247
+    EXPECT_EQ(EncodeLowDensity(TwoPixels(), Form(16), Rgb{ 250, 0, 255 }, false),
+        Hex("0002 0001 0004 2400 10 02 0000 00 FF 0000 050605 00 00 F700FF FFFF F81F"));
+}
+
+TEST(PalmRecord, ALowDensityRecordLeadsToWhatFollows)
+{
+    const Bytes record = EncodeLowDensity(TwoPixels(), Form(8), std::nullopt, true);
+
+    EXPECT_EQ(record.size(), 20u);
+    EXPECT_EQ(record[11], 5) << "in units of four bytes";
+}
+
+TEST(PalmRecord, HighDensityAt8And16Bits)
+{
+    EXPECT_EQ(EncodeHighDensity(TwoPixels(), Form(8), Rgb{ 255, 0, 255 }),
+        Hex("0002 0001 0002 2000 08 03 18 00 00 FF 0090 00000005 00000000 0005 0000"));
+    EXPECT_EQ(EncodeHighDensity(TwoPixels(), Form(16), Rgb{ 255, 0, 255 }),
+        Hex("0002 0001 0004 2000 10 03 18 01 00 FF 0090 0000F81F 00000000 FFFF F81F"));
+}
+
+TEST(PalmRecord, PackedPixelsStandBehindTheirSize)
+{
+    Picture flat(4, 1);
+    for (int x = 0; x < 4; ++x)
+        flat.Set(x, 0, { 255, 0, 255 });
+
+    EXPECT_EQ(EncodeLowDensity(flat, Form(8, true), std::nullopt, false),
+        Hex("0004 0001 0004 8000 08 02 0000 00 02 0000 0004 FD05"));
+    EXPECT_EQ(EncodeHighDensity(flat, Form(8, true), std::nullopt),
+        Hex("0004 0001 0004 8000 08 03 18 00 00 02 0090 00000000 00000000 00000006 FD05 0000"));
+}
+
+TEST(PalmRecord, LowDensityPixelsThatASizeOf16BitsCannotTellAreNotPacked)
+{
+    Picture noise(300, 300);
+    for (int y = 0; y < 300; ++y)
+        for (int x = 0; x < 300; ++x)
+            noise.Set(x, y, Palette8[static_cast<std::size_t>((x * 7 + y * 13 + x * y) % 200)]);
+
+    const Bytes record = EncodeLowDensity(noise, Form(8, true), std::nullopt, false);
+
+    EXPECT_EQ(record[6] & 0x80, 0);
+    EXPECT_EQ(record.size(), 16u + 300 * 300);
+}
+
+class Database : public ::testing::Test {
+protected:
+    Database()
+    {
+        WriteBytes(folder.File("tver1000.bin"), Hex("332E3230 00"));
+        WriteBytes(folder.File("iTbl1000.bin"), Bytes(16, 7));
+        WriteBytes(folder.File("a.bmp"), EncodeBmp24(TwoPixels()));
+    }
+
+    std::optional<CompileFailure> Compile(
+        const std::vector<ResourceRow>& rows, const std::string& name = "Name")
+    {
+        return CompilePRC(rows, {}, Palette8, Palette4, 8, false, out, name, folder.Path() + "/");
+    }
+    Bytes Out() const { return ReadBytes(out); }
+
+    TempFolder folder;
+    std::string out = folder.File("out.prc");
+};
+
+const ResourceRow Version{ "tver1000", "tver1000", "tver1000" };
+const ResourceRow Index{ "iTbl1000", "iTbl1000", "iTbl1000" };
+
+TEST_F(Database, OfPlainFilesOnlyIsAValidOneWithoutAPicture)
+{
+    EXPECT_FALSE(Compile({ Version, Index }));
+
+    const Bytes file = Out();
+    EXPECT_EQ(Bytes(file.begin(), file.begin() + 5), Hex("4E616D6500"));
+    EXPECT_EQ(Bytes(file.begin() + 32, file.begin() + 36), Hex("0001 0001"));
+    EXPECT_EQ(Bytes(file.begin() + 60, file.begin() + 68), Hex("49434F4E 564E5452"));
+    EXPECT_EQ(Bytes(file.begin() + 76, file.begin() + 98),
+        Hex("0002 74766572 03E8 00000064 6954626C 03E8 0000006A"));
+    EXPECT_EQ(Bytes(file.begin() + 100, file.end()),
+        Hex("332E323000 00 07070707070707070707070707070707"))
+        << "each resource begins at an even offset";
+}
+
+TEST_F(Database, CountsItsDatesFrom1904)
+{
+    Compile({ Version });
+
+    const Bytes bytes = Out();
+    const std::uint32_t created = ByteView(bytes).U32(36);
+    const auto now = static_cast<std::uint32_t>(std::time(nullptr) + 2082844800);
+    EXPECT_NEAR(created, now, 5);
+    EXPECT_EQ(ByteView(bytes).U32(40), created);
+}
+
+TEST_F(Database, ANameOfMoreThan31CharactersIsCutBeforeItsZero)
+{
+    Compile({ Version }, std::string(40, 'x'));
+
+    const Bytes file = Out();
+    EXPECT_EQ(file[30], 'x');
+    EXPECT_EQ(file[31], 0);
+}
+
+TEST_F(Database, AFamilyIsLowThenMarkThenHigh)
+{
+    Compile({ { "a.bmp", "a.bmp", "tAIB3500" } });
+
+    const Bytes file = Out();
+    const Bytes low = EncodeLowDensity(TwoPixels(), Form(8), std::nullopt, true);
+    const Bytes high = EncodeHighDensity(TwoPixels(), Form(8), std::nullopt);
+    Bytes expected = Join({ low, HighDensityMark(), high });
+    EXPECT_EQ(Bytes(file.begin() + 90, file.end()), expected);
+    EXPECT_EQ(Bytes(file.begin() + 78, file.begin() + 84), Hex("74414942 0DAC"));
+}
+
+TEST_F(Database, WithAHighResPictureOnlyTheMarkComesFirst)
+{
+    Compile({ { "", "a.bmp", "Tbmp1" } });
+
+    EXPECT_EQ(Out()[90 + 8], 0xFF);
+}
+
+TEST_F(Database, AMissingPictureIsAFailureAndNoFileAppears)
+{
+    const auto failure = Compile({ { "gone.bmp", "", "tAIB3500" } });
+
+    ASSERT_TRUE(failure);
+    EXPECT_TRUE(failure->reading);
+    EXPECT_EQ(failure->file, folder.File("gone.bmp"));
+    EXPECT_FALSE(std::filesystem::exists(out));
+}
+
+TEST_F(Database, AFailureLeavesTheOldFile)
+{
+    WriteText(out, "old");
+    WriteText(folder.File("bad.bmp"), "no picture");
+
+    EXPECT_TRUE(Compile({ { "bad.bmp", "", "tAIB3500" } }));
+    EXPECT_TRUE(CompilePRC(
+        {}, {}, Palette8, Palette4, 8, false, folder.File("no/out.prc"), "", folder.Path() + "/"));
+
+    EXPECT_EQ(ReadText(out), "old");
+}
+
+TEST(WriteItbl, SortsByClassAndThenByCreatorWithTheLargeIdFirst)
+{
+    const TempFolder folder;
+    const std::vector<ItblValue> values{
+        { 0x70616E6C, 0x41414141, 3501, 3500 }, // a panel
+        { 0x6170706C, 0x62626262, 3503, 0 },
+        { 0x6170706C, 0x41414141, 0, 3504 },
+    };
+    const std::vector<ItblKey> keys{ { 2e13, 1 }, { 1e13, 500 }, { 1e13, 2 } };
+
+    EXPECT_FALSE(WriteItbl(values, keys, folder.File("i.bin")));
+
+    EXPECT_EQ(ReadBytes(folder.File("i.bin")),
+        Hex("6170706C 41414141 0DB0 0000 00000000"
+            "6170706C 62626262 0000 0DAF 00000000"
+            "70616E6C 41414141 0DAC 0DAD 00000000"));
+}
+
+} // namespace
+} // namespace vypx::test

@@ -19,9 +19,10 @@ std::string Quoted(const std::string& argument)
 
 } // namespace
 
-ToolRun RunTool(const std::vector<std::string>& arguments)
+ToolRun RunTool(const std::vector<std::string>& arguments, const std::string& environment)
 {
-    std::string command = Quoted(VYPX_CLI);
+    std::string command =
+        (environment.empty() ? "" : "exec env " + environment + " ") + Quoted(VYPX_CLI);
     for (const std::string& argument : arguments)
         command += " " + Quoted(argument);
     FILE* const pipe = popen((command + " 2>/dev/null").c_str(), "r");

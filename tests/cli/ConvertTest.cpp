@@ -1,0 +1,144 @@
+#include "Tool.h"
+#include "support/Files.h"
+#include "support/Iconsets.h"
+#include "support/TempFolder.h"
+
+#include <filesystem>
+#include <gmock/gmock.h>
+
+namespace vypx::test {
+
+namespace {
+
+using nlohmann::json;
+
+class Convert : public ::testing::Test {
+protected:
+    Convert()
+    {
+        std::filesystem::copy(TestData("iconsets/catalogs"), folder.File("catalogs"));
+        std::filesystem::copy_file(TestData("iconsets/owners.prc"), folder.File("set.prc"));
+    }
+
+    ToolRun Run(const std::vector<std::string>& more, const std::string& environment = {})
+    {
+        std::filesystem::remove_all(folder.File("work"));
+        std::vector<std::string> arguments{ "convert", folder.File("set.prc"),
+            folder.File("out.prc"), "--app-folder", folder.File("catalogs"), "--work",
+            folder.File("work") };
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        return RunTool(arguments, environment);
+    }
+    json Dumped(const std::string& file)
+    {
+        std::filesystem::remove_all(folder.File("dump"));
+        return RunTool({ "dump", folder.File(file), "--app-folder", folder.File("catalogs"),
+                           "--work", folder.File("dump") })
+            .Json();
+    }
+    /// The file without its dates.
+    static Bytes WithoutDates(Bytes file)
+    {
+        if (file.size() > 44)
+            std::fill(file.begin() + 36, file.begin() + 44, std::uint8_t{ 0 });
+        return file;
+    }
+
+    TempFolder folder;
+};
+
+TEST_F(Convert, WritesWhatASaveWouldWrite)
+{
+    EXPECT_EQ(Run({}).exitCode, 0);
+
+    const json before = Dumped("set.prc"), after = Dumped("out.prc");
+    EXPECT_EQ(after["databaseName"], "owners");
+    EXPECT_EQ(after["icons"].size(), before["icons"].size() - 1) << "the orphan stays out";
+    for (std::size_t i = 0; i < after["icons"].size(); ++i)
+        EXPECT_EQ(after["icons"][i], before["icons"][i]);
+    EXPECT_FALSE(std::filesystem::exists(folder.File("out.prc.bak")));
+}
+
+TEST_F(Convert, OutMayBeTheFileItself)
+{
+    std::filesystem::remove_all(folder.File("work"));
+
+    EXPECT_EQ(RunTool({ "convert", folder.File("set.prc"), folder.File("set.prc"), "--app-folder",
+                          folder.File("catalogs"), "--work", folder.File("work") })
+                  .exitCode,
+        0);
+
+    EXPECT_EQ(Dumped("set.prc")["loaded"], true);
+}
+
+TEST_F(Convert, OptionsChangeWhatIsWritten)
+{
+    EXPECT_EQ(Run({ "--name", "Caf\xC3\xA9", "--drop-unknown", "--packbits", "--depth", "8-Bit",
+                      "--version-string", "9.9" })
+                  .exitCode,
+        0);
+
+    const json after = Dumped("out.prc");
+    for (const json& icon : after["icons"])
+        EXPECT_NE(icon["kind"], "UNKNOWN");
+    const std::string file = ReadText(folder.File("out.prc"));
+    EXPECT_EQ(file.substr(0, 5), std::string("Caf\xE9\0", 5));
+    EXPECT_NE(file.find(std::string("9.9\0", 4)), std::string::npos);
+}
+
+TEST_F(Convert, TheChecksOfASaveStopIt)
+{
+    Iconset unknown{ .resources = { { "tAIB", 3500, LowRecord(8) } } };
+    WriteBytes(folder.File("set.prc"), unknown.File());
+
+    EXPECT_EQ(Run({}).exitCode, 1);
+
+    EXPECT_FALSE(std::filesystem::exists(folder.File("out.prc")));
+}
+
+TEST_F(Convert, WrongUseIsExitCode2)
+{
+    EXPECT_EQ(RunTool({ "convert", folder.File("set.prc") }).exitCode, 2);
+}
+
+/// Every operation on the database fails once in every way, or the process dies there.
+class ConvertWithFaults : public Convert, public ::testing::WithParamInterface<std::string> { };
+
+TEST_P(ConvertWithFaults, LeaveTheOldFileOrTheNewOneWhole)
+{
+    ASSERT_EQ(Run({}).exitCode, 0);
+    const Bytes expected = WithoutDates(ReadBytes(folder.File("out.prc")));
+    const Bytes old = WithoutDates(Bytes(3000, 'o'));
+    const bool kills = GetParam() == "before" || GetParam() == "within" || GetParam() == "after";
+    const auto runWithFault = [&](int at) {
+        WriteBytes(folder.File("out.prc"), old);
+        return Run({},
+            "LD_PRELOAD=" VYPX_FAULTS " ASAN_OPTIONS=verify_asan_link_order=0:detect_leaks=0 "
+            "FAULT_PATH=out.prc FAULT_KIND="
+                + GetParam() + " FAULT_AT=" + std::to_string(at)
+                + " FAULT_COUNT=" + folder.File("count"));
+    };
+    EXPECT_EQ(runWithFault(0).exitCode, 0);
+    const int operations = std::stoi(ReadText(folder.File("count")));
+    EXPECT_GE(operations, 5) << "an open, a write, a sync, a close and a rename at least";
+
+    for (int at = 1; at <= operations; ++at) {
+        const ToolRun run = runWithFault(at);
+
+        const Bytes now = WithoutDates(ReadBytes(folder.File("out.prc")));
+        EXPECT_TRUE(now == old || now == expected) << "a third thing after operation " << at;
+        if (run.exitCode == 0) {
+            EXPECT_TRUE(now == expected) << "an untold failure at operation " << at;
+        }
+        if (!kills) {
+            EXPECT_FALSE(std::filesystem::exists(folder.File("out.prc.vypx-new"))) << at;
+        }
+        EXPECT_EQ(Run({}).exitCode, 0) << "what is left must not block the next save";
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, ConvertWithFaults,
+    ::testing::Values("space", "io", "short", "before", "within", "after"));
+
+} // namespace
+} // namespace vypx::test

@@ -21,14 +21,19 @@ inline void Require(bool holds)
         std::abort();
 }
 
-/// Makes the bytes the open file and walks them, with catalogs, so that rows of every kind can come
-/// up. False when there is no resource count.
-inline bool WalkDatabase(const std::uint8_t* data, std::size_t size)
+/// Catalogs, so that rows of every kind can come up.
+inline void UseCatalogs()
 {
-    ResetDocument();
     AppTable = { {}, { "Alpha", "appl", "ALPH", "" }, { "Beta", "appl", "ALPH", "" } };
     PalmTable = { {}, { "Palm Clock", "appl", "CLCK", "" } };
     VYTable = { {}, { "Launcher", "2000", "" }, { "Launcher", "2001", "" } };
+}
+
+/// Makes the bytes the open file and walks them. False when there is no resource count.
+inline bool WalkDatabase(const std::uint8_t* data, std::size_t size)
+{
+    ResetDocument();
+    UseCatalogs();
     FileCashe.assign(size + 2, 0);
     std::copy(data, data + size, FileCashe.begin() + 1);
     IconFileSize = static_cast<std::int32_t>(size + 1);

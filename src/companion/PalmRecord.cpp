@@ -3,6 +3,7 @@
 #include "companion/NearestColour.h"
 
 #include <algorithm>
+#include <array>
 
 namespace vypx {
 
@@ -64,22 +65,28 @@ public:
     }
 
 private:
-    /// Neighbours often have one colour, which is then looked up once.
+    /// A picture has few colours, each of which is looked up once as long as it keeps its place.
     int IndexAt(const std::uint8_t* pixel)
     {
-        const int colour = pixel[0] << 16 | pixel[1] << 8 | pixel[2];
-        if (colour != m_lastColour) {
-            m_lastColour = colour;
-            m_lastIndex = m_nearest.IndexOf(pixel[0], pixel[1], pixel[2]);
-        }
-        return m_lastIndex;
+        const auto colour =
+            static_cast<std::uint32_t>(pixel[0] << 16 | pixel[1] << 8 | pixel[2]) | Known;
+        Learned& learned = m_learned[(colour * 0x9E3779B1u) >> 22];
+        if (learned.colour != colour)
+            learned = { colour, m_nearest.IndexOf(pixel[0], pixel[1], pixel[2]) };
+        return learned.index;
     }
+
+    static constexpr std::uint32_t Known = 1u << 24;
+    struct Learned {
+        std::uint32_t colour = 0;
+        int index = 0;
+    };
 
     const Picture& m_picture;
     int m_depth;
     NearestColour& m_nearest;
     Bytes m_row;
-    int m_lastColour = -1, m_lastIndex = 0;
+    std::array<Learned, 1024> m_learned{};
 };
 
 /// The record's pixels; empty when they can't be packed into a size field of that many bytes.

@@ -82,6 +82,19 @@ TEST_F(MainForm, TheLegendExplainsTheTreesPictures)
     }
 }
 
+TEST_F(MainForm, TheLegendsWordsStayBesideTheirPicturesInAWideWindow)
+{
+    Find<QWidget>("Form1").parentWidget()->resize(1200, 700);
+    QTest::qWait(30);
+
+    for (const int image : { 1, 2, 3, 4, 6 }) {
+        const QRect picture = Find<QLabel>(QString("imgKey%1").arg(image)).geometry();
+        const QRect words = Find<QLabel>(QString("lblKey%1").arg(image)).geometry();
+        EXPECT_LE(picture.width(), 24) << image;
+        EXPECT_LT(words.left() - picture.right(), 12) << image;
+    }
+}
+
 TEST_F(MainForm, ChromeAndPanelsHaveTheirColours)
 {
     const QColor chrome(224, 223, 227), blue(0, 0, 255);

@@ -9,7 +9,7 @@ int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
     QApplication::setApplicationName("vy-pixelworks");
-    QApplication::setApplicationDisplayName("VY Pixelworks");
+    // No display name: Qt would put it behind the captions of windows.
     QApplication::setApplicationVersion("2.0.0");
 
     vypx::ScreenAsk ask;

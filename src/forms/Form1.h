@@ -157,6 +157,7 @@ private:
     void DrawSlot(Panel& panel);
     void ShowColour(Panel& panel, bool hasTransparent);
     void HideColour(Panel& panel);
+    void ReserveColourWidth(Panel& panel);
     void CentrePictures();
 
     // Form1Settings.cpp

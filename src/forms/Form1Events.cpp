@@ -79,11 +79,13 @@ bool Form1::eventFilter(QObject* watched, QEvent* event)
     return QWidget::eventFilter(watched, event);
 }
 
-/// While a file loads, nothing but a message that the load itself shows takes keys, clicks or
-/// drops.
+/// While a file loads, nothing but a message that the load itself shows takes keys or clicks, and
+/// nothing takes drops: a box keeps the windows behind it from keys and clicks only.
 bool Form1::IsKeptOutByLoad(QEvent& event) const
 {
-    return m_loading && !QApplication::activeModalWidget() && IsUserInput(event.type());
+    if (!m_loading || !IsUserInput(event.type()))
+        return false;
+    return IsDrop(event.type()) || !QApplication::activeModalWidget();
 }
 
 /// Plain R, with the form or something in it in focus that isn't written into.

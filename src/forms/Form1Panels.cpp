@@ -92,6 +92,16 @@ void Form1::HideColour(Panel& panel)
     panel.noColour->setVisible(false);
 }
 
+/// Keeps room for the longest text of a colour, so that no selection moves the panels.
+void Form1::ReserveColourWidth(Panel& panel)
+{
+    const int longest = panel.colour->fontMetrics().horizontalAdvance("255, 255, 255");
+    panel.colour->setMinimumWidth(longest);
+    ShowColour(panel, true);
+    panel.colourFrame->setMinimumWidth(panel.colourFrame->minimumSizeHint().width());
+    HideColour(panel);
+}
+
 /// The panels' boxes grow with the window; their pictures stay in the middle.
 void Form1::CentrePictures()
 {

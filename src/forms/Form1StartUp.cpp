@@ -89,6 +89,7 @@ void Form1::PaintColours()
         panel->box->SetBackColour(QColor(R, G, B));
         panel->picture->SetBackColour(QColor(R, G, B));
         panel->swatch->SetBackColour(ScreenColour(ChromeColour));
+        ReserveColourWidth(*panel);
     }
 }
 

@@ -6,6 +6,7 @@
 #include "ui_Form1.h"
 
 #include <QAction>
+#include <QTextDocument>
 
 namespace vypx {
 
@@ -69,7 +70,8 @@ void Form1::ShowStatus(int panel, const QString& text)
 {
     QLabel* const label = m_statusPanels[static_cast<std::size_t>(panel - 1)];
     label->setText(text);
-    label->setToolTip(text);
+    // A tool tip has no plain mode; names of files and databases may look like tags.
+    label->setToolTip(Qt::mightBeRichText(text) ? "<p>" + text.toHtmlEscaped() + "</p>" : text);
 }
 
 void Form1::UpdateIconStats()

@@ -5,10 +5,12 @@
 #include "forms/Menus.h"
 #include "ui_MDIForm1.h"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QIcon>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QMimeData>
 
 namespace vypx {
@@ -37,6 +39,9 @@ MDIForm1::MDIForm1(Ask& ask)
     QMdiSubWindow* const child = m_ui->mdiArea->addSubWindow(m_form);
     child->setAttribute(Qt::WA_DeleteOnClose, false); // a close means exit, which wants the form
     child->setWindowIcon(windowIcon());
+    // Ctrl+W and its like belong to the menu's Close Iconset: here they would leave the program.
+    for (QAction* entry : child->systemMenu()->actions())
+        entry->setShortcuts(QList<QKeySequence>());
 }
 
 MDIForm1::~MDIForm1() = default;

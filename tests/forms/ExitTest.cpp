@@ -117,5 +117,28 @@ TEST_F(Exit, FreesTheCopysPlace)
     EXPECT_FALSE(next.AnotherRan());
 }
 
+TEST_F(Exit, DeletesNothingOutsideOfTheWorkingFolderNorFoldersInIt)
+{
+    MakeFolder(WorkPath("album.bmp"));
+    WriteText(program.File("mine.bmp"), "x");
+    WriteText(program.File("mine.bak"), "x");
+
+    Entry("mnuExit").trigger();
+
+    EXPECT_TRUE(DirExists(program.File("temp/album.bmp")));
+    EXPECT_TRUE(FileExists(program.File("mine.bmp")));
+    EXPECT_TRUE(FileExists(program.File("mine.bak")));
+}
+
+TEST_F(Exit, TheNextStartFindsTheFirstPlaceFree)
+{
+    Entry("mnuExit").trigger();
+
+    Start();
+
+    EXPECT_EQ(InstanceNumber, 0);
+    EXPECT_EQ(WorkFolder(), program.File("temp"));
+}
+
 } // namespace
 } // namespace vypx::test

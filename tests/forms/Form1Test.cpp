@@ -1,9 +1,11 @@
 #include "WindowFixture.h"
 
 #include <QImage>
+#include <QMenuBar>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QTextDocumentFragment>
 
 namespace vypx::test {
 
@@ -80,6 +82,19 @@ TEST_F(MainForm, TheLegendExplainsTheTreesPictures)
     }
 }
 
+TEST_F(MainForm, TheLegendsWordsStayBesideTheirPicturesInAWideWindow)
+{
+    Find<QWidget>("Form1").parentWidget()->resize(1200, 700);
+    QTest::qWait(30);
+
+    for (const int image : { 1, 2, 3, 4, 6 }) {
+        const QRect picture = Find<QLabel>(QString("imgKey%1").arg(image)).geometry();
+        const QRect words = Find<QLabel>(QString("lblKey%1").arg(image)).geometry();
+        EXPECT_LE(picture.width(), 24) << image;
+        EXPECT_LT(words.left() - picture.right(), 12) << image;
+    }
+}
+
 TEST_F(MainForm, ChromeAndPanelsHaveTheirColours)
 {
     const QColor chrome(224, 223, 227), blue(0, 0, 255);
@@ -123,6 +138,55 @@ TEST_F(MainForm, CommandsNotBuiltYetStayDisabledWhateverAStepSays)
     EXPECT_FALSE(Find<QPushButton>("cmdAddIcon").isEnabled());
     EXPECT_TRUE(Entry("mnuOpen").isEnabled());
     EXPECT_TRUE(Entry("mnuExit").isEnabled());
+}
+
+TEST_F(MainForm, HelpersStayOutOfSight)
+{
+    for (const QString name : { "listPRC", "ListBuffMain", "picbuff", "ImageBUF", "picbufCLowRes",
+             "imgbuffCLowRes", "lblWorking", "lblSearchingApp", "ProgressBar1", "picColSwatchLG",
+             "picColSwatchSM", "lblNoTransparentLG", "lblNoTransparentSM" })
+        EXPECT_FALSE(Find<QWidget>(name).isVisible()) << name.toStdString();
+}
+
+TEST_F(MainForm, NoTwoCommandsShareAnAltKey)
+{
+    QStringList keys;
+    const auto add = [&](const QString& caption) {
+        const QKeySequence key = QKeySequence::mnemonic(caption);
+        if (key.isEmpty())
+            return;
+        EXPECT_FALSE(keys.contains(key.toString())) << caption.toStdString();
+        keys << key.toString();
+    };
+
+    for (const QAction* menu : Find<QMenuBar>("menuBar").actions())
+        add(menu->text());
+    for (const QPushButton* button : Find<QWidget>("Form1").findChildren<QPushButton*>())
+        add(button->text());
+
+    EXPECT_GT(keys.size(), 6);
+}
+
+TEST_F(MainForm, TheKeysThatCloseADocumentCloseNoWindow)
+{
+    frame->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(frame.get()));
+
+    for (const Qt::Key key : { Qt::Key_W, Qt::Key_F4 })
+        QTest::keyClick(&Nodes(), key, Qt::ControlModifier);
+
+    EXPECT_TRUE(frame->isVisible());
+    EXPECT_TRUE(Find<QWidget>("Form1").isVisible());
+}
+
+TEST_F(MainForm, TheTipOfAStatusPanelShowsTagsAsTheyAre)
+{
+    Open(Written(Iconset{ .name = "<b>Fern</b>" }.File()));
+
+    const QString tip = Find<QLabel>("StatusBar1_Panel2").toolTip();
+    EXPECT_EQ(
+        QTextDocumentFragment::fromHtml(tip).toPlainText(), "Palm Database Name = <b>Fern</b>");
+    EXPECT_EQ(Status(2), "Palm Database Name = <b>Fern</b>");
 }
 
 } // namespace

@@ -34,7 +34,6 @@ void Take(const QString& folder, const QString& name)
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
-    QApplication::setApplicationDisplayName("VY Pixelworks");
     QApplication::setCursorFlashTime(0);
     if (argc != 2) {
         std::cerr << "usage: screenshots FOLDER\n";

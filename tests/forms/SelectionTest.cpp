@@ -356,5 +356,35 @@ TEST_F(Renaming, EscapeLeavesEverythingAsItWas)
     EXPECT_EQ(Nodes().Root()->text(0), "Set");
 }
 
+TEST_F(WindowFixture, AnIconWhoseOwnerHoldsAnyBytesCanBeSelectedAndMarked)
+{
+    const std::string owner("\0\n\x80\xFF", 4);
+    Start();
+    Open(Written(Iconset{
+        .resources = { { "iTbl", 1000, IndexRecord("appl", owner, 3500, 0) }, Picture(3500) } }
+                     .File()));
+    ASSERT_EQ(Nodes().Root()->childCount(), 1);
+
+    QTest::mouseClick(Nodes().viewport(), Qt::LeftButton, {},
+        Nodes().visualItemRect(Nodes().Root()->child(0)).center());
+    QTest::keyClick(&Nodes(), Qt::Key_R);
+
+    EXPECT_EQ(SelectedNode, "tAIB3500 (" + owner + " - Large) ");
+    EXPECT_EQ(Nodes().Root()->child(0)->data(0, IconTreeView::ImageRole), 6);
+}
+
+TEST_F(Selecting, NoSelectionMovesThePanels)
+{
+    const QRect before = Find<QWidget>("frameLG").geometry();
+
+    for (const QString text : { "Set", "Alpha (Large Icon)", "Alpha (Small Icon)" }) {
+        Click(text);
+        Find<QLabel>("lblC_RGB_LG").setText("255, 255, 255"); // no colour's text is wider
+        QTest::qWait(30);
+
+        EXPECT_EQ(Find<QWidget>("frameLG").geometry(), before) << text.toStdString();
+    }
+}
+
 } // namespace
 } // namespace vypx::test

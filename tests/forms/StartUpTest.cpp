@@ -3,6 +3,10 @@
 
 #include <QMdiSubWindow>
 
+#ifndef _WIN32
+#include <unistd.h>
+#endif
+
 namespace vypx::test {
 
 namespace {
@@ -225,6 +229,66 @@ TEST_F(StartUp, AWorkingFolderThatCannotBeMadeIsNotCaught)
     EXPECT_THROW(frame->Start(QString::fromStdString(program.Path()), {}),
         std::filesystem::filesystem_error);
 }
+
+TEST_F(StartUp, AfterACopyEndedWithoutAnExitTheNextOneIsTheFirstAgain)
+{
+    Start();
+    WriteText(WorkPath("left.bmp"), "x");
+    frame.reset(); // as a crash: the system frees its place, and nothing else is done
+
+    Start();
+
+    EXPECT_EQ(WorkFolder(), program.File("temp"));
+    EXPECT_TRUE(FileExists(WorkPath("left.bmp"))) << "the next load deletes it";
+}
+
+#ifndef _WIN32
+
+/// Gives up the superuser's rights, if this process has them, as long as it lives.
+class CommonUser {
+public:
+    CommonUser()
+    {
+        constexpr uid_t Nobody = 65534;
+        EXPECT_TRUE(m_before != 0 || ::seteuid(Nobody) == 0);
+    }
+    ~CommonUser() { EXPECT_EQ(::seteuid(m_before), 0); }
+
+private:
+    const uid_t m_before = ::geteuid();
+};
+
+TEST_F(StartUp, TheUsersFolderIsFilledFromAProgramFolderThatCanOnlyBeRead)
+{
+    namespace fs = std::filesystem;
+    const TempFolder home;
+    fs::permissions(home.Path(), fs::perms::all);
+    WriteText(program.File("PalmApp.dat"), "[Shipped]\nType={appl}\nCreator={ship}\n");
+    fs::permissions(program.Path(), fs::perms(0555));
+    const auto start = [&] {
+        frame = std::make_unique<MDIForm1>(ask);
+        frame->Start(
+            QString::fromStdString(program.Path()), QString::fromStdString(home.File("data")));
+        frame->close();
+    };
+    {
+        const CommonUser user;
+
+        start();
+        EXPECT_EQ(AppFolder, home.File("data"));
+        EXPECT_EQ(ReadText(home.File("data/PalmApp.dat")), ReadText(program.File("PalmApp.dat")));
+        EXPECT_TRUE(FileExists(home.File("data/VYPX.ini")));
+        EXPECT_FALSE(DirExists(program.File("temp")));
+
+        WriteText(home.File("data/PalmApp.dat"), "[Mine]\nType={appl}\nCreator={mine}\n");
+        start();
+        EXPECT_EQ(ReadText(home.File("data/PalmApp.dat")).substr(0, 6), "[Mine]");
+        frame.reset();
+    }
+    fs::permissions(program.Path(), fs::perms(0755));
+}
+
+#endif
 
 } // namespace
 } // namespace vypx::test

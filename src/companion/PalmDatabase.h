@@ -67,7 +67,7 @@ struct CompileFailure {
 ///       78  10*n type, ID, data offset of each
 ///              2 0, then the data, each resource at an even offset
 ///
-/// Source: Palm File Format Specification, "PRC Format".
+/// Source: Palm OS Programmer's Companion, resource databases.
 std::optional<CompileFailure> CompilePRC(std::span<const ResourceRow> resources,
     std::span<const TransparencyRow> transparency, Palette palette8, Palette palette4, int depth,
     bool pack, const std::string& outputPath, const std::string& databaseName,

@@ -44,22 +44,23 @@ public:
 
     const Bytes& Make(int y)
     {
-        std::fill(m_row.begin(), m_row.end(), std::uint8_t{ 0 });
         const std::uint8_t* in = m_picture.Row(y);
-        std::uint8_t* const out = m_row.data();
-        for (int x = 0; x < m_picture.Width(); ++x, in += 3) {
-            if (m_depth == 16) {
+        std::uint8_t* out = m_row.data();
+        const int width = m_picture.Width();
+        if (m_depth == 16) {
+            for (int x = 0; x < width; ++x, in += 3) {
                 const int value = To565({ in[0], in[1], in[2] });
-                out[2 * x] = static_cast<std::uint8_t>(value >> 8);
-                out[2 * x + 1] = static_cast<std::uint8_t>(value);
-                continue;
+                *out++ = static_cast<std::uint8_t>(value >> 8);
+                *out++ = static_cast<std::uint8_t>(value);
             }
-            const int index = IndexAt(in);
-            if (m_depth == 8)
-                out[x] = static_cast<std::uint8_t>(index);
-            else
-                out[x / 2] =
-                    static_cast<std::uint8_t>(out[x / 2] | (x % 2 == 0 ? index << 4 : index));
+        } else if (m_depth == 8) {
+            for (int x = 0; x < width; ++x, in += 3)
+                *out++ = static_cast<std::uint8_t>(IndexAt(in));
+        } else {
+            for (int x = 0; x < width; x += 2, in += 6) {
+                const int low = x + 1 < width ? IndexAt(in + 3) : 0;
+                *out++ = static_cast<std::uint8_t>(IndexAt(in) << 4 | low);
+            }
         }
         return m_row;
     }
@@ -94,6 +95,9 @@ std::optional<Bytes> PackedPixels(
     const Picture& picture, const RecordForm& form, std::size_t sizeField)
 {
     Bytes packed(sizeField);
+    packed.reserve(sizeField
+        + static_cast<std::size_t>(picture.Height() + 1)
+            * (static_cast<std::size_t>(RowBytesOf(picture.Width(), form.depth)) + 3));
     RowMaker rows(picture, form);
     for (int y = 0; y < picture.Height(); ++y)
         AppendPackBits(packed, rows.Make(y), form.depth == 16 ? 2 : 1);
@@ -137,48 +141,57 @@ Bytes Finish(Bytes record, const Picture& picture, const RecordForm& form, bool 
     return record;
 }
 
-/// Length of the run that begins at a unit, 128 at most.
-std::size_t RunAt(std::span<const std::uint8_t> row, std::size_t at, std::size_t unit)
+/// Packs one row of units of 1 or 2 bytes behind `out`, which has room for the longest result, and
+/// gives the end.
+template <std::size_t Unit>
+std::uint8_t* PackRow(const std::uint8_t* row, std::size_t units, std::uint8_t* out)
 {
     constexpr std::size_t Longest = 128;
-    std::size_t length = 1;
-    while (length < Longest && (at + length + 1) * unit <= row.size()
-        && std::equal(row.begin() + static_cast<std::ptrdiff_t>(at * unit),
-            row.begin() + static_cast<std::ptrdiff_t>((at + 1) * unit),
-            row.begin() + static_cast<std::ptrdiff_t>((at + length) * unit)))
-        ++length;
-    return length;
+    const auto isSame = [row](std::size_t a, std::size_t b) {
+        if constexpr (Unit == 1)
+            return row[a] == row[b];
+        else
+            return row[2 * a] == row[2 * b] && row[2 * a + 1] == row[2 * b + 1];
+    };
+    const auto put = [&](std::size_t at) {
+        for (std::size_t i = 0; i < Unit; ++i)
+            *out++ = row[at * Unit + i];
+    };
+    std::uint8_t* literal = nullptr; // control byte of a literal that may go on
+    std::size_t literalLength = 0;
+    for (std::size_t at = 0; at < units;) {
+        std::size_t run = 1;
+        while (run < Longest && at + run < units && isSame(at, at + run))
+            ++run;
+        // A run of two single bytes costs as much as two more bytes of a literal, and ends it.
+        if (run > 2 || (run == 2 && (Unit == 2 || literalLength == 0))) {
+            *out++ = static_cast<std::uint8_t>(257 - run);
+            put(at);
+            literalLength = 0;
+            at += run;
+            continue;
+        }
+        if (literalLength == 0 || literalLength == Longest) {
+            literal = out++;
+            literalLength = 0;
+        }
+        put(at);
+        *literal = static_cast<std::uint8_t>(literalLength++);
+        ++at;
+    }
+    return out;
 }
 
 } // namespace
 
 void AppendPackBits(Bytes& packed, std::span<const std::uint8_t> row, std::size_t unit)
 {
-    constexpr std::size_t LongestLiteral = 128;
-    const std::size_t units = row.size() / unit;
-    std::size_t literal = 0; // offset of the control byte of a literal that may go on
-    std::size_t literalLength = 0;
-    for (std::size_t at = 0; at < units;) {
-        const std::size_t run = RunAt(row, at, unit);
-        const auto first = row.begin() + static_cast<std::ptrdiff_t>(at * unit);
-        // A run of two single bytes costs as much as two more bytes of a literal, and ends it.
-        const bool worthARun = run > 2 || (run == 2 && (unit == 2 || literalLength == 0));
-        if (worthARun) {
-            packed.push_back(static_cast<std::uint8_t>(257 - run));
-            packed.insert(packed.end(), first, first + static_cast<std::ptrdiff_t>(unit));
-            literalLength = 0;
-            at += run;
-            continue;
-        }
-        if (literalLength == 0 || literalLength == LongestLiteral) {
-            literal = packed.size();
-            literalLength = 0;
-            packed.push_back(0);
-        }
-        packed.insert(packed.end(), first, first + static_cast<std::ptrdiff_t>(unit));
-        packed[literal] = static_cast<std::uint8_t>(literalLength++);
-        ++at;
-    }
+    const std::size_t before = packed.size(), units = row.size() / unit;
+    packed.resize(before + row.size() + units / 128 + 2); // all literals
+    std::uint8_t* const out = packed.data() + before;
+    const std::uint8_t* const end =
+        unit == 1 ? PackRow<1>(row.data(), units, out) : PackRow<2>(row.data(), units, out);
+    packed.resize(before + static_cast<std::size_t>(end - out));
 }
 
 Bytes EncodeLowDensity(const Picture& picture, const RecordForm& form,

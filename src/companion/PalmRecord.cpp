@@ -71,7 +71,7 @@ private:
     {
         const auto colour =
             static_cast<std::uint32_t>(pixel[0] << 16 | pixel[1] << 8 | pixel[2]) | Known;
-        Learned& learned = m_learned[(colour * 0x9E3779B1u) >> 22];
+        Learned& learned = m_learned[(colour * 0x9E3779B1u) >> 24];
         if (learned.colour != colour)
             learned = { colour, m_nearest.IndexOf(pixel[0], pixel[1], pixel[2]) };
         return learned.index;
@@ -87,7 +87,7 @@ private:
     int m_depth;
     NearestColour& m_nearest;
     Bytes m_row;
-    std::array<Learned, 1024> m_learned{};
+    std::array<Learned, 256> m_learned{};
 };
 
 /// The record's pixels; empty when they can't be packed into a size field of that many bytes.
@@ -141,43 +141,58 @@ Bytes Finish(Bytes record, const Picture& picture, const RecordForm& form, bool 
     return record;
 }
 
+constexpr std::size_t LongestPiece = 128; // of a run or a literal, in units
+
+/// Length of the run that begins at a unit.
+template <std::size_t Unit>
+std::size_t RunAt(const std::uint8_t* row, std::size_t at, std::size_t units)
+{
+    const std::size_t end = std::min(units, at + LongestPiece);
+    std::size_t next = at + 1;
+    if constexpr (Unit == 1) {
+        while (next < end && row[next] == row[at])
+            ++next;
+    } else {
+        while (next < end && row[2 * next] == row[2 * at] && row[2 * next + 1] == row[2 * at + 1])
+            ++next;
+    }
+    return next - at;
+}
+
+template <std::size_t Unit>
+std::uint8_t* PutLiterals(const std::uint8_t* from, std::size_t units, std::uint8_t* out)
+{
+    while (units > 0) {
+        const std::size_t piece = std::min(units, LongestPiece);
+        *out++ = static_cast<std::uint8_t>(piece - 1);
+        out = std::copy(from, from + piece * Unit, out);
+        from += piece * Unit;
+        units -= piece;
+    }
+    return out;
+}
+
 /// Packs one row of units of 1 or 2 bytes behind `out`, which has room for the longest result, and
-/// gives the end.
+/// gives the end. A run of two single bytes costs as much as two more bytes of a literal and would
+/// end it, so it stands alone only where no literal is begun.
 template <std::size_t Unit>
 std::uint8_t* PackRow(const std::uint8_t* row, std::size_t units, std::uint8_t* out)
 {
-    constexpr std::size_t Longest = 128;
-    const auto isSame = [row](std::size_t a, std::size_t b) {
-        if constexpr (Unit == 1)
-            return row[a] == row[b];
-        else
-            return row[2 * a] == row[2 * b] && row[2 * a + 1] == row[2 * b + 1];
-    };
-    const auto put = [&](std::size_t at) {
-        for (std::size_t i = 0; i < Unit; ++i)
-            *out++ = row[at * Unit + i];
-    };
-    std::uint8_t* literal = nullptr; // control byte of a literal that may go on
-    std::size_t literalLength = 0;
     for (std::size_t at = 0; at < units;) {
-        std::size_t run = 1;
-        while (run < Longest && at + run < units && isSame(at, at + run))
-            ++run;
-        // A run of two single bytes costs as much as two more bytes of a literal, and ends it.
-        if (run > 2 || (run == 2 && (Unit == 2 || literalLength == 0))) {
+        std::size_t next = at, run = 0;
+        while (next < units) {
+            run = RunAt<Unit>(row, next, units);
+            if (run > 2 || (run == 2 && (Unit == 2 || next == at)))
+                break;
+            next += run;
+            run = 0;
+        }
+        out = PutLiterals<Unit>(row + at * Unit, next - at, out);
+        if (run > 0) {
             *out++ = static_cast<std::uint8_t>(257 - run);
-            put(at);
-            literalLength = 0;
-            at += run;
-            continue;
+            out = std::copy(row + next * Unit, row + (next + 1) * Unit, out);
         }
-        if (literalLength == 0 || literalLength == Longest) {
-            literal = out++;
-            literalLength = 0;
-        }
-        put(at);
-        *literal = static_cast<std::uint8_t>(literalLength++);
-        ++at;
+        at = next + run;
     }
     return out;
 }

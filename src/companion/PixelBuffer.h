@@ -20,6 +20,9 @@ public:
         , m_rowPad((4 - rowBytes % 4) % 4)
         , m_height(height)
     {
+        constexpr std::size_t IconSize = 64u << 10; // all of an icon's rows at once
+        if (Columns() * static_cast<std::size_t>(height + 1) <= IconSize)
+            m_bytes.reserve(Columns() * static_cast<std::size_t>(height + 1));
     }
 
     int RowBytes() const { return m_rowBytes; }

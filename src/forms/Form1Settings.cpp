@@ -34,9 +34,12 @@ void Form1::LoadSettings()
 
 void Form1::SaveSettings()
 {
+    // A maximised frame comes back at the size that it had before.
+    const bool isNormal = !m_frame.isMaximized() && !m_frame.isFullScreen();
+    const QSize size = isNormal ? m_frame.size() : m_frame.normalGeometry().size();
     const WindowsToSave windows{
-        .mainWidth = m_frame.width() * TwipsPerPixel,
-        .mainHeight = m_frame.height() * TwipsPerPixel,
+        .mainWidth = size.width() * TwipsPerPixel,
+        .mainHeight = size.height() * TwipsPerPixel,
     };
     if (!SaveIni(windows))
         TellOfSettings("Failed to save value to TBQX.ini file.");

@@ -78,5 +78,32 @@ std::string TestName(const ::testing::TestParamInfo<std::string>& sample)
 
 INSTANTIATE_TEST_SUITE_P(Iconsets, Samples, ::testing::ValuesIn(SampleNames()), TestName);
 
+/// The set that we ship shows every kind of icon with the catalogs that we ship.
+TEST(ShippedSample, ShowsEveryKindOfIcon)
+{
+    const TempFolder folder;
+    for (const char* name : { "AppList.dat", "PalmApp.dat", "VY_Icons.dat" })
+        std::filesystem::copy_file(std::string(VYPX_SHIPPED_DATA) + "/" + name, folder.File(name));
+
+    const ToolRun run = RunTool({ "dump", VYPX_SHIPPED_DATA "/samples/first-set.prc",
+        "--app-folder", folder.Path(), "--work", folder.File("work") });
+
+    const json document = run.Json();
+    EXPECT_TRUE(document["messages"].empty());
+    std::map<std::string, int> kinds, keys;
+    for (const json& icon : document["icons"]) {
+        ++kinds[icon["kind"]];
+        ++keys[icon["resourceKey"]];
+        EXPECT_NE(icon["lowResFile"], "NEW");
+        EXPECT_NE(icon["highResFile"], "NEW");
+    }
+    EXPECT_EQ(kinds,
+        (std::map<std::string, int>{
+            { "PALM", 10 }, { "UNKNOWN", 4 }, { "VY", 2 }, { "DELETE", 1 } }));
+    EXPECT_EQ(keys["tAIB3500"], 2) << "a shared resource";
+    for (const json& bitmap : document["bitmaps"])
+        EXPECT_EQ(bitmap["hasTransparent"], 1);
+}
+
 } // namespace
 } // namespace vypx::test

@@ -1,3 +1,5 @@
+#include "catalogs/CatalogFiles.h"
+#include "document/WorkingFolder.h"
 #include "forms/Form1.h"
 #include "forms/IconTreeView.h"
 #include "forms/MDIForm1.h"
@@ -58,7 +60,7 @@ int main(int argc, char** argv)
     frame.findChild<QPushButton*>("cmdDoneCDepth")->click();
     Take(folder, "new-iconset");
     frame.findChild<QPushButton*>("cmdCancelName")->click();
-    PromptColorDepth = false;
+    PromptColorDepth = WarnOverwrite = false;
     const auto open = [&](const char* name) {
         ask.Choose(QString(VYPX_TEST_DATA "/iconsets/") + name);
         frame.findChild<QAction*>("mnuOpen")->trigger();
@@ -81,10 +83,30 @@ int main(int argc, char** argv)
     open("owners.prc");
     select("Compass (Large Icon)");
     Take(folder, "main-form-owners");
-    open("depth8.prc");
-    frame.findChild<IconTreeView*>("TreeView1")
-        ->setCurrentItem(frame.findChild<IconTreeView*>("TreeView1")->Root()->child(0));
+    for (const char* name : { "AppList.dat", "PalmApp.dat", "VY_Icons.dat" })
+        std::filesystem::copy_file(std::string(VYPX_SHIPPED_DATA) + "/" + name,
+            programFolder.File(name), std::filesystem::copy_options::overwrite_existing);
+    ReadCatalogs([](std::string_view) {});
+    ask.Choose(VYPX_SHIPPED_DATA "/samples/first-set.prc");
+    frame.findChild<QAction*>("mnuOpen")->trigger();
+    select("Palm Calendar (palmOne) (Large Icon)");
     Take(folder, "main-form");
+
+    // The whole road: mark an icon, save under a name, close, open what was saved.
+    select("Palm Calculator (Large Icon)");
+    QTest::keyClick(frame.findChild<IconTreeView*>("TreeView1"), Qt::Key_R);
+    Take(folder, "road-1-marked");
+    ask.SaveTo(QString::fromStdString(programFolder.File("saved.prc")));
+    frame.findChild<QAction*>("mnuSaveAs")->trigger();
+    frame.findChild<QAction*>("mnuCloseIconset")->trigger();
+    Take(folder, "road-2-saved-and-closed");
+    ask.Choose(QString::fromStdString(programFolder.File("saved.prc")));
+    frame.findChild<QAction*>("mnuOpen")->trigger();
+    select("Palm Calendar (palmOne) (Small Icon)");
+    Take(folder, "road-3-opened-again");
+    std::filesystem::remove(WorkPath("tAIB3500.bmp"));
+    frame.findChild<QAction*>("mnuSave")->trigger();
+    Take(folder, "not-saved");
     frame.Form().ExitProgram();
     return 0;
 }

@@ -1,11 +1,8 @@
 #include "WindowFixture.h"
 #include "document/RunCount.h"
+#include "support/CommonUser.h"
 
 #include <QMdiSubWindow>
-
-#ifndef _WIN32
-#include <unistd.h>
-#endif
 
 namespace vypx::test {
 
@@ -243,20 +240,6 @@ TEST_F(StartUp, AfterACopyEndedWithoutAnExitTheNextOneIsTheFirstAgain)
 }
 
 #ifndef _WIN32
-
-/// Gives up the superuser's rights, if this process has them, as long as it lives.
-class CommonUser {
-public:
-    CommonUser()
-    {
-        constexpr uid_t Nobody = 65534;
-        EXPECT_TRUE(m_before != 0 || ::seteuid(Nobody) == 0);
-    }
-    ~CommonUser() { EXPECT_EQ(::seteuid(m_before), 0); }
-
-private:
-    const uid_t m_before = ::geteuid();
-};
 
 TEST_F(StartUp, TheUsersFolderIsFilledFromAProgramFolderThatCanOnlyBeRead)
 {

@@ -153,18 +153,19 @@ Bytes Database(
     std::span<const ResourceRow> resources, const std::string& databaseName, Compiler& compiler)
 {
     Bytes file = Header(databaseName, resources.size());
-    const std::size_t dataStart = HeaderSize + EntrySize * resources.size() + Gap;
-    Bytes data;
+    std::size_t entry = file.size();
+    file.resize(HeaderSize + EntrySize * resources.size() + Gap);
     for (const ResourceRow& row : resources) {
-        data.resize((data.size() + 1) / 2 * 2);
-        AppendText(file, std::string_view(row.key).substr(0, 4), 4);
-        Append16(file, IdOf(row.key));
-        Append32(file, static_cast<std::uint32_t>(dataStart + data.size()));
+        file.resize((file.size() + 1) / 2 * 2);
+        Bytes listed;
+        AppendText(listed, std::string_view(row.key).substr(0, 4), 4);
+        Append16(listed, IdOf(row.key));
+        Append32(listed, static_cast<std::uint32_t>(file.size()));
+        std::copy(listed.begin(), listed.end(), file.begin() + static_cast<std::ptrdiff_t>(entry));
+        entry += EntrySize;
         const Bytes body = compiler.Body(row);
-        data.insert(data.end(), body.begin(), body.end());
+        file.insert(file.end(), body.begin(), body.end());
     }
-    file.resize(dataStart);
-    file.insert(file.end(), data.begin(), data.end());
     return file;
 }
 

@@ -126,16 +126,17 @@ Bytes Finish(Bytes record, const Picture& picture, const RecordForm& form, bool 
     std::optional<Bytes> packed;
     if (form.packed)
         packed = PackedPixels(picture, form, sizeField);
+    const bool isPacked = packed.has_value();
     const bool direct = sizeField == 2 && form.depth == 16;
     Put16(record, 0, picture.Width());
     Put16(record, 2, picture.Height());
     Put16(record, 4, RowBytesOf(picture.Width(), form.depth));
     Put16(record, 6,
-        (packed ? Compressed : 0) | (transparent ? HasTransparent : 0)
+        (isPacked ? Compressed : 0) | (transparent ? HasTransparent : 0)
             | (direct ? DirectColour : 0));
     Put8(record, 8, form.depth);
-    Put8(record, 13, packed ? PackBitsType : NoCompression);
-    const Bytes pixels = packed ? *packed : PlainPixels(picture, form);
+    Put8(record, 13, isPacked ? PackBitsType : NoCompression);
+    const Bytes pixels = packed ? *std::move(packed) : PlainPixels(picture, form);
     record.insert(record.end(), pixels.begin(), pixels.end());
     record.resize((record.size() + 3) / 4 * 4);
     return record;

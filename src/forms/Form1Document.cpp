@@ -4,7 +4,6 @@
 #include "forms/Form1.h"
 #include "forms/Text.h"
 #include "forms/frmNewIconset.h"
-#include "forms/frmProgOptions.h"
 #include "forms/frmSelectCDepth.h"
 #include "settings/Settings.h"
 #include "ui_Form1.h"
@@ -107,12 +106,12 @@ void Form1::MakeNewIconset(const QString& name)
         ShowStatus(2, "Palm Database Name = " + Shown(DatabaseName));
         IconTable.assign(1, {});
         BitmapTable.assign(1, {});
+        BitmapRow = 0;
     }
     // On purpose: without a name as well.
     FileLoaded = true;
     Enable({ "mnuRemoveLR", "mnuRemoveHR" }, true);
-    if (m_options)
-        m_options->ShowDepthLock();
+    UpdateIconStats(); // or a save would judge the new iconset by the icons of the old one
 }
 
 void Form1::mnuCloseIconset_Click()
@@ -145,8 +144,7 @@ void Form1::mnuCloseIconset_Click()
     Itbl.assign(1, {});
     FileCashe.assign(1, 0);
     IconsetChanged = false;
-    if (m_options)
-        m_options->ShowDepthLock();
+    UpdateIconStats();
 }
 
 } // namespace vypx

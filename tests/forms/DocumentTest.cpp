@@ -58,6 +58,17 @@ TEST_F(Documents, NewMakesAnEmptyOne)
     EXPECT_FALSE(HasWindow("frmNewIconset"));
 }
 
+TEST_F(Documents, ANewOneIsNotSavedOnTheStrengthOfTheOldOnesIcons)
+{
+    OpenAlpha();
+    MakeNew("My Set");
+    ask.Answer(QMessageBox::Ok);
+
+    Entry("mnuSave").trigger();
+
+    EXPECT_EQ(Messages(), QStringList("Can't save. The iconset doesn't contain any icons."));
+}
+
 TEST_F(Documents, TheNameWindowSaysWhatItWants)
 {
     Entry("mnuNew").trigger();

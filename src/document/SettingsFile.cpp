@@ -162,11 +162,11 @@ std::vector<std::string_view> TakeWindows(const WindowsToSave& windows)
 {
     std::vector<std::string_view> kept;
     if (!TakeSideWindow(windows.preview, PreviewWinVisible, PreviewWinX, PreviewWinY))
-        kept.push_back("Preview Option Window");
+        kept.emplace_back("Preview Option Window");
     if (!TakeSideWindow(windows.stats, StatWinVisible, StatWinX, StatWinY))
-        kept.push_back("IconStatWindow");
+        kept.emplace_back("IconStatWindow");
     if (!TakeSideWindow(windows.shares, ShareWinVisible, ShareWinX, ShareWinY))
-        kept.push_back("Shared Icons Window");
+        kept.emplace_back("Shared Icons Window");
     MainWinWidth = windows.mainWidth;
     MainWinHeight = windows.mainHeight;
     return kept;

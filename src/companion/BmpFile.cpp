@@ -65,6 +65,20 @@ std::optional<Header> ReadHeader(ByteView file)
     return header;
 }
 
+/// A colour for every index of a byte, black where the file has none; empty at 24 bits.
+std::vector<Rgb> ColourTable(ByteView file, const Header& header)
+{
+    std::vector<Rgb> table;
+    if (header.bits == 24)
+        return table;
+    table.resize(256);
+    for (std::size_t i = 0; i < header.colours; ++i) {
+        const std::size_t at = HeaderSize + i * 4;
+        table[i] = { file.U8(at + 2), file.U8(at + 1), file.U8(at) };
+    }
+    return table;
+}
+
 /// Three bytes for a pixel, from blue, green, red to red, green, blue or back.
 void SwapEnds(const std::uint8_t* from, std::uint8_t* to, int pixels)
 {
@@ -128,10 +142,7 @@ std::optional<Picture> DecodeBmp(ByteView file)
         return std::nullopt;
     Picture picture(static_cast<int>(header->width), static_cast<int>(header->height));
     const std::size_t rowSize = RowSizeOf(header->width, static_cast<int>(header->bits));
-    std::vector<Rgb> table(256);
-    for (std::size_t i = 0; header->bits != 24 && i < header->colours; ++i)
-        table[i] = { file.U8(HeaderSize + i * 4 + 2), file.U8(HeaderSize + i * 4 + 1),
-            file.U8(HeaderSize + i * 4) };
+    const std::vector<Rgb> table = ColourTable(file, *header);
     for (int y = 0; y < picture.Height(); ++y) {
         const std::uint8_t* const row = file.Span().data() + header->pixels
             + static_cast<std::size_t>(picture.Height() - 1 - y) * rowSize;

@@ -72,6 +72,7 @@ NearestColour::NearestColour(Palette palette)
 {
     if (m_palette.empty() || m_palette.size() > 256)
         throw std::invalid_argument("a palette has 1 to 256 colours");
+    m_recent.fill(static_cast<std::uint32_t>(IndexOf(0, 0, 0))); // true of black in every place
 }
 
 NearestColour::Entry NearestColour::EntryOf(Rgb colour, std::size_t index)

@@ -2,6 +2,7 @@
 
 #include "companion/Palettes.h"
 
+#include <array>
 #include <cstdint>
 #include <vector>
 
@@ -34,6 +35,15 @@ public:
             }
         }
         return nearest->index;
+    }
+    /// The same, faster for colours that were asked for lately.
+    int IndexOfRecent(int red, int green, int blue)
+    {
+        const auto colour = static_cast<std::uint32_t>(red << 16 | green << 8 | blue);
+        std::uint32_t& recent = m_recent[(colour * 0x9E3779B1u) >> (32 - RecentBits)];
+        if (recent >> 8 != colour)
+            recent = colour << 8 | static_cast<std::uint32_t>(IndexOf(red, green, blue));
+        return static_cast<int>(recent & 0xFF);
     }
     /// The same for a 5-6-5 colour, each one worked out once.
     int IndexOf565(std::uint16_t colour)
@@ -72,7 +82,9 @@ private:
     std::vector<Rgb> m_palette;
     std::vector<Cell> m_cells;
     std::vector<Entry> m_entries;
-    std::vector<std::uint16_t> m_by565; // index + 1; 0: not worked out yet
+    static constexpr int RecentBits = 12;
+    std::array<std::uint32_t, 1 << RecentBits> m_recent; // a colour's 24 bits, then its index
+    std::vector<std::uint16_t> m_by565;                  // index + 1; 0: not worked out yet
 };
 
 /// The table for a palette of these colours; made once for each palette and kept.

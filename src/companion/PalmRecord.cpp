@@ -1,9 +1,9 @@
 #include "companion/PalmRecord.h"
 
 #include "companion/NearestColour.h"
+#include "companion/PackBits.h"
 
 #include <algorithm>
-#include <array>
 
 namespace vypx {
 
@@ -66,28 +66,15 @@ public:
     }
 
 private:
-    /// A picture has few colours, each of which is looked up once as long as it keeps its place.
     int IndexAt(const std::uint8_t* pixel)
     {
-        const auto colour =
-            static_cast<std::uint32_t>(pixel[0] << 16 | pixel[1] << 8 | pixel[2]) | Known;
-        Learned& learned = m_learned[(colour * 0x9E3779B1u) >> 24];
-        if (learned.colour != colour)
-            learned = { colour, m_nearest.IndexOf(pixel[0], pixel[1], pixel[2]) };
-        return learned.index;
+        return m_nearest.IndexOfRecent(pixel[0], pixel[1], pixel[2]);
     }
-
-    static constexpr std::uint32_t Known = 1u << 24;
-    struct Learned {
-        std::uint32_t colour = 0;
-        int index = 0;
-    };
 
     const Picture& m_picture;
     int m_depth;
     NearestColour& m_nearest;
     Bytes m_row;
-    std::array<Learned, 256> m_learned{};
 };
 
 /// The record's pixels; empty when they can't be packed into a size field of that many bytes.
@@ -142,73 +129,7 @@ Bytes Finish(Bytes record, const Picture& picture, const RecordForm& form, bool 
     return record;
 }
 
-constexpr std::size_t LongestPiece = 128; // of a run or a literal, in units
-
-/// Length of the run that begins at a unit.
-template <std::size_t Unit>
-std::size_t RunAt(const std::uint8_t* row, std::size_t at, std::size_t units)
-{
-    const std::size_t end = std::min(units, at + LongestPiece);
-    std::size_t next = at + 1;
-    if constexpr (Unit == 1) {
-        while (next < end && row[next] == row[at])
-            ++next;
-    } else {
-        while (next < end && row[2 * next] == row[2 * at] && row[2 * next + 1] == row[2 * at + 1])
-            ++next;
-    }
-    return next - at;
-}
-
-template <std::size_t Unit>
-std::uint8_t* PutLiterals(const std::uint8_t* from, std::size_t units, std::uint8_t* out)
-{
-    while (units > 0) {
-        const std::size_t piece = std::min(units, LongestPiece);
-        *out++ = static_cast<std::uint8_t>(piece - 1);
-        out = std::copy(from, from + piece * Unit, out);
-        from += piece * Unit;
-        units -= piece;
-    }
-    return out;
-}
-
-/// Packs one row of units of 1 or 2 bytes behind `out`, which has room for the longest result, and
-/// gives the end. A run of two single bytes costs as much as two more bytes of a literal and would
-/// end it, so it stands alone only where no literal is begun.
-template <std::size_t Unit>
-std::uint8_t* PackRow(const std::uint8_t* row, std::size_t units, std::uint8_t* out)
-{
-    for (std::size_t at = 0; at < units;) {
-        std::size_t next = at, run = 0;
-        while (next < units) {
-            run = RunAt<Unit>(row, next, units);
-            if (run > 2 || (run == 2 && (Unit == 2 || next == at)))
-                break;
-            next += run;
-            run = 0;
-        }
-        out = PutLiterals<Unit>(row + at * Unit, next - at, out);
-        if (run > 0) {
-            *out++ = static_cast<std::uint8_t>(257 - run);
-            out = std::copy(row + next * Unit, row + (next + 1) * Unit, out);
-        }
-        at = next + run;
-    }
-    return out;
-}
-
 } // namespace
-
-void AppendPackBits(Bytes& packed, std::span<const std::uint8_t> row, std::size_t unit)
-{
-    const std::size_t before = packed.size(), units = row.size() / unit;
-    packed.resize(before + row.size() + units / 128 + 2); // all literals
-    std::uint8_t* const out = packed.data() + before;
-    const std::uint8_t* const end =
-        unit == 1 ? PackRow<1>(row.data(), units, out) : PackRow<2>(row.data(), units, out);
-    packed.resize(before + static_cast<std::size_t>(end - out));
-}
 
 Bytes EncodeLowDensity(const Picture& picture, const RecordForm& form,
     const std::optional<Rgb>& transparent, bool leadsOn)

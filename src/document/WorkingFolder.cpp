@@ -98,16 +98,19 @@ bool FileExists(const std::string& path)
 
 void MakeFolder(const std::string& path) { fs::create_directories(platform::NativePath(path)); }
 
-void DeleteWorkingFiles(std::initializer_list<std::string_view> endings)
+bool DeleteWorkingFiles(std::initializer_list<std::string_view> endings)
 {
+    bool allGone = true;
     const std::vector<fs::path> files = FilesOf(platform::NativePath(WorkFolder()));
     for (const std::string_view ending : endings) {
         for (const fs::path& file : files) {
-            std::error_code ignored;
+            std::error_code error;
             if (LowerCase(platform::Utf8Path(file.filename())).ends_with(ending))
-                fs::remove(file, ignored);
+                fs::remove(file, error);
+            allGone = allGone && !error;
         }
     }
+    return allGone;
 }
 
 std::string LastComponent(std::string_view path)

@@ -32,8 +32,8 @@ bool FileExists(const std::string& path);
 void MakeFolder(const std::string& path);
 
 /// Deletes the files of the working folder whose names end in one of `endings` (".bmp"), without
-/// regard to case. What can't be deleted stays.
-void DeleteWorkingFiles(std::initializer_list<std::string_view> endings);
+/// regard to case. What can't be deleted stays, and gives false.
+bool DeleteWorkingFiles(std::initializer_list<std::string_view> endings);
 
 /// Last part of a path, and what stands before it without the separator at its end. "/" separates,
 /// on Windows also "\" and ":". A path without any has itself as name and no folder.

@@ -38,8 +38,7 @@ int DepthArgument()
 /// Scratch files of an earlier compile must not get into this one.
 void DeleteScratchFiles()
 {
-    DeleteWorkingFiles({ ".bin" });
-    if (FileExists(WorkPath("*.bin")))
+    if (!DeleteWorkingFiles({ ".bin" }))
         throw SaveFailure(WorkPath("*.bin"), "an old scratch file can't be deleted");
 }
 

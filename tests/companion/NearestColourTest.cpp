@@ -51,6 +51,23 @@ RC_GTEST_PROP(NearestColour, IsTheNearestOfAnyPalette, ())
     }
 }
 
+TEST(NearestColour, OfRecentColoursIsTheSameBeforeAndAfterOthers)
+{
+    NearestColour nearest(Palette8);
+    // More colours than are kept, so that they take each other's places; black and white too.
+    for (int round = 0; round < 2; ++round)
+        for (int i = 0; i < 20000; ++i) {
+            const int step = i * 839 % 0x1000000;
+            const Rgb colour =
+                i == 0 ? Rgb{ 255, 255, 255 } : Rgb{ step >> 16, step >> 8 & 255, step & 255 };
+            ASSERT_EQ(nearest.IndexOfRecent(colour.red, colour.green, colour.blue),
+                SearchNearest(Palette8, colour));
+            if (i % 64 == 0) {
+                ASSERT_EQ(nearest.IndexOfRecent(0, 0, 0), SearchNearest(Palette8, Black));
+            }
+        }
+}
+
 TEST(NearestColour, IsExactOnAGridThroughAllColours)
 {
     NearestColour& nearest = NearestIn(Palette8);

@@ -13,49 +13,6 @@ namespace vypx::test {
 
 namespace {
 
-Bytes Packed(const std::string& row, std::size_t unit = 1)
-{
-    Bytes packed;
-    AppendPackBits(packed, Hex(row), unit);
-    return packed;
-}
-
-TEST(PackBits, RunsAndLiterals)
-{
-    EXPECT_EQ(Packed("AAAAAA"), Hex("FEAA"));
-    EXPECT_EQ(Packed("010203"), Hex("02010203"));
-    EXPECT_EQ(Packed("AAAAAA0102"), Hex("FEAA010102"));
-    EXPECT_EQ(Packed("0102AAAAAA"), Hex("010102FEAA"));
-}
-
-TEST(PackBits, TwoEqualBytesStayInALiteralThatIsThere)
-{
-    EXPECT_EQ(Packed("01AAAA02"), Hex("0301AAAA02")) << "five bytes; a run of its own gives six";
-    EXPECT_EQ(Packed("AAAA01"), Hex("FFAA0001"));
-}
-
-TEST(PackBits, RunsAndLiteralsEndAt128)
-{
-    Bytes packed;
-    AppendPackBits(packed, Bytes(129, 0x55), 1);
-    EXPECT_EQ(packed, Hex("81550055"));
-
-    Bytes row;
-    for (int i = 0; i < 130; ++i)
-        row.push_back(static_cast<std::uint8_t>(i));
-    packed.clear();
-    AppendPackBits(packed, row, 1);
-    EXPECT_EQ(packed.size(), 132u);
-    EXPECT_EQ(packed[0], 127);
-    EXPECT_EQ(packed[129], 1);
-}
-
-TEST(PackBits, SixteenBitsPackPairs)
-{
-    EXPECT_EQ(Packed("1234123412345678", 2), Hex("FE1234005678"));
-    EXPECT_EQ(Packed("1212", 2), Hex("001212")) << "one pair, not two bytes";
-}
-
 /// Two pixels: white, and (255, 0, 255), which is index 5.
 Picture TwoPixels()
 {

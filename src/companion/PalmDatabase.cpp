@@ -15,7 +15,7 @@ namespace vypx {
 
 namespace {
 
-constexpr std::size_t HeaderSize = 78, EntrySize = 10, Gap = 2;
+constexpr std::size_t HeaderSize = 78, EntrySize = 10, Gap = 2, MostResources = 65535;
 
 void Append16(Bytes& bytes, unsigned value)
 {
@@ -80,12 +80,15 @@ public:
             return ReadFile(row.key + ".bin");
         Bytes family;
         if (!row.lowFile.empty())
-            family = EncodeLowDensity(
-                ReadPicture(row.lowFile), m_form, ColourOf(row.lowFile), !row.highFile.empty());
+            family = Encoded(row.lowFile, [&](const Picture& picture, const Colour& colour) {
+                return EncodeLowDensity(picture, m_form, colour, !row.highFile.empty());
+            });
         if (!row.highFile.empty()) {
             const Bytes mark = HighDensityMark();
             const Bytes record =
-                EncodeHighDensity(ReadPicture(row.highFile), m_form, ColourOf(row.highFile));
+                Encoded(row.highFile, [&](const Picture& picture, const Colour& colour) {
+                    return EncodeHighDensity(picture, m_form, colour);
+                });
             family.insert(family.end(), mark.begin(), mark.end());
             family.insert(family.end(), record.begin(), record.end());
         }
@@ -93,12 +96,29 @@ public:
     }
 
 private:
+    using Colour = std::optional<Rgb>;
+
+    template <typename Encode>
+    Bytes Encoded(const std::string& name, const Encode& encode) const
+    {
+        const Picture picture = ReadPicture(name);
+        try {
+            return encode(picture, ColourOf(name));
+        } catch (const RecordTooLarge& failure) {
+            throw Failure(name, failure.what());
+        }
+    }
+
+    CompileFailure Failure(const std::string& name, const std::string& reason) const
+    {
+        return { .file = m_workFolder + name, .reason = reason };
+    }
+
     Bytes ReadFile(const std::string& name) const
     {
-        const std::string path = m_workFolder + name;
-        std::optional<Bytes> bytes = platform::ReadWholeFile(path);
+        std::optional<Bytes> bytes = platform::ReadWholeFile(m_workFolder + name);
         if (!bytes)
-            throw CompileFailure{ .file = path, .reading = true };
+            throw Failure(name, "this working file is missing or can't be read");
         return *std::move(bytes);
     }
 
@@ -106,11 +126,11 @@ private:
     {
         std::optional<Picture> picture = DecodeBmp(ReadFile(name));
         if (!picture)
-            throw CompileFailure{ .file = m_workFolder + name, .reading = true };
+            throw Failure(name, "this working file is no picture");
         return *std::move(picture);
     }
 
-    std::optional<Rgb> ColourOf(const std::string& file) const
+    Colour ColourOf(const std::string& file) const
     {
         const auto found = m_transparency.find(file);
         if (found == m_transparency.end() || found->second->flag != "1")
@@ -200,9 +220,11 @@ std::optional<CompileFailure> CompilePRC(std::span<const ResourceRow> resources,
         Compiler compiler(transparency,
             { .depth = depth, .packed = pack, .palette8 = palette8, .palette4 = palette4 },
             workFolder);
+        if (resources.size() > MostResources)
+            return CompileFailure{ outputPath, "a database holds 65535 resources at most" };
         const Bytes file = Database(resources, databaseName, compiler);
         if (const std::error_code error = platform::ReplaceFile(outputPath, file))
-            return CompileFailure{ .file = outputPath, .error = error };
+            return CompileFailure{ outputPath, error.message() };
         return std::nullopt;
     } catch (const CompileFailure& failure) {
         return failure;

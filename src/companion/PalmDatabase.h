@@ -45,9 +45,8 @@ struct TransparencyRow {
 
 /// Why a database could not be written.
 struct CompileFailure {
-    std::string file;      ///< path of the file that can't be read or written
-    bool reading = false;  ///< a working file is missing or no picture
-    std::error_code error; ///< of writing
+    std::string file; ///< path of the file that can't be read, written or stored
+    std::string reason;
 };
 
 /// Makes the database in memory and replaces the file at `outputPath` by it in one step; on any

@@ -110,6 +110,9 @@ Bytes PlainPixels(const Picture& picture, const RecordForm& form)
 Bytes Finish(Bytes record, const Picture& picture, const RecordForm& form, bool transparent,
     std::size_t sizeField)
 {
+    const int rowBytes = RowBytesOf(picture.Width(), form.depth);
+    if (rowBytes > UINT16_MAX)
+        throw RecordTooLarge();
     std::optional<Bytes> packed;
     if (form.packed)
         packed = PackedPixels(picture, form, sizeField);
@@ -117,7 +120,7 @@ Bytes Finish(Bytes record, const Picture& picture, const RecordForm& form, bool 
     const bool direct = sizeField == 2 && form.depth == 16;
     Put16(record, 0, picture.Width());
     Put16(record, 2, picture.Height());
-    Put16(record, 4, RowBytesOf(picture.Width(), form.depth));
+    Put16(record, 4, rowBytes);
     Put16(record, 6,
         (isPacked ? Compressed : 0) | (transparent ? HasTransparent : 0)
             | (direct ? DirectColour : 0));
@@ -149,8 +152,12 @@ Bytes EncodeLowDensity(const Picture& picture, const RecordForm& form,
         Put8(record, 12, IndexOf(form, *transparent));
     }
     record = Finish(std::move(record), picture, form, transparent.has_value(), 2);
-    if (leadsOn)
-        Put16(record, 10, static_cast<int>(record.size() / 4));
+    if (leadsOn) {
+        const std::size_t next = record.size() / 4;
+        if (next > UINT16_MAX)
+            throw RecordTooLarge();
+        Put16(record, 10, static_cast<int>(next));
+    }
     return record;
 }
 

@@ -5,6 +5,7 @@
 #include "companion/Picture.h"
 
 #include <optional>
+#include <stdexcept>
 
 /// Palm bitmap records as this program writes them: one record for each density, at 4, 8 or 16
 /// bits. Big-endian. Source: Palm OS Programmer's API Reference, "Bitmaps".
@@ -38,10 +39,21 @@ struct RecordForm {
     Palette palette8, palette4;
 };
 
-/// A low-density record. With `leadsOn` it leads to what follows right behind it.
+/// A picture that the fields of a record can't tell: a row above 65535 bytes, or a low-density
+/// record above 262140 bytes that something follows.
+class RecordTooLarge : public std::length_error {
+public:
+    RecordTooLarge()
+        : std::length_error("this picture is too large for a Palm bitmap of this depth")
+    {
+    }
+};
+
+/// A low-density record. With `leadsOn` it leads to what follows right behind it. Throws
+/// RecordTooLarge.
 Bytes EncodeLowDensity(const Picture& picture, const RecordForm& form,
     const std::optional<Rgb>& transparent, bool leadsOn);
-/// A high-density record, the last of its family.
+/// A high-density record, the last of its family. Throws RecordTooLarge.
 Bytes EncodeHighDensity(
     const Picture& picture, const RecordForm& form, const std::optional<Rgb>& transparent);
 /// The 16 bytes before the high-density record.

@@ -71,9 +71,9 @@ std::optional<FileIdentity> IdentityOf(const std::string& path)
 
 std::error_code ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes)
 {
-    std::error_code error;
+    std::error_code error, missing;
     std::filesystem::path target = NativePath(path);
-    if (std::filesystem::is_symlink(target, error))
+    if (std::filesystem::is_symlink(target, missing))
         target = std::filesystem::canonical(target, error);
     if (error)
         return error;

@@ -7,6 +7,7 @@
 #include "settings/Settings.h"
 #include "writer/IconIndex.h"
 
+#include <filesystem>
 #include <unordered_set>
 
 namespace vypx {
@@ -42,9 +43,16 @@ void DeleteScratchFiles()
         throw SaveFailure(WorkPath("*.bin"), "an old scratch file can't be deleted");
 }
 
+/// Unlike `FileExists`, takes "*" and "?" in the name of an iconset as themselves.
+bool IsThere(const std::string& path)
+{
+    std::error_code error;
+    return std::filesystem::exists(platform::NativePath(path), error);
+}
+
 void BackUp()
 {
-    if (!FileExists(FileName) || SavingAs || !CreateBackup)
+    if (SavingAs || !CreateBackup || !IsThere(FileName))
         return;
     const auto old = platform::ReadWholeFile(FileName);
     if (!old)
@@ -61,8 +69,7 @@ SaveFailure::SaveFailure(const std::string& file, const std::string& reason)
 }
 
 SaveFailure::SaveFailure(const CompileFailure& failure)
-    : SaveFailure(failure.file,
-        failure.reading ? "this working file is missing or no picture" : failure.error.message())
+    : SaveFailure(failure.file, failure.reason)
 {
 }
 

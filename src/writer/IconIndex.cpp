@@ -73,8 +73,8 @@ Owner OwnerByCatalog(const IconRow& row)
     if (owner.IsKnown())
         return owner;
     owner = LookUp("PalmApp.dat", name);
-    if (!owner.creator.empty())
-        owner.creator.resize(4, ' ');
+    // On purpose: an entry with a type and no creator belongs to the creator of four blanks.
+    owner.creator.resize(4, ' ');
     return owner;
 }
 

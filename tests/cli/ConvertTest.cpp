@@ -78,12 +78,22 @@ TEST_F(Convert, OptionsChangeWhatIsWritten)
                   .exitCode,
         0);
 
-    const json after = Dumped("out.prc");
+    const json before = Dumped("set.prc"), after = Dumped("out.prc");
+    std::vector<json> kept;
+    for (const json& icon : before["icons"])
+        if (icon["kind"] != "UNKNOWN" && icon["kind"] != "DELETE")
+            kept.push_back(icon["label"]);
+    std::vector<json> labels;
     for (const json& icon : after["icons"])
-        EXPECT_NE(icon["kind"], "UNKNOWN");
+        labels.push_back(icon["label"]);
+    EXPECT_LT(kept.size() + 1, before["icons"].size()) << "there are unknown icons to be dropped";
+    EXPECT_EQ(labels, kept);
     const std::string file = ReadText(folder.File("out.prc"));
     EXPECT_EQ(file.substr(0, 5), std::string("Caf\xE9\0", 5));
     EXPECT_NE(file.find(std::string("9.9\0", 4)), std::string::npos);
+    const std::size_t first = ByteView(ReadBytes(folder.File("out.prc"))).U32(78 + 6);
+    EXPECT_EQ(file[first + 8], 8) << "bits";
+    EXPECT_EQ(file[first + 6] & 0x80, 0x80) << "packed";
 }
 
 TEST_F(Convert, TheChecksOfASaveStopIt)
@@ -91,8 +101,12 @@ TEST_F(Convert, TheChecksOfASaveStopIt)
     Iconset unknown{ .resources = { { "tAIB", 3500, LowRecord(8) } } };
     WriteBytes(folder.File("set.prc"), unknown.File());
 
-    EXPECT_EQ(Run({}).exitCode, 1);
+    const ToolRun run = Run({});
 
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.errors,
+        "pixelworks-cli: Error! Can't save an iconset that only contains unknown icons.\n");
+    EXPECT_EQ(run.output, "");
     EXPECT_FALSE(std::filesystem::exists(folder.File("out.prc")));
 }
 

@@ -1,5 +1,8 @@
 #include "Tool.h"
 
+#include "support/Files.h"
+#include "support/TempFolder.h"
+
 #include <array>
 #include <cstdio>
 #include <gtest/gtest.h>
@@ -25,7 +28,8 @@ ToolRun RunTool(const std::vector<std::string>& arguments, const std::string& en
         (environment.empty() ? "" : "exec env " + environment + " ") + Quoted(VYPX_CLI);
     for (const std::string& argument : arguments)
         command += " " + Quoted(argument);
-    FILE* const pipe = popen((command + " 2>/dev/null").c_str(), "r");
+    const TempFolder folder;
+    FILE* const pipe = popen((command + " 2>" + Quoted(folder.File("errors"))).c_str(), "r");
     EXPECT_NE(pipe, nullptr);
     if (!pipe)
         return {};
@@ -35,6 +39,7 @@ ToolRun RunTool(const std::vector<std::string>& arguments, const std::string& en
     for (std::size_t got = 0; (got = fread(part.data(), 1, part.size(), pipe)) > 0;)
         run.output.append(part.data(), got);
     const int status = pclose(pipe);
+    run.errors = ReadText(folder.File("errors"));
     run.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     return run;
 }

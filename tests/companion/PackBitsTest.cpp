@@ -1,6 +1,7 @@
 #include "companion/PackBits.h"
 
 #include "support/Files.h"
+#include "support/Unpacked.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
@@ -14,23 +15,6 @@ Bytes Packed(const std::string& row, std::size_t unit = 1)
     Bytes packed;
     AppendPackBits(packed, Hex(row), unit);
     return packed;
-}
-
-/// What a reader makes of it, one unit after the other.
-Bytes Unpacked(const Bytes& packed, std::size_t unit)
-{
-    Bytes row;
-    for (std::size_t at = 0; at < packed.size();) {
-        const std::size_t control = packed[at++];
-        const bool isRun = control > 128;
-        for (std::size_t i = 0; i < (isRun ? 257 - control : control + 1); ++i) {
-            const auto from = packed.begin() + static_cast<std::ptrdiff_t>(at);
-            row.insert(row.end(), from, from + static_cast<std::ptrdiff_t>(unit));
-            at += isRun ? 0 : unit;
-        }
-        at += isRun ? unit : 0;
-    }
-    return row;
 }
 
 /// The size of the shortest packing, found by trying every run and literal at every unit from the

@@ -63,6 +63,35 @@ TEST(PalmRecord, HighDensityAt8And16Bits)
         Hex("0002 0001 0004 2000 10 03 18 01 00 FF 0090 0000F81F 00000000 FFFF F81F"));
 }
 
+TEST(PalmRecord, HighDensityAt4Bits)
+{
+    EXPECT_EQ(EncodeHighDensity(TwoPixels(), Form(4), Black),
+        Hex("0002 0001 0002 2000 04 03 18 00 00 FF 0090 0000000F 00000000 0500 0000"));
+}
+
+TEST(PalmRecord, PackedPixelsAt16BitsArePairs)
+{
+    Picture flat(4, 1);
+    for (int x = 0; x < 4; ++x)
+        flat.Set(x, 0, { 255, 0, 255 });
+
+    EXPECT_EQ(EncodeLowDensity(flat, Form(16, true), std::nullopt, false),
+        Hex("0004 0001 0008 8400 10 02 0000 00 02 0000 050605 00 00 000000 0005 FDF81F 000000"));
+    EXPECT_EQ(EncodeHighDensity(flat, Form(16, true), std::nullopt),
+        Hex("0004 0001 0008 8000 10 03 18 01 00 02 0090 00000000 00000000 00000007 FDF81F 00"));
+}
+
+TEST(PalmRecord, ARowOrAWayTooLongForItsFieldIsRefused)
+{
+    const Picture wide(32767, 1), wider(32768, 1), large(400, 400);
+
+    EXPECT_NO_THROW(EncodeHighDensity(wide, Form(16), std::nullopt));
+    EXPECT_THROW(EncodeHighDensity(wider, Form(16), std::nullopt), RecordTooLarge);
+    EXPECT_THROW(EncodeLowDensity(wider, Form(16), std::nullopt, false), RecordTooLarge);
+    EXPECT_NO_THROW(EncodeLowDensity(large, Form(16), std::nullopt, false));
+    EXPECT_THROW(EncodeLowDensity(large, Form(16), std::nullopt, true), RecordTooLarge);
+}
+
 TEST(PalmRecord, PackedPixelsStandBehindTheirSize)
 {
     Picture flat(4, 1);
@@ -170,9 +199,44 @@ TEST_F(Database, AMissingPictureIsAFailureAndNoFileAppears)
     const auto failure = Compile({ { "gone.bmp", "", "tAIB3500" } });
 
     ASSERT_TRUE(failure);
-    EXPECT_TRUE(failure->reading);
+    EXPECT_EQ(failure->reason, "this working file is missing or can't be read");
     EXPECT_EQ(failure->file, folder.File("gone.bmp"));
     EXPECT_FALSE(std::filesystem::exists(out));
+}
+
+TEST_F(Database, ARecordIsTransparentByTheLastRowOfItsFileWithTheFlagAndAColour)
+{
+    const TransparencyRow blank{ .flag = "1", .red = "1", .green = "1", .blue = "1" };
+    const TransparencyRow other{ "b.bmp", "1", "9", "9", "9" };
+    const TransparencyRow yes{ "a.bmp", "1", "255", "0", "255" };
+    const TransparencyRow unflagged{ "a.bmp", "0", "255", "0", "255" };
+    const TransparencyRow colourless{ "a.bmp", "1", "", "", "" };
+    const TransparencyRow noNumber{ "a.bmp", "1", "red", "0", "0" };
+    const TransparencyRow tooLarge{ "a.bmp", "1", "256", "0", "0" };
+    const auto index = [&](const std::vector<TransparencyRow>& rows) {
+        const ResourceRow row{ .lowFile = "a.bmp", .highFile = "", .key = "tAIB3500" };
+        EXPECT_FALSE(CompilePRC(
+            { { row } }, rows, Palette8, Palette4, 8, false, out, "Name", folder.Path() + "/"));
+        return (Out()[90 + 6] & 0x20) != 0 ? Out()[90 + 12] : -1;
+    };
+
+    EXPECT_EQ(index({ blank, other, yes }), 5);
+    EXPECT_EQ(index({ yes, blank, other }), 5);
+    EXPECT_EQ(index({ unflagged, yes }), 5);
+    EXPECT_EQ(index({ yes, unflagged }), -1);
+    for (const TransparencyRow& row : { unflagged, colourless, noNumber, tooLarge, blank, other })
+        EXPECT_EQ(index({ row }), -1);
+}
+
+TEST_F(Database, HoldsNoMoreResourcesThanItsCountCanTell)
+{
+    WriteText(out, "old");
+
+    const auto failure = Compile(std::vector<ResourceRow>(65536, Version));
+
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->reason, "a database holds 65535 resources at most");
+    EXPECT_EQ(ReadText(out), "old");
 }
 
 TEST_F(Database, AFailureLeavesTheOldFile)

@@ -222,16 +222,6 @@ TEST_F(Saving, SavingANewIconsetAsksForItsName)
     EXPECT_FALSE(SavingAs);
 }
 
-TEST_F(Saving, ANameWithoutAFolderKeepsIt)
-{
-    EXPECT_TRUE(FileLoaded);
-    ask.SaveTo(Path("plain.vpt"));
-
-    Entry("mnuSaveAs").trigger();
-
-    EXPECT_EQ(FileName, File("plain.vpt"));
-}
-
 TEST_F(Saving, TheWholeRoad)
 {
     Nodes().setCurrentItem(Nodes().NodeOf("Alpha (Small Icon)"));

@@ -1,87 +1,14 @@
-#include "writer/CompileIconset.h"
-
-#include "companion/BmpFile.h"
-#include "companion/NearestColour.h"
-#include "document/IconStats.h"
-#include "support/LoadFixture.h"
-#include "support/Netpbm.h"
-#include "writer/IconIndex.h"
-#include "writer/SaveChecks.h"
+#include "support/CommonUser.h"
+#include "support/CompileFixture.h"
 
 #include <gmock/gmock.h>
-#include <random>
-#include <rapidcheck/gtest.h>
 
 namespace vypx::test {
 
 namespace {
 
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
-
-class Compiling : public LoadFixture {
-protected:
-    Compiling()
-    {
-        WriteText(folder.File("AppList.dat"),
-            "[Alpha]\nType=appl\nCreator={ALPH}\n[Beta]\nType=panl\nCreator={B   }\n"
-            "[Gamma]\nType=data\nCreator={GAMM}\n");
-        WriteText(folder.File("PalmApp.dat"), "[Palm Clock]\nType=appl\nCreator={clck}\n");
-        AppTable = { {}, { "Alpha", "appl", "ALPH", "" }, { "Beta", "panl", "B   ", "" } };
-        PalmTable = { {}, { "Palm Clock", "appl", "clck", "" } };
-        FileLoaded = true;
-        SavingAs = false;
-        DatabaseName = "Set";
-        FileName = folder.File("out.prc");
-        IconTable.clear();
-        BitmapTable.clear();
-    }
-
-    /// A row and its pictures, which are made.
-    void Add(const std::string& label, int id, bool low, bool high, const std::string& kind = "APP",
-        int state = 1, const std::string& type = "tAIB")
-    {
-        const std::string key = type + std::to_string(id);
-        const auto file = [&](bool wanted, const std::string& name, int width) {
-            if (wanted)
-                WriteBytes(WorkPath(name), EncodeBmp24(vypx::Picture(width, 2)));
-            return wanted ? name : std::string("NEW");
-        };
-        IconTable.push_back({ label, key, file(low, key + ".bmp", 3),
-            file(high, key + "-d144.bmp", 6), state, kind });
-    }
-
-    std::vector<std::string> Keys() const
-    {
-        std::vector<std::string> keys;
-        for (const ResourceRow& row : PictureRows())
-            keys.push_back(row.key);
-        return keys;
-    }
-
-    static std::string Text(std::uint32_t packed)
-    {
-        std::string text;
-        for (int shift = 24; shift >= 0; shift -= 8)
-            text += static_cast<char>(packed >> shift & 0xFF);
-        return text;
-    }
-    /// "type creator large small" of each record, in the file's order.
-    std::vector<std::string> Index()
-    {
-        std::vector<std::string> records;
-        BuildIconTableResource();
-        if (!FileExists(WorkPath("iTbl1000.bin")))
-            return records;
-        const Bytes body = ReadBytes(WorkPath("iTbl1000.bin"));
-        const ByteView view(body);
-        for (std::size_t at = 0; at < body.size(); at += 16)
-            records.push_back(view.Text(at, 4) + " " + view.Text(at + 4, 4) + " "
-                + std::to_string(view.U16(at + 8)) + " " + std::to_string(view.U16(at + 10)));
-        return records;
-    }
-    void Compile() { CompileIconset(); }
-};
+using ::testing::StartsWith;
 
 TEST_F(Compiling, TakesRowsWithPicturesThatAreKept)
 {
@@ -95,6 +22,81 @@ TEST_F(Compiling, TakesRowsWithPicturesThatAreKept)
     EXPECT_THAT(Keys(), ElementsAre("tAIB3500"));
 }
 
+TEST_F(Compiling, AFileCellIsAPicturesInAnyLetterCase)
+{
+    Add("A (Large Icon)", 3500, false, false);
+    IconTable[0].LowResFile = "X.BMP";
+
+    const auto rows = PictureRows();
+
+    ASSERT_EQ(rows.size(), 1u);
+    EXPECT_EQ(rows[0].lowFile, "X.BMP");
+    EXPECT_EQ(rows[0].highFile, "");
+}
+
+TEST_F(Compiling, UnknownRowsThatAreNotKeptAreGoneAtTheNextOpen)
+{
+    Add("Alpha (Large Icon)", 3500, true, true);
+    Add("tAIB3501 (UNKN - Large) ", 3501, true, true, "UNKNOWN");
+    KeepUnknown = false;
+
+    CompileIconset();
+
+    EXPECT_EQ(IconTable.size(), 2u) << "the document keeps them";
+    EXPECT_EQ(LoadFile(FileName, listener), LoadResult::Opened);
+    EXPECT_THAT(Labels(), ElementsAre("Alpha (Large Icon)"));
+}
+
+TEST_F(Compiling, AnOrphanThatIsNotMarkedIsCarriedOverWithoutARecord)
+{
+    Add("tAIB3500 (Orphan) ", 3500, true, false, "DELETE");
+
+    CompileIconset();
+
+    EXPECT_THAT(SavedKeys(), ElementsAre("tAIB3500", "tver1000"));
+}
+
+TEST_F(Compiling, PicturesStandBeforeTheVersionAndTheIndex)
+{
+    Add("tAIB7 (X)", 7, true, false, "VY", 1, "Tbmp");
+    Add("Alpha (Large Icon)", 3500, true, false);
+    Add("Beta (Large Icon)", 3400, true, false);
+
+    CompileIconset();
+
+    EXPECT_THAT(SavedKeys(), ElementsAre("Tbmp7", "tAIB3500", "tAIB3400", "tver1000", "iTbl1000"));
+}
+
+TEST_F(Compiling, AKeyThatIsMarkedAsADoubleKeepsItsNumber)
+{
+    Add("Alpha (Large Icon)", 3500, true, false);
+    IconTable[0].ResourceKey = "tAIB3500(Dup)";
+
+    CompileIconset();
+
+    EXPECT_THAT(SavedKeys(), ElementsAre("tAIB3500", "tver1000", "iTbl1000"));
+    EXPECT_EQ(Saved()[2].data, Hex("6170706C 414C5048 0DAC 0000 00000000"));
+}
+
+TEST_F(Compiling, TheOptionPacksEveryRecordAtEveryDepth)
+{
+    Add("Alpha (Large Icon)", 3500, true, true);
+    for (const char* depth : { "4-Bit", "8-Bit", "16-Bit" })
+        for (const bool packs : { false, true }) {
+            DefaultColorDepth = depth;
+            UsePackbits = packs;
+
+            CompileIconset();
+
+            const Bytes family = Saved()[0].data;
+            const std::size_t mark = ByteView(family).U16(10) * std::size_t{ 4 };
+            EXPECT_EQ((family[6] & 0x80) != 0, packs) << depth;
+            EXPECT_EQ((family[mark + 16 + 6] & 0x80) != 0, packs) << depth;
+            EXPECT_EQ(family[8], std::stoi(depth));
+            EXPECT_EQ(family[mark + 16 + 8], std::stoi(depth));
+        }
+}
+
 TEST_F(Compiling, AHighResPictureOnlyLeavesTheLowResColumnEmpty)
 {
     Add("A (Large Icon)", 3500, false, true);
@@ -104,63 +106,6 @@ TEST_F(Compiling, AHighResPictureOnlyLeavesTheLowResColumnEmpty)
     ASSERT_EQ(rows.size(), 1u);
     EXPECT_EQ(rows[0].lowFile, "");
     EXPECT_EQ(rows[0].highFile, "tAIB3500-d144.bmp");
-}
-
-TEST_F(Compiling, OneResourceForBothSizesIsOneRowAndOneRecord)
-{
-    Add("Alpha (Large Icon)", 3500, true, true);
-    Add("Alpha (Small Icon)", 3500, true, true);
-
-    EXPECT_THAT(Keys(), ElementsAre("tAIB3500"));
-    EXPECT_THAT(Index(), ElementsAre("appl ALPH 3500 3500"));
-}
-
-TEST_F(Compiling, LargeAndSmallMeetInOneRecord)
-{
-    Add("Alpha (Small Icon)", 3501, true, false);
-    Add("Beta (Large Icon)", 3502, true, false);
-    Add("Alpha (Large Icon)", 3500, true, false);
-    Add("Palm Clock (Small Icon)", 3503, true, false, "PALM");
-
-    EXPECT_THAT(
-        Index(), ElementsAre("appl ALPH 3500 3501", "appl clck 0 3503", "panl B    3502 0"));
-}
-
-TEST_F(Compiling, OnlyKeptPicturesOfTheRangeTakePartInTheIndex)
-{
-    Add("Alpha (Large Icon)", 3499, true, false);
-    Add("Alpha (Large Icon)", 10000, true, false);
-    Add("Alpha (Large Icon)", 3501, false, false);
-    Add("Alpha (Large Icon)", 3502, true, false, "APP", 0);
-    Add("Alpha (Large Icon)", 3503, true, false, "APP", 1, "Tbmp");
-    Add("Nobody (Large Icon)", 3504, true, false);
-    Add("tAIB3505 (Orphan) ", 3505, true, false, "DELETE");
-
-    EXPECT_THAT(Index(), IsEmpty());
-}
-
-TEST_F(Compiling, UnknownIconsAreNamedByTheIndexThatWasRead)
-{
-    Itbl = { {}, { "appl", "FRST", 3500, 0 }, { "appl", "LAST", 3500, 3501 } };
-    Add("tAIB3500 (LAST - Large) ", 3500, true, false, "UNKNOWN");
-    Add("tAIB3501 (LAST - Small) ", 3501, true, false, "UNKNOWN");
-
-    EXPECT_THAT(Index(), ElementsAre("appl LAST 3500 3501")) << "the last row wins";
-    KeepUnknown = false;
-    EXPECT_THAT(CollectIconIndex().values, IsEmpty());
-}
-
-TEST_F(Compiling, OnPurposeAnotherTypeKeepsTheClassOfTheRecordBefore)
-{
-    Add("Gamma (Large Icon)", 3500, true, false);
-    EXPECT_THAT(Index(), IsEmpty()) << "the class is 0 at first";
-
-    Add("Beta (Large Icon)", 3501, true, false);
-    Add("Gamma (Small Icon)", 3502, true, false);
-    EXPECT_THAT(Index(), ElementsAre("panl B    3501 0"));
-
-    IconTable.erase(IconTable.begin());
-    EXPECT_THAT(Index(), ElementsAre("panl B    3501 0", "data GAMM 0 3502"));
 }
 
 TEST_F(Compiling, AVersionTextLosesItsBlanksAndEndsInAZero)
@@ -177,7 +122,7 @@ TEST_F(Compiling, OldScratchFilesDoNotGetIn)
     WriteBytes(WorkPath("iTbl1000.bin"), Bytes(16, 1));
     Add("Nobody (Large Icon)", 3500, true, false);
 
-    Compile();
+    CompileIconset();
 
     EXPECT_FALSE(FileExists(WorkPath("iTbl1000.bin")));
 }
@@ -186,7 +131,7 @@ TEST_F(Compiling, TbmpResourcesOnlyGiveNoIndex)
 {
     Add("Alpha (Large Icon)", 3500, true, false, "APP", 1, "Tbmp");
 
-    Compile();
+    CompileIconset();
 
     EXPECT_EQ(LoadFile(FileName, listener), LoadResult::Opened);
     EXPECT_THAT(Labels(), ElementsAre("Tbmp3500 () "));
@@ -198,7 +143,7 @@ TEST_F(Compiling, BacksUpTheOldFile)
     WriteText(FileName, "old");
     WriteText(FileName + ".bak", "older");
 
-    Compile();
+    CompileIconset();
 
     EXPECT_EQ(ReadText(FileName + ".bak"), "old");
 }
@@ -209,10 +154,10 @@ TEST_F(Compiling, MakesNoBackupUnderANewNameOrWithoutTheOption)
     WriteText(FileName, "old");
 
     SavingAs = true;
-    Compile();
+    CompileIconset();
     SavingAs = false;
     CreateBackup = false;
-    Compile();
+    CompileIconset();
 
     EXPECT_FALSE(FileExists(FileName + ".bak"));
 }
@@ -224,7 +169,7 @@ TEST_F(Compiling, AMissingWorkingFileIsAFailureAndTheOldFileStands)
     CreateBackup = false;
     WriteText(FileName, "old");
 
-    EXPECT_THROW(Compile(), SaveFailure);
+    EXPECT_THROW(CompileIconset(), SaveFailure);
 
     EXPECT_EQ(ReadText(FileName), "old");
 }
@@ -235,243 +180,137 @@ TEST_F(Compiling, ABackupThatCannotBeMadeIsAFailure)
     WriteText(FileName, "old");
     MakeFolder(FileName + ".bak");
 
-    EXPECT_THROW(Compile(), SaveFailure);
+    EXPECT_THROW(CompileIconset(), SaveFailure);
 
     EXPECT_EQ(ReadText(FileName), "old");
 }
 
-TEST_F(Compiling, AFlaggedPictureOfFewBitsKeepsItsMask)
+TEST_F(Compiling, FailuresSayWhichFileAndWhy)
+{
+    Add("Alpha (Large Icon)", 3500, true, true);
+    const std::string low = WorkPath("tAIB3500.bmp"), high = WorkPath("tAIB3500-d144.bmp");
+
+    WriteText(high, "BM");
+    EXPECT_EQ(WhyNot(), high + ": this working file is no picture");
+
+    std::filesystem::remove(low);
+    EXPECT_EQ(WhyNot(), low + ": this working file is missing or can't be read");
+}
+
+TEST_F(Compiling, AScratchFileThatCannotBeWrittenIsAFailure)
+{
+    Add("Alpha (Large Icon)", 3500, true, false);
+    for (const char* name : { "tver1000.bin", "iTbl1000.bin" }) {
+        MakeFolder(WorkPath(name));
+
+        EXPECT_THAT(WhyNot(), StartsWith(WorkPath(name) + ": "));
+
+        std::filesystem::remove(WorkPath(name));
+    }
+    EXPECT_FALSE(FileExists(FileName));
+    EXPECT_EQ(WhyNot(), "");
+}
+
+#ifndef _WIN32
+
+TEST_F(Compiling, AnOldScratchFileThatCannotBeDeletedIsAFailure)
+{
+    namespace fs = std::filesystem;
+    Add("Alpha (Large Icon)", 3500, true, false);
+    WriteBytes(WorkPath("old.bin"), Bytes(16, 1));
+    fs::permissions(folder.Path(), fs::perms::all);
+    const auto anyone = fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read
+        | fs::perms::owner_exec | fs::perms::group_exec | fs::perms::others_exec;
+    fs::permissions(WorkFolder(), anyone);
+    {
+        const CommonUser common;
+
+        EXPECT_EQ(WhyNot(), WorkPath("*.bin") + ": an old scratch file can't be deleted");
+    }
+    fs::permissions(WorkFolder(), fs::perms::all);
+    EXPECT_FALSE(FileExists(FileName));
+}
+
+TEST_F(Compiling, ANameWithAStarOrAQuestionMarkIsJustAName)
+{
+    Add("Alpha (Large Icon)", 3500, true, false);
+    WriteText(folder.File("out1.prc"), "another");
+    FileName = folder.File("out?.prc");
+
+    EXPECT_EQ(WhyNot(), "");
+
+    EXPECT_THAT(SavedKeys(), ElementsAre("tAIB3500", "tver1000", "iTbl1000"));
+    EXPECT_EQ(ReadText(folder.File("out1.prc")), "another");
+    EXPECT_FALSE(std::filesystem::exists(FileName + ".bak"));
+}
+
+#endif
+
+TEST_F(Compiling, AnOldFileThatCannotBeReadForItsBackupIsAFailure)
+{
+    Add("Alpha (Large Icon)", 3500, true, false);
+    MakeFolder(FileName);
+
+    EXPECT_EQ(WhyNot(), FileName + ": the old file can't be read for its backup");
+}
+
+TEST_F(Compiling, APictureTooLargeForItsRecordIsAFailureAndTheOldFileStands)
+{
+    Add("Alpha (Large Icon)", 3500, true, true);
+    WriteBytes(WorkPath("tAIB3500.bmp"), EncodeBmp24(vypx::Picture(400, 400)));
+    WriteText(FileName, "old");
+    CreateBackup = UsePackbits = false;
+
+    EXPECT_EQ(WhyNot(),
+        WorkPath("tAIB3500.bmp") + ": this picture is too large for a Palm bitmap of this depth");
+
+    EXPECT_EQ(ReadText(FileName), "old");
+    DefaultColorDepth = "8-Bit";
+    EXPECT_EQ(WhyNot(), "") << "160 KB can be told";
+}
+
+TEST_F(Compiling, AFlaggedPictureOfFewBitsTakesTheColourOfItsIndex)
 {
     BitmapTable = {
         { .file = "a.bmp", .hasTransparent = 1, .index = 1, .depth = 1 },
         {},
         { "b.bmp", 1, 5, 255, 0, 255, 8 },
+        { .file = "c.bmp", .hasTransparent = 1, .index = 1, .depth = 2 },
+        { .file = "d.bmp", .hasTransparent = 0, .index = 1, .depth = 2 },
     };
 
     const auto rows = TransparencyRows();
 
-    ASSERT_EQ(rows.size(), 3u);
-    EXPECT_EQ(rows[0].flag + rows[0].red + rows[0].green + rows[0].blue, "1000");
-    EXPECT_EQ(rows[1].file, "");
-    EXPECT_EQ(rows[2].red + "," + rows[2].green + "," + rows[2].blue, "255,0,255");
-}
-
-class SaveChecks : public Compiling { };
-
-TEST_F(SaveChecks, SpeakInTheirOrder)
-{
-    const auto set = [](int total, int large, int small, int low, int high, int unknown) {
-        StatTotal = total;
-        StatLarge = large;
-        StatSmall = small;
-        StatLowRes = low;
-        StatHighRes = high;
-        StatUnknown = unknown;
+    ASSERT_EQ(rows.size(), 5u);
+    const auto told = [&](std::size_t i) {
+        return rows[i].file + " " + rows[i].flag + " " + rows[i].red + "," + rows[i].green + ","
+            + rows[i].blue;
     };
-    FileLoaded = false;
-    EXPECT_EQ(WhyNotSaved(), "No file loaded.");
-    FileLoaded = true;
-    set(0, 0, 0, 0, 0, 0);
-    EXPECT_EQ(WhyNotSaved(), "Can't save. The iconset doesn't contain any icons.");
-    set(1, 0, 0, 0, 0, 1);
-    EXPECT_EQ(WhyNotSaved(), "Error! Can't save an iconset that only contains unknown icons.");
-    set(1, 1, 0, 0, 0, 0);
-    EXPECT_EQ(WhyNotSaved(), "Error! Iconset doesn't contain any images.");
-    set(2, 1, 0, 0, 0, 1);
-    EXPECT_EQ(
-        WhyNotSaved(), "Error! Iconset must contain at least on normal icon that has images.");
-    set(1, 1, 0, 0, 1, 0);
-    EXPECT_EQ(WhyNotSaved(), std::nullopt);
+    EXPECT_EQ(told(0), "a.bmp 1 0,0,0");
+    EXPECT_EQ(told(1), "  ,,");
+    EXPECT_EQ(told(2), "b.bmp 1 255,0,255");
+    EXPECT_EQ(told(3), "c.bmp 1 170,170,170");
+    EXPECT_EQ(told(4), "d.bmp 0 ,,");
 }
 
-/// A document with random pictures, saved and opened again.
-struct RoundTrip : Compiling {
-    vypx::Picture Noise(int width, int height)
-    {
-        vypx::Picture picture(width, height);
-        Rgb colour;
-        for (int y = 0; y < height; ++y)
-            for (int x = 0; x < width; ++x) {
-                if (random() % 3 != 0)
-                    colour = { static_cast<int>(random() % 256), static_cast<int>(random() % 256),
-                        static_cast<int>(random() % 256) };
-                picture.Set(x, y, colour);
-            }
-        return picture;
-    }
-
-    /// As the depth keeps it.
-    static Rgb Reduced(Rgb colour)
-    {
-        if (DefaultColorDepth == "16-Bit")
-            return From565(To565(colour));
-        const Palette palette =
-            DefaultColorDepth == "8-Bit" ? Palette(Palette8) : Palette(Palette4);
-        return palette[static_cast<std::size_t>(
-            NearestIn(palette).IndexOf(colour.red, colour.green, colour.blue))];
-    }
-    static vypx::Picture Reduced(vypx::Picture picture)
-    {
-        for (int y = 0; y < picture.Height(); ++y)
-            for (int x = 0; x < picture.Width(); ++x)
-                picture.Set(x, y, Reduced(picture.At(x, y)));
-        return picture;
-    }
-
-    void AddPicture(const std::string& file, int width, int height)
-    {
-        pictures[file] = Noise(width, height);
-        WriteBytes(WorkPath(file), EncodeBmp24(pictures[file]));
-        const bool transparent = random() % 2 == 0;
-        BitmapEntry entry{ .file = file, .hasTransparent = transparent ? 1 : 0 };
-        if (transparent) {
-            const Rgb colour = pictures[file].At(0, 0);
-            entry.red = colour.red;
-            entry.green = colour.green;
-            entry.blue = colour.blue;
-        }
-        BitmapTable.push_back(entry);
-        transparency[file] = entry;
-    }
-
-    std::mt19937 random;
-    std::map<std::string, vypx::Picture> pictures;
-    std::map<std::string, BitmapEntry> transparency;
-};
-
-RC_GTEST_FIXTURE_PROP(RoundTrip, ASavedDocumentOpensWithItsIconsPicturesAndColours, ())
+/// A black-and-white mask is opened, saved at 8 bits and opened again.
+TEST_F(Compiling, ABlackAndWhiteIconKeepsItsMask)
 {
-    random.seed(*rc::gen::arbitrary<unsigned>());
-    DefaultColorDepth = *rc::gen::element<std::string>("4-Bit", "8-Bit", "16-Bit");
-    UsePackbits = *rc::gen::arbitrary<bool>();
-    const int icons = *rc::gen::inRange(1, 6);
-    Itbl.assign(1, {});
-    for (int i = 0; i < icons; ++i) {
-        const int id = 3500 + i;
-        const std::string key = "tAIB" + std::to_string(id);
-        const bool low = random() % 4 != 0, high = !low || random() % 4 != 0;
-        const std::string label = i == 0 ? "Alpha (Large Icon)"
-            : i == 1                     ? "Alpha (Small Icon)"
-                                         : key + " (UNKN - Large) ";
-        IconTable.push_back({ label, key, low ? key + ".bmp" : "NEW",
-            high ? key + "-d144.bmp" : "NEW", 1, i < 2 ? "APP" : "UNKNOWN" });
-        if (i >= 2)
-            Itbl.push_back({ "appl", "UN0" + std::to_string(i), id, 0 });
-        if (low)
-            AddPicture(key + ".bmp", 1 + static_cast<int>(random() % 32),
-                1 + static_cast<int>(random() % 22));
-        if (high)
-            AddPicture(key + "-d144.bmp", 1 + static_cast<int>(random() % 64),
-                1 + static_cast<int>(random() % 44));
-    }
-    const std::vector<IconRow> before = IconTable;
-
-    CompileIconset();
-    RC_ASSERT(LoadFile(FileName, listener) == LoadResult::Opened);
-
-    RC_ASSERT(IconTable.size() == before.size());
-    for (std::size_t i = 0; i < before.size(); ++i) {
-        RC_ASSERT(IconTable[i].ResourceKey == before[i].ResourceKey);
-        RC_ASSERT(IconTable[i].LowResFile == before[i].LowResFile);
-        RC_ASSERT(IconTable[i].HighResFile == before[i].HighResFile);
-        if (i < 2)
-            RC_ASSERT(IconTable[i].IconLabel == before[i].IconLabel);
-    }
-    for (const auto& [file, picture] : pictures)
-        RC_ASSERT(DecodeBmp(ReadBytes(WorkPath(file))) == Reduced(picture));
-    for (const BitmapEntry& entry : BitmapTable) {
-        const BitmapEntry& expected = transparency[entry.file];
-        RC_ASSERT(entry.hasTransparent == expected.hasTransparent);
-        if (entry.hasTransparent == 1) {
-            const Rgb colour{ *entry.red, *entry.green, *entry.blue };
-            RC_ASSERT(colour == Reduced(Rgb{ *expected.red, *expected.green, *expected.blue }));
-        }
-    }
-
-    // Saved once more it is the same file, apart from its dates.
-    const Bytes first = ReadBytes(FileName);
-    FileName = folder.File("second.prc");
-    CompileIconset();
-    Bytes second = ReadBytes(FileName);
-    std::copy(first.begin() + 36, first.begin() + 44, second.begin() + 36);
-    const bool isTheSame = second == first;
-    RC_ASSERT(isTheSame);
-
-    IconTable.clear();
-    BitmapTable.clear();
+    const Bytes mono = Hex("0010 0001 0002 2000 01 02 0000 00 FF 0000 AAAA 0000");
+    ASSERT_EQ(Open(Iconset{ .name = "Set",
+                  .resources = { test::Index({ IndexRecord("appl", "ALPH", 3500, 0) }),
+                      { "tAIB", 3500, mono } } }
+                       .File()),
+        LoadResult::Opened);
     FileName = folder.File("out.prc");
-    pictures.clear();
-    transparency.clear();
-}
+    DefaultColorDepth = "8-Bit";
 
-/// Each record of a saved file, cut out and read by netpbm.
-TEST_F(RoundTrip, NetpbmReadsEveryRecord)
-{
-    SKIP_WITHOUT_NETPBM();
-    for (const char* depth : { "4-Bit", "8-Bit", "16-Bit" })
-        for (const bool packed : { false, true }) {
-            DefaultColorDepth = depth;
-            UsePackbits = packed;
-            IconTable = { { "Alpha (Large Icon)", "tAIB3500", "tAIB3500.bmp", "tAIB3500-d144.bmp",
-                1, "APP" } };
-            BitmapTable.clear();
-            AddPicture("tAIB3500.bmp", 31, 21);
-            AddPicture("tAIB3500-d144.bmp", 63, 43);
-
-            CompileIconset();
-
-            const Bytes file = ReadBytes(FileName);
-            const ByteView view(file);
-            const std::size_t first = view.U32(78 + 6), end = view.U32(88 + 6);
-            const std::size_t mark = first + view.U16(first + 10) * std::size_t{ 4 };
-            WriteBytes(folder.File("low.palm"),
-                Bytes(file.begin() + static_cast<std::ptrdiff_t>(first),
-                    file.begin() + static_cast<std::ptrdiff_t>(mark)));
-            WriteBytes(folder.File("high.palm"),
-                Bytes(file.begin() + static_cast<std::ptrdiff_t>(mark + 16),
-                    file.begin() + static_cast<std::ptrdiff_t>(end)));
-            const bool direct = DefaultColorDepth == "16-Bit";
-            if (direct && packed)
-                continue; // netpbm does not know packed 16-bit records
-            EXPECT_EQ(Reduced(PictureFrom("palmtopnm -quiet " + folder.File("low.palm"))),
-                Reduced(pictures["tAIB3500.bmp"]))
-                << depth << packed;
-            EXPECT_EQ(Reduced(PictureFrom("palmtopnm -quiet " + folder.File("high.palm"))),
-                Reduced(pictures["tAIB3500-d144.bmp"]))
-                << depth << packed;
-        }
-}
-
-/// The whole file, read by Perl's Palm::PDB.
-TEST_F(RoundTrip, PalmPdbReadsEveryResource)
-{
-    if (std::system("perl -MPalm::PDB -MPalm::Raw -e 1 2>/dev/null") != 0)
-        GTEST_SKIP() << "libpalm-pdb-perl is not installed";
-    IconTable = { { "Alpha (Large Icon)", "tAIB3500", "tAIB3500.bmp", "NEW", 1, "APP" },
-        { "Other", "Tbmp7", "NEW", "Tbmp7-d144.bmp", 1, "VY" } };
-    AddPicture("tAIB3500.bmp", 31, 21);
-    AddPicture("Tbmp7-d144.bmp", 63, 43);
     CompileIconset();
 
-    const Bytes output =
-        OutputOf("perl -MPalm::PDB -MPalm::Raw -e '"
-                 "Palm::PDB::RegisterPRCHandlers(\"Palm::Raw\", [\"VNTR\", \"ICON\"]);"
-                 "my $pdb = Palm::PDB->new; $pdb->Load($ARGV[0]);"
-                 "print \"$pdb->{name} $pdb->{type} $pdb->{creator} \","
-                 " $pdb->{attributes}{ResDB} ? 1 : 0, \"\\n\";"
-                 "print \"$_->{type} $_->{id} \", length($_->{data}), \"\\n\""
-                 " for @{$pdb->{resources}};' '"
-            + FileName + "' 2>/dev/null");
-
-    const Bytes file = ReadBytes(FileName);
-    const ByteView view(file);
-    const auto size = [&](std::size_t i) {
-        const std::size_t from = view.U32(78 + 10 * i + 6);
-        return std::to_string((i == 3 ? file.size() : view.U32(78 + 10 * (i + 1) + 6)) - from);
-    };
-    EXPECT_EQ(std::string(output.begin(), output.end()),
-        "Set ICON VNTR 1\ntAIB 3500 " + size(0) + "\nTbmp 7 " + size(1) + "\ntver 1000 " + size(2)
-            + "\niTbl 1000 " + size(3) + "\n");
+    const Bytes record = Saved()[0].data;
+    EXPECT_EQ(record[8], 8);
+    EXPECT_EQ(record[6] & 0x20, 0x20);
+    EXPECT_EQ(record[12], 0) << "white, which index 0 is in both palettes";
 }
 
 } // namespace

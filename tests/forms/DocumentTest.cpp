@@ -317,6 +317,70 @@ TEST_F(Depths, LowerDepthsWarn)
     EXPECT_FALSE(Find<QLabel>("lblCDwarn1").isVisible());
 }
 
+TEST_F(Depths, TheDepthOfTheSettingsIsChosenAndAnyOtherIs16Bit)
+{
+    const std::tuple<const char*, const char*, bool> cases[] = { { "4-Bit", "opt4Bit", true },
+        { "8-Bit", "opt8Bit", true }, { "16-Bit", "opt16Bit", false },
+        { "5-Bit", "opt16Bit", false } };
+    for (const auto& [depth, option, warns] : cases) {
+        DefaultColorDepth = depth;
+        Entry("mnuNew").trigger();
+
+        EXPECT_TRUE(Find<QRadioButton>(option).isChecked()) << depth;
+        for (const char* line : { "lblCDwarn1", "lblCDwarn2", "lblCDwarn3", "lblCDwarn4" })
+            EXPECT_EQ(Find<QLabel>(line).isVisible(), warns) << depth;
+        EXPECT_EQ(DefaultColorDepth, depth) << "nothing was clicked";
+
+        Find<QDialog>("frmSelectCDepth").close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
+TEST_F(Depths, HasItsOwnColourBehindEverything)
+{
+    Entry("mnuNew").trigger();
+
+    const QImage seen = Find<QDialog>("frmSelectCDepth").grab().toImage();
+    EXPECT_EQ(seen.pixelColor(2, 2), QColor(224, 223, 227));
+    const QPoint inFrame = Find<QGroupBox>("Frame2").geometry().bottomRight() - QPoint(6, 6);
+    EXPECT_EQ(seen.pixelColor(inFrame), QColor(224, 223, 227));
+}
+
+TEST_F(Depths, EachResolutionShowsItsFramesAndItsMark)
+{
+    const std::tuple<const char*, const char*, bool, bool> cases[] = {
+        { "optHighResOnly", "mnuHideLowRes", true, false },
+        { "optLowResOnly", "mnuHideHighRes", false, true },
+        { "optBothRes", "mnuShowBoth", true, true },
+    };
+    Entry("mnuNew").trigger();
+    for (const auto& [option, mark, large, small] : cases) {
+        Click(option);
+
+        EXPECT_EQ(HighResOnly, large && !small) << option;
+        EXPECT_EQ(LowResOnly, small && !large) << option;
+        EXPECT_EQ(Find<QWidget>("frameLG").isVisible(), large) << option;
+        EXPECT_EQ(Find<QWidget>("frameSM").isVisible(), small) << option;
+        for (const char* entry : { "mnuShowBoth", "mnuHideLowRes", "mnuHideHighRes" })
+            EXPECT_EQ(Entry(entry).isChecked(), entry == std::string_view(mark)) << option;
+    }
+}
+
+TEST_F(Depths, EscapeGivesTheCommandUpAndTheNextOneStartsAfresh)
+{
+    Entry("mnuOpen").trigger();
+    QTest::keyClick(&Find<QDialog>("frmSelectCDepth"), Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+
+    EXPECT_FALSE(HasWindow("frmSelectCDepth"));
+    EXPECT_TRUE(ask.opened.empty());
+
+    Entry("mnuNew").trigger();
+    Click("cmdDoneCDepth");
+    EXPECT_TRUE(HasWindow("frmNewIconset"));
+    EXPECT_TRUE(ask.opened.empty()) << "the command that was given up stays so";
+}
+
 TEST_F(Depths, TheResolutionTakesEffectAtTheClickAndAgainAtTheEnd)
 {
     Entry("mnuNew").trigger();

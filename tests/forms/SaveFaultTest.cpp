@@ -56,6 +56,7 @@ protected:
             environment.insert(name, QString::fromStdString(value));
         };
         set("SAVE_CHILD_FOLDER", folder.Path());
+        set("TMPDIR", folder.Path()); // a killed child leaves its own folder there
         set("LD_PRELOAD", VYPX_FAULTS);
         set("FAULT_PATH", "set.prc");
         set("FAULT_KIND", GetParam());

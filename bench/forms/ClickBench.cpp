@@ -24,7 +24,7 @@ constexpr int Rows = 4000;
 class NoAsk : public Ask {
     QMessageBox::StandardButton Show(QWidget*, const Box&) override { return QMessageBox::Ok; }
     QString OpenFile(QWidget*, const OpenQuestion&) override { return {}; }
-    QString SaveFile(QWidget*, const SaveQuestion&) override { return {}; }
+    std::optional<QString> SaveFile(QWidget*, const SaveQuestion&) override { return {}; }
 };
 
 /// The program with an open document of 4000 rows, each with both pictures.

@@ -29,6 +29,14 @@ void ResetDocument()
     ShareNames.clear();
 }
 
+void ForgetSelection()
+{
+    SelectedNode.clear();
+    HighResPath.clear();
+    LowResPath.clear();
+    LGloaded = SMloaded = false;
+}
+
 std::optional<std::size_t> FindIconRow(std::string_view label)
 {
     if (label.empty())

@@ -15,12 +15,13 @@ QMessageBox::StandardButton ScreenAsk::Show(QWidget* parent, const Box& box)
 
 namespace {
 
-QString Chosen(QFileDialog& dialog, const QString& folder, const QStringList& filters)
+std::optional<QString> Chosen(
+    QFileDialog& dialog, const QString& folder, const QStringList& filters)
 {
     dialog.setNameFilters(filters);
     dialog.setDirectory(folder.isEmpty() ? QDir::currentPath() : folder);
     if (dialog.exec() != QDialog::Accepted)
-        return {};
+        return std::nullopt;
     return dialog.selectedFiles().value(0);
 }
 
@@ -32,10 +33,10 @@ QString ScreenAsk::OpenFile(QWidget* parent, const OpenQuestion& question)
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setOption(QFileDialog::ReadOnly); // it chooses a file; it renames and deletes none
-    return Chosen(dialog, question.folder, question.filters);
+    return Chosen(dialog, question.folder, question.filters).value_or(QString());
 }
 
-QString ScreenAsk::SaveFile(QWidget* parent, const SaveQuestion& question)
+std::optional<QString> ScreenAsk::SaveFile(QWidget* parent, const SaveQuestion& question)
 {
     QFileDialog dialog(parent, question.title);
     dialog.setFileMode(QFileDialog::AnyFile);

@@ -3,6 +3,7 @@
 #include <QMessageBox>
 #include <QString>
 #include <QStringList>
+#include <optional>
 
 namespace vypx {
 
@@ -38,8 +39,8 @@ public:
     virtual QMessageBox::StandardButton Show(QWidget* parent, const Box& box) = 0;
     /// Path of the chosen file; empty when the dialog was cancelled.
     virtual QString OpenFile(QWidget* parent, const OpenQuestion& question) = 0;
-    /// Path of the file to write; empty when the dialog was cancelled.
-    virtual QString SaveFile(QWidget* parent, const SaveQuestion& question) = 0;
+    /// Path of the file to write; nothing when the dialog was cancelled.
+    virtual std::optional<QString> SaveFile(QWidget* parent, const SaveQuestion& question) = 0;
 };
 
 /// Shows real boxes and dialogs.
@@ -47,7 +48,7 @@ class ScreenAsk : public Ask {
 public:
     QMessageBox::StandardButton Show(QWidget* parent, const Box& box) override;
     QString OpenFile(QWidget* parent, const OpenQuestion& question) override;
-    QString SaveFile(QWidget* parent, const SaveQuestion& question) override;
+    std::optional<QString> SaveFile(QWidget* parent, const SaveQuestion& question) override;
 };
 
 } // namespace vypx

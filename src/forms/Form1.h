@@ -116,6 +116,7 @@ private:
     // Form1Load.cpp
     std::optional<std::string> ChooseIconset();
     void DisableSlotCommands();
+    void ForgetShownIcon();
     void EndLoad();
     void Message(std::string_view text) override;
     void BeginLoad() override;

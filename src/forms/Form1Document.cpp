@@ -107,6 +107,13 @@ void Form1::MakeNewIconset(const QString& name)
         IconTable.assign(1, {});
         BitmapTable.assign(1, {});
         BitmapRow = 0;
+        ForgetShownIcon();
+    } else if (!FileLoaded) {
+        // What was left of a file that could not be read must never be saved over it.
+        FileName.clear();
+        IconTable.assign(1, {});
+        BitmapTable.assign(1, {});
+        BitmapRow = 0;
     }
     // On purpose: without a name as well.
     FileLoaded = true;
@@ -132,19 +139,30 @@ void Form1::mnuCloseIconset_Click()
                "mnuRemoveLR", "mnuRemoveHR", "cmdChangeDataBaseName" },
         false);
     FileLoaded = false;
+    ForgetShownIcon();
+    Enable({ "cmdAddIcon", "cmdClrDeleted" }, false);
+    IconTable.assign(1, {});
+    BitmapTable.assign(1, {});
+    BitmapRow = 0;
+    Itbl.assign(1, {});
+    FileCashe.assign(1, 0);
+    ShareNames.assign(1, {});
+    IconsetChanged = false;
+    UpdateIconStats();
+}
+
+/// No icon is selected any more: no pictures, and no commands for them.
+void Form1::ForgetShownIcon()
+{
+    ForgetSelection();
     for (Panel* panel : Panels()) {
         HideColour(*panel);
         ClearPicture(*panel);
         panel->size->clear();
     }
     DisableSlotCommands();
-    Enable({ "cmdAddIcon", "cmdRemoveIcon", "cmdAssignApp", "cmdClrDeleted" }, false);
-    IconTable.assign(1, {});
-    BitmapTable.assign(1, {});
-    Itbl.assign(1, {});
-    FileCashe.assign(1, 0);
-    IconsetChanged = false;
-    UpdateIconStats();
+    Enable({ "cmdRemoveIcon", "cmdAssignApp" }, false);
+    OfferRemoval(Removal::Remove);
 }
 
 } // namespace vypx

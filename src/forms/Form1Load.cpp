@@ -5,6 +5,7 @@
 #include "forms/Ask.h"
 #include "forms/Form1.h"
 #include "forms/Text.h"
+#include "forms/frmNewIconset.h"
 #include "settings/Settings.h"
 #include "ui_Form1.h"
 
@@ -155,6 +156,10 @@ void Form1::ProgressHidden() { m_ui->ProgressBar1->setVisible(false); }
 
 void Form1::Opened()
 {
+    if (m_newIconset)
+        m_newIconset->close(); // it was asked for in the place of another document
+    Enable({ "cmdAssignApp", "cmdRemoveIcon" }, false); // no icon is selected yet
+    OfferRemoval(Removal::Remove);
     Enable({ "frameLG", "frameSM", "cmdAddIcon" }, true);
     BusyEnded();
     m_ui->TreeView1->Fill(Tree);

@@ -107,10 +107,10 @@ std::optional<std::string> Form1::ChooseTarget()
     };
     if (UseLastDirs && DirExists(LastDirIconsetSave))
         question.folder = ShownPath(LastDirIconsetSave);
-    const QString chosen = m_ask.SaveFile(this, question);
-    if (chosen.isEmpty())
+    const std::optional<QString> chosen = m_ask.SaveFile(this, question);
+    if (!chosen)
         return std::nullopt;
-    return chosen.toStdString();
+    return chosen->toStdString();
 }
 
 void Form1::TakeTargetFolder()

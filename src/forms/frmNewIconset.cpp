@@ -31,14 +31,15 @@ void frmNewIconset::cmdDoneName_Click()
     close();
 }
 
-/// Into an empty box no character below "A" can be typed; it can be pasted.
+/// Into an empty box no character below "A" can be typed, Enter no more than a digit; it can be
+/// pasted. Escape, Tab and the shortcuts keep what they are for.
 bool frmNewIconset::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::KeyPress && m_ui->txtNewIconsetDBName->text().isEmpty()) {
         const QString typed = static_cast<QKeyEvent*>(event)->text();
-        constexpr ushort FirstControlEnd = 32, FirstLetter = 65;
-        if (!typed.isEmpty() && typed[0].unicode() >= FirstControlEnd
-            && typed[0].unicode() < FirstLetter)
+        constexpr ushort Enter = 13, FirstPrintable = 32, FirstLetter = 65;
+        const ushort key = typed.isEmpty() ? FirstLetter : typed[0].unicode();
+        if (key == Enter || (key >= FirstPrintable && key < FirstLetter))
             return true;
     }
     return QDialog::eventFilter(watched, event);

@@ -1,7 +1,6 @@
 #include "forms/frmSelectCDepth.h"
 
 #include "forms/Look.h"
-#include "settings/Settings.h"
 #include "ui_frmSelectCDepth.h"
 
 namespace vypx {
@@ -61,6 +60,15 @@ void frmSelectCDepth::TakeResolution()
     HighResOnly = m_ui->optHighResOnly->isChecked();
     LowResOnly = m_ui->optLowResOnly->isChecked();
     emit ResolutionChosen();
+}
+
+void frmSelectCDepth::reject()
+{
+    DefaultColorDepth = m_depthBefore;
+    HighResOnly = m_highResOnlyBefore;
+    LowResOnly = m_lowResOnlyBefore;
+    emit ResolutionChosen();
+    QDialog::reject();
 }
 
 void frmSelectCDepth::cmdDoneCDepth_Click()

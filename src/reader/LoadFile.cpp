@@ -50,8 +50,7 @@ void RememberFolder(LoadListener& listener)
 void ClearTree(LoadListener& listener)
 {
     FileLoaded = false; // a half-built document must never be saved over a file
-    HighResPath.clear();
-    LowResPath.clear();
+    ForgetSelection();
     Tree.Clear();
     TLstCnt = 0;
     listener.TreeCleared();

@@ -61,6 +61,7 @@ TEST_F(Convert, WritesWhatASaveWouldWrite)
 
 TEST_F(Convert, OutMayBeTheFileItself)
 {
+    ASSERT_EQ(Run({}).exitCode, 0);
     std::filesystem::remove_all(folder.File("work"));
 
     EXPECT_EQ(RunTool({ "convert", folder.File("set.prc"), folder.File("set.prc"), "--app-folder",
@@ -68,7 +69,49 @@ TEST_F(Convert, OutMayBeTheFileItself)
                   .exitCode,
         0);
 
-    EXPECT_EQ(Dumped("set.prc")["loaded"], true);
+    EXPECT_EQ(WithoutDates(ReadBytes(folder.File("set.prc"))),
+        WithoutDates(ReadBytes(folder.File("out.prc"))));
+}
+
+TEST_F(Convert, OnlyOneResolutionLeavesTheOtherOut)
+{
+    std::filesystem::copy_file(TestData("iconsets/depth8.prc"), folder.File("set.prc"),
+        std::filesystem::copy_options::overwrite_existing);
+    for (const auto& [only, kept, dropped] : { std::tuple("high", "highResFile", "lowResFile"),
+             { "low", "lowResFile", "highResFile" } }) {
+        ASSERT_EQ(Run({ "--only", only }).exitCode, 0);
+
+        const json after = Dumped("out.prc");
+        ASSERT_FALSE(after["icons"].empty());
+        for (const json& icon : after["icons"]) {
+            EXPECT_NE(icon[kept], "NEW") << only;
+            EXPECT_EQ(icon[dropped], "NEW") << only;
+        }
+    }
+}
+
+TEST_F(Convert, AFileThatIsNoIconsetGivesItsMessageAndNoOutput)
+{
+    WriteBytes(folder.File("set.prc"), Bytes(100, 0));
+
+    const ToolRun run = Run({});
+
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.errors,
+        "pixelworks-cli: This file doesn't appear to be a valid Vantry IconSet\n"
+        "pixelworks-cli: No file loaded.\n");
+    EXPECT_FALSE(std::filesystem::exists(folder.File("out.prc")));
+}
+
+TEST_F(Convert, AFileThatIsNotThereGivesNoOutput)
+{
+    std::filesystem::remove(folder.File("set.prc"));
+
+    const ToolRun run = Run({});
+
+    EXPECT_NE(run.exitCode, 0);
+    EXPECT_FALSE(run.errors.empty());
+    EXPECT_FALSE(std::filesystem::exists(folder.File("out.prc")));
 }
 
 TEST_F(Convert, OptionsChangeWhatIsWritten)
@@ -136,8 +179,11 @@ TEST_P(ConvertWithFaults, LeaveTheOldFileOrTheNewOneWhole)
     const int operations = std::stoi(ReadText(folder.File("count")));
     EXPECT_GE(operations, 5) << "an open, a write, a sync, a close and a rename at least";
 
+    int told = 0;
     for (int at = 1; at <= operations; ++at) {
         const ToolRun run = runWithFault(at);
+        EXPECT_EQ(run.exitCode == -1, kills) << "after operation " << at;
+        told += run.exitCode == 1 && !run.errors.empty() ? 1 : 0;
 
         const Bytes now = WithoutDates(ReadBytes(folder.File("out.prc")));
         EXPECT_TRUE(now == old || now == expected) << "a third thing after operation " << at;
@@ -148,6 +194,9 @@ TEST_P(ConvertWithFaults, LeaveTheOldFileOrTheNewOneWhole)
             EXPECT_FALSE(std::filesystem::exists(folder.File("out.prc.vypx-new"))) << at;
         }
         EXPECT_EQ(Run({}).exitCode, 0) << "what is left must not block the next save";
+    }
+    if (GetParam() == "space" || GetParam() == "io") {
+        EXPECT_GE(told, 4) << "an open, a write, a sync and a rename at least";
     }
 }
 

@@ -149,6 +149,73 @@ TEST_F(OnScreen, ACancelledFileDialogGivesNoPath)
     EXPECT_TRUE(ask.OpenFile(nullptr, { .title = {}, .folder = {}, .filters = {} }).isEmpty());
 }
 
+/// The dialog that saves, with a name typed in and Enter pressed.
+std::optional<QString> SaveUnder(ScreenAsk& ask, const QString& folder)
+{
+    return ask.SaveFile(nullptr,
+        { .title = "Save Iconset",
+            .folder = folder,
+            .filters = { "Vantry Iconset (*.prc *.pdb)" },
+            .defaultEnding = "vpt" });
+}
+
+void TypeName(QFileDialog& dialog, const QString& text)
+{
+    auto* const name = dialog.findChild<QLineEdit*>("fileNameEdit");
+    ASSERT_NE(name, nullptr);
+    name->setText(text);
+    QTest::keyClick(name, Qt::Key_Return);
+}
+
+TEST_F(OnScreen, ADialogThatSavesGivesTheTypedNameAnEndingIfItHasNone)
+{
+    const TempFolder folder;
+    const QString start = QString::fromStdString(folder.Path());
+    const std::pair<const char*, const char*> names[] = { { "my set", "my set.vpt" },
+        { "my.prc", "my.prc" } };
+    for (const auto& [typed, given] : names) {
+        QString title;
+        QStringList filters;
+        WhenUp<QFileDialog>([&, text = typed](QFileDialog& dialog) {
+            title = dialog.windowTitle();
+            filters = dialog.nameFilters();
+            TypeName(dialog, text);
+        });
+
+        EXPECT_EQ(SaveUnder(ask, start), QString::fromStdString(folder.File(given)));
+        EXPECT_EQ(title, "Save Iconset");
+        EXPECT_EQ(filters, QStringList("Vantry Iconset (*.prc *.pdb)"));
+    }
+}
+
+TEST_F(OnScreen, ADialogThatSavesAsksBeforeItTakesAFileThatIsThere)
+{
+    const TempFolder folder;
+    WriteText(folder.File("old.prc"), "x");
+    for (const auto button : { QMessageBox::No, QMessageBox::Yes }) {
+        bool asked = false;
+        WhenUp<QFileDialog>([&](QFileDialog& dialog) {
+            WhenUp<QMessageBox>([&](QMessageBox& box) {
+                asked = true;
+                QTest::mouseClick(box.button(button), Qt::LeftButton);
+            });
+            TypeName(dialog, "old.prc");
+        });
+
+        const auto chosen = SaveUnder(ask, QString::fromStdString(folder.Path()));
+
+        EXPECT_TRUE(asked);
+        EXPECT_EQ(chosen.has_value(), button == QMessageBox::Yes);
+    }
+}
+
+TEST_F(OnScreen, ACancelledDialogThatSavesGivesNothing)
+{
+    WhenUp<QFileDialog>([](QFileDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+
+    EXPECT_EQ(SaveUnder(ask, {}), std::nullopt);
+}
+
 TEST_F(OnScreen, AFileDialogGivesThePathThatWasTypedIn)
 {
     const TempFolder folder;

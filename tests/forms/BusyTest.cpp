@@ -26,9 +26,14 @@ protected:
     void SelectTheIcon()
     {
         Open(Written(Iconset{ .resources = { Picture(3501) } }.File()));
+        ClickTheIcon();
+        ASSERT_TRUE(Find<QPushButton>("cmdRemoveIcon").isEnabled());
+    }
+
+    void ClickTheIcon()
+    {
         QTest::mouseClick(Nodes().viewport(), Qt::LeftButton, {},
             Nodes().visualItemRect(Nodes().NodeOf("tAIB3501 () ")).center());
-        ASSERT_TRUE(Find<QPushButton>("cmdRemoveIcon").isEnabled());
     }
 
     static bool TakesFiles(QWidget& target)
@@ -53,6 +58,7 @@ TEST_F(Busy, AClickOnAButtonDoesNothing)
 
     EXPECT_EQ(Find<QPushButton>("cmdRemoveIcon").text(), "&Remove Selected");
     EXPECT_EQ(IconTable.at(0).IconState, 1);
+    ClickTheIcon();
     QTest::mouseClick(&Find<QPushButton>("cmdRemoveIcon"), Qt::LeftButton);
     EXPECT_EQ(IconTable.at(0).IconState, 0) << "after the load it works again";
 }
@@ -66,6 +72,7 @@ TEST_F(Busy, TheRemoveKeyDoesNothing)
     Open(WithABox());
 
     EXPECT_EQ(IconTable.at(0).IconState, 1);
+    ClickTheIcon();
     QTest::keyClick(&Nodes(), Qt::Key_R);
     EXPECT_EQ(IconTable.at(0).IconState, 0) << "after the load it works again";
 }

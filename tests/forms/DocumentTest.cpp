@@ -1,45 +1,17 @@
-#include "WindowFixture.h"
+#include "DocumentFixture.h"
 
 #include "document/IconStats.h"
-#include "forms/frmSelectCDepth.h"
+#include "forms/Commands.h"
 
 #include <QApplication>
 #include <QClipboard>
 #include <QDialog>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRadioButton>
 
 namespace vypx::test {
 
 namespace {
-
-class Documents : public WindowFixture {
-protected:
-    Documents() { Start(); }
-
-    void OpenAlpha(const std::string& file = "set.prc")
-    {
-        AppTable = { {}, { "Alpha", "appl", "ALPH", "" } };
-        Open(Written(Iconset{ .name = "Set",
-                         .resources = { { "iTbl", 1000, IndexRecord("appl", "ALPH", 3500, 0) },
-                             Picture(3500) } }
-                         .File(),
-            file));
-    }
-    bool HasWindow(const QString& name) { return frame->findChild<QDialog*>(name) != nullptr; }
-    void Click(const QString& name)
-    {
-        Find<QAbstractButton>(name).click();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-    void MakeNew(const QString& name)
-    {
-        Entry("mnuNew").trigger();
-        Find<QLineEdit>("txtNewIconsetDBName").setText(name);
-        Click("cmdDoneName");
-    }
-};
 
 TEST_F(Documents, NewMakesAnEmptyOne)
 {
@@ -53,9 +25,78 @@ TEST_F(Documents, NewMakesAnEmptyOne)
     EXPECT_EQ(Status(1), "Windows Filename = ");
     EXPECT_EQ(Status(2), "Palm Database Name = My Set");
     EXPECT_TRUE(Entry("mnuSave").isEnabled());
-    EXPECT_TRUE(Entry("mnuCloseIconset").isEnabled());
+    EXPECT_TRUE(Entry("mnuSaveAs").isEnabled());
     EXPECT_FALSE(IconsetChanged);
     EXPECT_FALSE(HasWindow("frmNewIconset"));
+}
+
+TEST_F(Documents, NewTakesThePictureAndItsCommandsAway)
+{
+    OpenAlpha();
+    SelectAlpha();
+    ASSERT_TRUE(HasPicture());
+    ASSERT_TRUE(Find<QPushButton>("cmdRemoveIcon").isEnabled());
+
+    Entry("mnuNew").trigger();
+    EXPECT_FALSE(HasPicture());
+    for (const QString name : { "cmdAddIcon", "cmdRemoveIcon", "cmdAssignApp" })
+        EXPECT_FALSE(Find<QPushButton>(name).isEnabled()) << name.toStdString();
+
+    // While the window stands, the old document can still be looked at.
+    Nodes().setCurrentItem(Nodes().Root());
+    SelectAlpha();
+    ASSERT_TRUE(HasPicture());
+    Find<QLineEdit>("txtNewIconsetDBName").setText("My Set");
+    Click("cmdDoneName");
+    EXPECT_FALSE(HasPicture());
+    QTest::keyClick(&Nodes(), Qt::Key_R);
+    EXPECT_FALSE(IconsetChanged) << "there is no icon to be marked";
+}
+
+TEST_F(Documents, OnPurposeANewOneIsAsChangedAsTheOldOneWas)
+{
+    OpenAlpha();
+    IconsetChanged = true;
+    ask.Answer(QMessageBox::No);
+
+    MakeNew("My Set");
+
+    EXPECT_TRUE(IconsetChanged);
+}
+
+TEST_F(Documents, NewAsksNothingWithoutADocument)
+{
+    IconsetChanged = true;
+
+    Entry("mnuNew").trigger();
+
+    EXPECT_TRUE(ask.shown.empty());
+    EXPECT_TRUE(HasWindow("frmNewIconset"));
+}
+
+TEST_F(Documents, AnOpenedOneClosesTheWindowForANewOne)
+{
+    Entry("mnuNew").trigger();
+
+    OpenAlpha();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+
+    EXPECT_FALSE(HasWindow("frmNewIconset"));
+    EXPECT_EQ(Nodes().Root()->text(0), "Set");
+}
+
+TEST_F(Documents, NoIconIsSelectedAfterAnOpen)
+{
+    OpenAlpha();
+    SelectAlpha();
+    OpenAlpha("again.prc");
+
+    QTest::keyClick(&Nodes(), Qt::Key_R);
+
+    EXPECT_EQ(IconTable[0].IconState, 1);
+    EXPECT_FALSE(IconsetChanged);
+    EXPECT_FALSE(Find<QPushButton>("cmdRemoveIcon").isEnabled());
+    EXPECT_FALSE(Find<QPushButton>("cmdAssignApp").isEnabled());
 }
 
 TEST_F(Documents, ANewOneIsNotSavedOnTheStrengthOfTheOldOnesIcons)
@@ -106,11 +147,63 @@ TEST_F(Documents, OnPurposeAnEmptyNameMakesNoRootButCountsAsLoaded)
     EXPECT_EQ(Nodes().Root(), nullptr);
     EXPECT_TRUE(FileLoaded);
     EXPECT_FALSE(Entry("mnuSave").isEnabled());
+    EXPECT_FALSE(HasWindow("frmNewIconset"));
+}
+
+TEST_F(Documents, AnEmptyNameLeavesTheDocumentThatIsOpen)
+{
+    OpenAlpha();
+
+    MakeNew("");
+
+    EXPECT_EQ(Nodes().Root()->text(0), "Set");
+    EXPECT_EQ(FileName, program.File("set.prc"));
+    EXPECT_EQ(IconTable[0].IconLabel, "Alpha (Large Icon)");
+}
+
+TEST_F(Documents, AnEmptyNameDoesNotBringBackAHalfReadFile)
+{
+    OpenAlpha();
+    FileLoaded = false; // as a load leaves it that fails on its way, the rows so far in the table
+    const Bytes before = ReadBytes(FileName);
+
+    MakeNew("");
+    ask.Answer(QMessageBox::Ok);
+    Entry("mnuSave").trigger();
+
+    EXPECT_EQ(Messages().back(), "Can't save. The iconset doesn't contain any icons.");
+    EXPECT_EQ(ReadBytes(program.File("set.prc")), before);
+}
+
+TEST_F(Documents, EnterInTheEmptyNameBoxDoesNothing)
+{
+    Entry("mnuNew").trigger();
+    auto& edit = Find<QLineEdit>("txtNewIconsetDBName");
+
+    QTest::keyClick(&edit, Qt::Key_Return);
+    EXPECT_TRUE(Find<QDialog>("frmNewIconset").isVisible());
+    EXPECT_FALSE(FileLoaded);
+
+    QTest::keyClicks(&edit, "Set");
+    QTest::keyClick(&edit, Qt::Key_Return);
+    EXPECT_EQ(DatabaseName, "Set");
+}
+
+TEST_F(Documents, EscapeInTheEmptyNameBoxGivesUp)
+{
+    Entry("mnuNew").trigger();
+
+    QTest::keyClick(&Find<QLineEdit>("txtNewIconsetDBName"), Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+
+    EXPECT_FALSE(HasWindow("frmNewIconset"));
+    EXPECT_FALSE(FileLoaded);
 }
 
 TEST_F(Documents, CancellingTheNameKeepsTheOldDocument)
 {
     OpenAlpha();
+    SelectAlpha();
     Entry("mnuNew").trigger();
     Click("cmdCancelName");
 
@@ -170,6 +263,7 @@ TEST_F(Documents, OpenAsksNothingWhereNoIconHasAPictureAndNewDoes)
     ask.CancelDialog();
     Entry("mnuOpen").trigger();
     EXPECT_TRUE(ask.shown.empty());
+    EXPECT_EQ(FileName, program.File("set.prc"));
 
     IconsetChanged = true;
     ask.Answer(QMessageBox::Cancel);
@@ -177,10 +271,32 @@ TEST_F(Documents, OpenAsksNothingWhereNoIconHasAPictureAndNewDoes)
     EXPECT_EQ(ask.shown.size(), 1u);
 }
 
+TEST_F(Documents, OpenTakesTheRenamingAndTheSizeLimitsAwayBeforeItAsks)
+{
+    OpenAlpha();
+    SelectAlpha();
+    ASSERT_EQ(Find<QLabel>("lblLG_Size").text(), "Max 64 x 44");
+    Nodes().setCurrentItem(Nodes().Root());
+    ASSERT_TRUE(CommandIsEnabled(*frame, "cmdChangeDataBaseName"));
+    SelectAlpha();
+    IconsetChanged = true;
+    ask.Answer(QMessageBox::Cancel, [&] {
+        EXPECT_FALSE(CommandIsEnabled(*frame, "cmdChangeDataBaseName"));
+        EXPECT_EQ(Find<QLabel>("lblLG_Size").text(), "");
+        EXPECT_EQ(Find<QLabel>("lblSM_Size").text(), "");
+    });
+
+    Entry("mnuOpen").trigger();
+
+    EXPECT_EQ(Nodes().Root()->text(0), "Set") << "Cancel leaves the document";
+}
+
 TEST_F(Documents, CloseEmptiesEverything)
 {
     OpenAlpha();
-    Nodes().setCurrentItem(Nodes().Root()->child(0));
+    Nodes().setCurrentItem(Nodes().Root());
+    SelectAlpha();
+    HighResPath = "there";
 
     Entry("mnuCloseIconset").trigger();
 
@@ -188,13 +304,27 @@ TEST_F(Documents, CloseEmptiesEverything)
     EXPECT_FALSE(FileLoaded);
     EXPECT_EQ(Nodes().Root(), nullptr);
     EXPECT_TRUE(Nodes().isVisible());
-    for (const QString name : { "mnuCloseIconset", "mnuSave", "mnuSaveAs" })
+    for (const QString name : { "mnuCloseIconset", "mnuSave", "mnuSaveAs", "mnuSaveandInstall",
+             "mnuExportTemplate", "mnuRemoveLR", "mnuRemoveHR" })
         EXPECT_FALSE(Entry(name).isEnabled()) << name.toStdString();
-    EXPECT_FALSE(Find<QPushButton>("cmdRemoveIcon").isEnabled());
+    for (const char* name :
+        { "cmdChangeDataBaseName", "cmdAddIcon", "cmdRemoveIcon", "cmdAssignApp", "cmdClrDeleted",
+            "cmdSaveLG", "cmdSaveSM", "cmdImportLG", "cmdImportSM", "mnuPasteLG", "mnuPasteSM" })
+        EXPECT_FALSE(CommandIsEnabled(*frame, name)) << name;
     EXPECT_EQ(IconTable, std::vector<IconRow>(1));
-    EXPECT_EQ(Find<QLabel>("lbl_SMsize").text(), "");
-    EXPECT_TRUE(Find<QWidget>("picSM").size().isEmpty());
-    EXPECT_FALSE(Find<QLabel>("lblNoTransparentSM").isVisible());
+    EXPECT_EQ(BitmapTable.size(), 1u);
+    EXPECT_EQ(BitmapTable[0].file, "");
+    EXPECT_EQ(Itbl.size(), 1u);
+    EXPECT_EQ(FileCashe.size(), 1u);
+    EXPECT_EQ(HighResPath + LowResPath + SelectedNode, "");
+    EXPECT_FALSE(LGloaded || SMloaded);
+    for (const QString letters : { "LG", "SM" }) {
+        EXPECT_EQ(Find<QLabel>("lbl_" + letters + "size").text(), "");
+        EXPECT_TRUE(Find<QWidget>("pic" + letters).size().isEmpty());
+        EXPECT_FALSE(Find<QLabel>("lblNoTransparent" + letters).isVisible());
+        EXPECT_FALSE(Find<QLabel>("lblC_RGB_" + letters).isVisible());
+        EXPECT_FALSE(Find<QWidget>("picColSwatch" + letters).isVisible());
+    }
     EXPECT_EQ(Status(2), "Palm Database Name = Set") << "until the next load";
     EXPECT_TRUE(FileExists(WorkPath("tAIB3500.bmp"))) << "the working folder is left alone";
 }
@@ -218,181 +348,6 @@ TEST_F(Documents, CloseAsksAboutAChangedDocument)
         box.text, "The current iconset has been modified.\n\nAre you sure you want to close it?");
     EXPECT_EQ(box.icon, QMessageBox::Warning);
     EXPECT_EQ(box.buttons, QMessageBox::Ok | QMessageBox::Cancel);
-}
-
-/// With the window that asks for the depth.
-class Depths : public Documents {
-protected:
-    Depths() { PromptColorDepth = true; }
-};
-
-TEST_F(Depths, TheWindowSaysWhatItIsAbout)
-{
-    Entry("mnuNew").trigger();
-
-    EXPECT_EQ(Find<QDialog>("frmSelectCDepth").windowTitle(), "Select Target Color Depth");
-    const std::pair<const char*, const char*> labels[] = {
-        { "Label1", "Please Select the Color Depth (number of colors) for this project." },
-        { "Label2", "Icons will be displayed, and saved at the color depth you select." },
-        { "Label3",
-            "Your choice should be based on the number of colors your PDA is cabable of "
-            "displaying." },
-        { "Label4",
-            "If you're unsure about this setting, please refer to the owner's manual for your "
-            "PDA." },
-        { "Label5", "default color depth in under the program setup menu." },
-        { "Label6", "You can skip having to make this choice each time, by setting a" },
-        { "lblCDwarn1",
-            "NOTE: Any icons viewed, or created that have more colors than your selection," },
-        { "lblCDwarn2",
-            "will have their color depths automatically reduced. This may result in visible "
-            "(and" },
-        { "lblCDwarn3",
-            "possibly undesirable) changes in their appearance. Please refer to the Pixelworks" },
-        { "lblCDwarn4", "help for tips on how to minimize the effects of color reduction." },
-    };
-    for (const auto& [name, text] : labels)
-        EXPECT_EQ(Find<QLabel>(name).text(), text);
-    const std::pair<const char*, const char*> options[] = {
-        { "opt4Bit", "4-Bit (16 Color Grayscale)" },
-        { "opt8Bit", "8-Bit (256 Colors)" },
-        { "opt16Bit", "16-bit (65000 Colors)" },
-        { "optBothRes", "Both high and low res icons" },
-        { "optLowResOnly", "Low Res Only   --> (Remove existing high res icons if opening file.)" },
-        { "optHighResOnly", "High Res Only  --> (Remove existing low res icons if opening file.)" },
-    };
-    for (const auto& [name, text] : options)
-        EXPECT_EQ(Find<QRadioButton>(name).text(), text);
-    EXPECT_EQ(Find<QGroupBox>("Frame1").title(), "Color Depth");
-    EXPECT_EQ(Find<QGroupBox>("Frame2").title(), "Resolution");
-}
-
-TEST_F(Depths, NewGoesOnToTheName)
-{
-    Entry("mnuNew").trigger();
-    EXPECT_FALSE(HasWindow("frmNewIconset"));
-
-    Click("opt8Bit");
-    Click("cmdDoneCDepth");
-
-    EXPECT_TRUE(HasWindow("frmNewIconset"));
-    EXPECT_FALSE(HasWindow("frmSelectCDepth"));
-    EXPECT_EQ(Find<QLabel>("lblTargetCD").text(), "8-Bit");
-}
-
-TEST_F(Depths, OpenGoesOnToTheFile)
-{
-    AppTable = { {}, { "Alpha", "appl", "ALPH", "" } };
-    const QString path = Written(Iconset{ .name = "Deep", .resources = { Picture(3500) } }.File());
-    Entry("mnuOpen").trigger();
-    EXPECT_TRUE(ask.opened.empty());
-
-    ask.Choose(path);
-    Click("cmdDoneCDepth");
-
-    EXPECT_EQ(Nodes().Root()->text(0), "Deep");
-    EXPECT_FALSE(HasWindow("frmSelectCDepth"));
-}
-
-TEST_F(Depths, ClosingTheWindowByItsFrameGivesTheCommandUp)
-{
-    Entry("mnuOpen").trigger();
-
-    Find<QDialog>("frmSelectCDepth").close();
-
-    EXPECT_TRUE(ask.opened.empty());
-}
-
-TEST_F(Depths, LowerDepthsWarn)
-{
-    Entry("mnuNew").trigger();
-    EXPECT_FALSE(Find<QLabel>("lblCDwarn1").isVisible());
-
-    Click("opt4Bit");
-    EXPECT_EQ(DefaultColorDepth, "4-Bit");
-    EXPECT_TRUE(Find<QLabel>("lblCDwarn1").isVisible());
-    EXPECT_TRUE(Find<QLabel>("lblCDwarn4").isVisible());
-
-    Click("opt16Bit");
-    EXPECT_FALSE(Find<QLabel>("lblCDwarn1").isVisible());
-}
-
-TEST_F(Depths, TheDepthOfTheSettingsIsChosenAndAnyOtherIs16Bit)
-{
-    const std::tuple<const char*, const char*, bool> cases[] = { { "4-Bit", "opt4Bit", true },
-        { "8-Bit", "opt8Bit", true }, { "16-Bit", "opt16Bit", false },
-        { "5-Bit", "opt16Bit", false } };
-    for (const auto& [depth, option, warns] : cases) {
-        DefaultColorDepth = depth;
-        Entry("mnuNew").trigger();
-
-        EXPECT_TRUE(Find<QRadioButton>(option).isChecked()) << depth;
-        for (const char* line : { "lblCDwarn1", "lblCDwarn2", "lblCDwarn3", "lblCDwarn4" })
-            EXPECT_EQ(Find<QLabel>(line).isVisible(), warns) << depth;
-        EXPECT_EQ(DefaultColorDepth, depth) << "nothing was clicked";
-
-        Find<QDialog>("frmSelectCDepth").close();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-}
-
-TEST_F(Depths, HasItsOwnColourBehindEverything)
-{
-    Entry("mnuNew").trigger();
-
-    const QImage seen = Find<QDialog>("frmSelectCDepth").grab().toImage();
-    EXPECT_EQ(seen.pixelColor(2, 2), QColor(224, 223, 227));
-    const QPoint inFrame = Find<QGroupBox>("Frame2").geometry().bottomRight() - QPoint(6, 6);
-    EXPECT_EQ(seen.pixelColor(inFrame), QColor(224, 223, 227));
-}
-
-TEST_F(Depths, EachResolutionShowsItsFramesAndItsMark)
-{
-    const std::tuple<const char*, const char*, bool, bool> cases[] = {
-        { "optHighResOnly", "mnuHideLowRes", true, false },
-        { "optLowResOnly", "mnuHideHighRes", false, true },
-        { "optBothRes", "mnuShowBoth", true, true },
-    };
-    Entry("mnuNew").trigger();
-    for (const auto& [option, mark, large, small] : cases) {
-        Click(option);
-
-        EXPECT_EQ(HighResOnly, large && !small) << option;
-        EXPECT_EQ(LowResOnly, small && !large) << option;
-        EXPECT_EQ(Find<QWidget>("frameLG").isVisible(), large) << option;
-        EXPECT_EQ(Find<QWidget>("frameSM").isVisible(), small) << option;
-        for (const char* entry : { "mnuShowBoth", "mnuHideLowRes", "mnuHideHighRes" })
-            EXPECT_EQ(Entry(entry).isChecked(), entry == std::string_view(mark)) << option;
-    }
-}
-
-TEST_F(Depths, EscapeGivesTheCommandUpAndTheNextOneStartsAfresh)
-{
-    Entry("mnuOpen").trigger();
-    QTest::keyClick(&Find<QDialog>("frmSelectCDepth"), Qt::Key_Escape);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-
-    EXPECT_FALSE(HasWindow("frmSelectCDepth"));
-    EXPECT_TRUE(ask.opened.empty());
-
-    Entry("mnuNew").trigger();
-    Click("cmdDoneCDepth");
-    EXPECT_TRUE(HasWindow("frmNewIconset"));
-    EXPECT_TRUE(ask.opened.empty()) << "the command that was given up stays so";
-}
-
-TEST_F(Depths, TheResolutionTakesEffectAtTheClickAndAgainAtTheEnd)
-{
-    Entry("mnuNew").trigger();
-    Click("optHighResOnly");
-    EXPECT_TRUE(HighResOnly && !LowResOnly);
-    EXPECT_FALSE(Find<QWidget>("frameSM").isVisible());
-    EXPECT_TRUE(Entry("mnuHideLowRes").isChecked());
-
-    Entry("mnuShowBoth").trigger();
-    Click("cmdDoneCDepth");
-    EXPECT_FALSE(Find<QWidget>("frameSM").isVisible());
-    EXPECT_TRUE(Entry("mnuHideLowRes").isChecked());
 }
 
 } // namespace

@@ -15,7 +15,7 @@ class PatientAsk : public Ask {
 public:
     QMessageBox::StandardButton Show(QWidget*, const Box&) override { return QMessageBox::Yes; }
     QString OpenFile(QWidget*, const OpenQuestion&) override { return file; }
-    QString SaveFile(QWidget*, const SaveQuestion&) override { return {}; }
+    std::optional<QString> SaveFile(QWidget*, const SaveQuestion&) override { return {}; }
 
     QString file;
 };
@@ -94,8 +94,12 @@ TEST_P(SavingWithFaults, LeaveTheOldFilesOrTheNewOnesWhole)
     const int operations = std::stoi(ReadText(folder.File("count")));
     EXPECT_GE(operations, 10) << "the database's and the backup's";
 
+    const bool kills = GetParam() == "before" || GetParam() == "within" || GetParam() == "after";
+    int told = 0;
     for (int at = 1; at <= operations; ++at) {
         const int result = Save(at);
+        EXPECT_EQ(result == -1, kills) << "after operation " << at;
+        told += result == NotSavedAndTold ? 1 : 0;
 
         const Bytes now = File("set.prc"), backup = File("set.prc.bak");
         EXPECT_TRUE(now == old || now == expected) << "a third thing after operation " << at;
@@ -103,6 +107,14 @@ TEST_P(SavingWithFaults, LeaveTheOldFilesOrTheNewOnesWhole)
         if (result == Saved) {
             EXPECT_TRUE(now == expected && backup == old) << "an untold failure at " << at;
         }
+        for (const char* left : { "set.prc.vypx-new", "set.prc.bak.vypx-new" }) {
+            if (!kills) {
+                EXPECT_FALSE(std::filesystem::exists(folder.File(left))) << left << at;
+            }
+        }
+    }
+    if (GetParam() == "space" || GetParam() == "io") {
+        EXPECT_GE(told, 8) << "opens, writes, syncs and renames of both files";
     }
 }
 

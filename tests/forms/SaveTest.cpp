@@ -99,11 +99,72 @@ TEST_F(Saving, EachCheckStopsBothCommandsWithItsWords)
 TEST_F(Saving, UnknownIconsAloneCannotBeSaved)
 {
     Open(Written(Iconset{ .resources = { Picture(3500) } }.File(), "unknown.prc"));
+    for (const char* command : { "mnuSave", "mnuSaveAs" }) {
+        ask.Answer(QMessageBox::Ok);
+
+        Entry(command).trigger();
+
+        EXPECT_EQ(
+            Messages().back(), "Error! Can't save an iconset that only contains unknown icons.");
+    }
+    EXPECT_FALSE(FileExists(File("unknown.prc.bak")));
+}
+
+TEST_F(Saving, ANewIconsetWithPicturesOfUnknownIconsOnlyCannotBeSaved)
+{
+    const Bytes index =
+        Join({ IndexRecord("appl", "ALPH", 3500, 0), IndexRecord("appl", "WHO?", 3501, 0) });
+    Open(Written(
+        Iconset{ .resources = { { "iTbl", 1000, index }, Picture(3500), Picture(3501) } }.File()));
+    FileName.clear();
+    IconTable[0].LowResFile = "NEW";
+    ASSERT_EQ(IconTable[1].IconKind, "UNKNOWN");
+    frame->Form().UpdateIconStats();
+    for (const char* command : { "mnuSave", "mnuSaveAs" }) {
+        ask.Answer(QMessageBox::Ok);
+
+        Entry(command).trigger();
+
+        EXPECT_EQ(Messages().back(),
+            "Error! Iconset must contain at least on normal icon that has images.");
+    }
+}
+
+TEST_F(Saving, WithoutADocumentThereIsNothingToSave)
+{
     ask.Answer(QMessageBox::Ok);
+    Open(Written(Bytes(100, 0), "bad.prc"));
+    ASSERT_FALSE(FileLoaded);
+    for (const char* command : { "mnuSave", "mnuSaveAs" }) {
+        ask.Answer(QMessageBox::Ok);
+
+        Entry(command).trigger();
+
+        EXPECT_EQ(Messages().back(), "No file loaded.");
+    }
+}
+
+TEST_F(Saving, LeavesTheTreeTheTablesAndTheWorkingFilesAsTheyWere)
+{
+    Open(Written(Iconset{ .resources = { { "iTbl", 1000, IndexRecord("appl", "ALPH", 3500, 3501) },
+                              Picture(3500), Picture(3501), Picture(3502) } }
+                     .File()));
+    KeepUnknown = false;
+    Nodes().setCurrentItem(Nodes().NodeOf("Alpha (Small Icon)"));
+    QTest::keyClick(&Nodes(), Qt::Key_R);
+    const std::vector<IconRow> rows = IconTable;
+    const QStringList nodes = NodeTexts();
 
     Entry("mnuSave").trigger();
 
-    EXPECT_EQ(Messages().back(), "Error! Can't save an iconset that only contains unknown icons.");
+    EXPECT_EQ(IconTable, rows);
+    EXPECT_EQ(IconTable[1].IconState, 0) << "still marked";
+    EXPECT_EQ(NodeTexts(), nodes);
+    EXPECT_EQ(nodes.size(), 3) << "with the unknown icon, which stayed out of the file";
+    for (const char* file : { "tAIB3500.bmp", "tAIB3501.bmp", "tAIB3502.bmp" })
+        EXPECT_TRUE(FileExists(WorkPath(file))) << file;
+    Open(Path("set.prc"));
+    EXPECT_EQ(NodeTexts(), QStringList("Alpha (Large Icon)"));
 }
 
 TEST_F(Saving, SaveAsTakesTheNewNameItsFolderAndNoBackup)
@@ -136,7 +197,7 @@ TEST_F(Saving, SaveAsOntoTheSameFileMakesNoBackup)
 TEST_F(Saving, TheDialogStartsInTheLastFolderAndOnPurposeHasTheTemplatesEnding)
 {
     LastDirIconsetSave = File("temp");
-    ask.SaveTo({});
+    ask.CancelSave();
     Entry("mnuSaveAs").trigger();
 
     ASSERT_EQ(ask.saved.size(), 1u);
@@ -144,16 +205,24 @@ TEST_F(Saving, TheDialogStartsInTheLastFolderAndOnPurposeHasTheTemplatesEnding)
     EXPECT_EQ(ask.saved[0].filters, QStringList("Vantry Iconset (*.prc *.pdb)"));
     EXPECT_EQ(ask.saved[0].defaultEnding, "vpt");
 
+    const auto nextFolder = [&] {
+        ask.CancelSave();
+        Entry("mnuSaveAs").trigger();
+        return ask.saved.back().folder;
+    };
     UseLastDirs = false;
-    ask.SaveTo({});
-    Entry("mnuSaveAs").trigger();
-    EXPECT_EQ(ask.saved[1].folder, "");
+    EXPECT_EQ(nextFolder(), "");
+    UseLastDirs = true;
+    LastDirIconsetSave = File("gone");
+    EXPECT_EQ(nextFolder(), "");
+    LastDirIconsetSave.clear();
+    EXPECT_EQ(nextFolder(), "");
 }
 
 TEST_F(Saving, ACancelledDialogChangesNothing)
 {
     IconsetChanged = true;
-    ask.SaveTo({});
+    ask.CancelSave();
 
     Entry("mnuSaveAs").trigger();
 
@@ -195,6 +264,27 @@ TEST_F(Saving, OnPurposeAFailedSaveAsLeavesTheDocumentChanged)
 
     EXPECT_TRUE(IconsetChanged);
     EXPECT_TRUE(Note().isVisible());
+    EXPECT_TRUE(SavingAs) << "as it was at the moment";
+    EXPECT_EQ(FileName, File("no/such/folder.prc"));
+    EXPECT_EQ(Status(1), "Windows Filename = folder.prc");
+}
+
+TEST_F(Saving, OnPurposeAFirstSaveWithoutANameIsToldAndGoesOn)
+{
+    FileName.clear();
+    IconsetChanged = true;
+    ask.SaveTo("");
+    ask.Answer(QMessageBox::Ok);
+
+    Entry("mnuSave").trigger();
+
+    EXPECT_EQ(Messages(), QStringList("Can't save. Filename not specified."));
+    EXPECT_FALSE(IconsetChanged);
+    EXPECT_TRUE(Note().isVisible()) << "a file without a name can't be written";
+
+    ask.SaveTo("");
+    Entry("mnuSaveAs").trigger();
+    EXPECT_EQ(ask.shown.size(), 1u) << "Save As says nothing";
 }
 
 TEST_F(Saving, OnPurposeAFailedFirstSaveLeavesANewDocumentUnchanged)

@@ -28,8 +28,9 @@ public:
     /// The next file dialog gives this path.
     void Choose(const QString& path) { m_files.push_back(path); }
     void CancelDialog() { m_files.push_back({}); }
-    /// The next dialog that saves gives this path; empty: it is cancelled.
+    /// The next dialog that saves gives this path.
     void SaveTo(const QString& path) { m_targets.push_back(path); }
+    void CancelSave() { m_targets.push_back(std::nullopt); }
 
     QMessageBox::StandardButton Show(QWidget*, const Box& box) override
     {
@@ -57,14 +58,14 @@ public:
         return path;
     }
 
-    QString SaveFile(QWidget*, const SaveQuestion& question) override
+    std::optional<QString> SaveFile(QWidget*, const SaveQuestion& question) override
     {
         saved.push_back(question);
         if (m_targets.empty()) {
             ADD_FAILURE() << "unexpected dialog to save: " << question.title.toStdString();
             return {};
         }
-        const QString path = m_targets.front();
+        const std::optional<QString> path = m_targets.front();
         m_targets.pop_front();
         return path;
     }
@@ -79,7 +80,8 @@ private:
         std::function<void()> during;
     };
     std::deque<BoxAnswer> m_boxes;
-    std::deque<QString> m_files, m_targets;
+    std::deque<QString> m_files;
+    std::deque<std::optional<QString>> m_targets;
 };
 
 } // namespace vypx::test

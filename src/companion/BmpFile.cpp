@@ -166,8 +166,14 @@ void WriteWorkingFile(const std::string& path, const Bytes& bytes)
     file.rdbuf()->pubsetbuf(nullptr, 0); // one write
     const std::u8string utf8(path.begin(), path.end());
     file.open(std::filesystem::path(utf8), std::ios::binary | std::ios::trunc);
+    if (!file)
+        return;
     file.write(
         reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    file.close();
+    std::error_code ignored;
+    if (!file)
+        std::filesystem::remove(std::filesystem::path(utf8), ignored); // half of it is no picture
 }
 
 } // namespace vypx

@@ -8,8 +8,10 @@
 namespace vypx {
 
 /// Tells of a row of units which of them are the same as the next: one bit for a unit, 64 to a
-/// word. A search for runs then takes a step for a run and not for a unit: where a run ends in a
-/// picture can't be guessed, and a processor that guesses wrong loses more time than it reads.
+/// word. A search for runs then takes a step for a run and not for a unit, which is faster: a
+/// processor can't foresee where the runs of a picture end, and a wrong guess costs more than the
+/// look at many units. Everything but `Learn` is about the row that was learned last, and about
+/// units of it.
 class EqualNeighbours {
 public:
     static constexpr std::size_t MostUnits = 65536;
@@ -44,8 +46,8 @@ public:
         return word * 64 + static_cast<std::size_t>(std::countr_zero(ends)) - unit + 1;
     }
 
-    /// The first unit from one on with which a run of at least 2 or 3 units begins; the number of
-    /// units if there is none.
+    /// The first unit from one on with which a run of `least` units or more begins, 2 or 3; the
+    /// number of units if there is none.
     std::size_t NextRun(std::size_t unit, std::size_t least) const
     {
         std::size_t word = unit / 64;

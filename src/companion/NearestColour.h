@@ -58,6 +58,7 @@ private:
     struct Entry {
         std::uint8_t red, green, blue, index;
     };
+    static constexpr int RecentBits = 12; // of the places that colours take by their hash
     struct Cell {
         std::uint32_t first = 0, count = 0; // of m_entries
     };
@@ -82,7 +83,6 @@ private:
     std::vector<Rgb> m_palette;
     std::vector<Cell> m_cells;
     std::vector<Entry> m_entries;
-    static constexpr int RecentBits = 12;
     std::array<std::uint32_t, 1 << RecentBits> m_recent; // a colour's 24 bits, then its index
     std::vector<std::uint16_t> m_by565;                  // index + 1; 0: not worked out yet
 };

@@ -15,7 +15,7 @@ namespace vypx {
 
 namespace {
 
-constexpr std::size_t HeaderSize = 78, EntrySize = 10, Gap = 2, MostResources = 65535;
+constexpr std::size_t HeaderSize = 78, EntrySize = 10, Gap = 2, MostResources = 32767;
 
 void Append16(Bytes& bytes, unsigned value)
 {
@@ -221,7 +221,9 @@ std::optional<CompileFailure> CompilePRC(std::span<const ResourceRow> resources,
             { .depth = depth, .packed = pack, .palette8 = palette8, .palette4 = palette4 },
             workFolder);
         if (resources.size() > MostResources)
-            return CompileFailure{ outputPath, "a database holds 65535 resources at most" };
+            return CompileFailure{ outputPath, "a database holds 32767 resources at most" };
+        if (outputPath.empty())
+            return CompileFailure{ {}, "there is no file name" };
         const Bytes file = Database(resources, databaseName, compiler);
         if (const std::error_code error = platform::ReplaceFile(outputPath, file))
             return CompileFailure{ outputPath, error.message() };

@@ -62,7 +62,7 @@ struct CompileFailure {
 ///       52     8 0
 ///       60     8 "ICON", "VNTR"
 ///       68     8 0
-///       76     2 resource count
+///       76     2 resource count, read as a number with sign: 32767 at most
 ///       78  10*n type, ID, data offset of each
 ///              2 0, then the data, each resource at an even offset
 ///

@@ -66,10 +66,7 @@ public:
     }
 
 private:
-    int IndexAt(const std::uint8_t* pixel)
-    {
-        return m_nearest.IndexOfRecent(pixel[0], pixel[1], pixel[2]);
-    }
+    int IndexAt(const std::uint8_t* rgb) { return m_nearest.IndexOfRecent(rgb[0], rgb[1], rgb[2]); }
 
     const Picture& m_picture;
     int m_depth;

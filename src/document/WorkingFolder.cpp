@@ -80,6 +80,12 @@ bool DirExists(const std::string& path)
     return !path.empty() && fs::is_directory(platform::NativePath(path), error);
 }
 
+bool NamedFileExists(const std::string& path)
+{
+    std::error_code error;
+    return fs::exists(platform::NativePath(path), error);
+}
+
 bool FileExists(const std::string& path)
 {
     const fs::path native = platform::NativePath(path);

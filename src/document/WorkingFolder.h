@@ -27,12 +27,15 @@ void SetTempSuffix(int copyNumber);
 /// existing file of the folder that matches it (without regard to case).
 bool DirExists(const std::string& path);
 bool FileExists(const std::string& path);
+/// A file of the user's, in whose name "*" and "?" are letters like any other.
+bool NamedFileExists(const std::string& path);
 
 /// Makes a folder if it is missing. A failure throws std::filesystem::filesystem_error.
 void MakeFolder(const std::string& path);
 
 /// Deletes the files of the working folder whose names end in one of `endings` (".bmp"), without
-/// regard to case. What can't be deleted stays, and gives false.
+/// regard to case. What can't be deleted stays, and gives false; a folder that can't be read has no
+/// files.
 bool DeleteWorkingFiles(std::initializer_list<std::string_view> endings);
 
 /// Last part of a path, and what stands before it without the separator at its end. "/" separates,

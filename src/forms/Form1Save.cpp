@@ -30,6 +30,7 @@ void Form1::SaveIconset()
 
 bool Form1::PassesSaveChecks()
 {
+    m_ui->TreeView1->FinishEdit();
     const std::optional<std::string_view> why = WhyNotSaved();
     if (why)
         Message(*why);
@@ -38,7 +39,7 @@ bool Form1::PassesSaveChecks()
 
 void Form1::SaveToKnownName()
 {
-    if (FileExists(FileName) && WarnOverwrite) {
+    if (NamedFileExists(FileName) && WarnOverwrite) {
         const auto answer = m_ask.Show(this,
             { .text = "About to overwrite the existing file.\nAre you sure?",
                 .title = "Overwrite file?",

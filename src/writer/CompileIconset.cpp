@@ -7,7 +7,6 @@
 #include "settings/Settings.h"
 #include "writer/IconIndex.h"
 
-#include <filesystem>
 #include <unordered_set>
 
 namespace vypx {
@@ -43,16 +42,9 @@ void DeleteScratchFiles()
         throw SaveFailure(WorkPath("*.bin"), "an old scratch file can't be deleted");
 }
 
-/// Unlike `FileExists`, takes "*" and "?" in the name of an iconset as themselves.
-bool IsThere(const std::string& path)
-{
-    std::error_code error;
-    return std::filesystem::exists(platform::NativePath(path), error);
-}
-
 void BackUp()
 {
-    if (SavingAs || !CreateBackup || !IsThere(FileName))
+    if (SavingAs || !CreateBackup || !NamedFileExists(FileName))
         return;
     const auto old = platform::ReadWholeFile(FileName);
     if (!old)
@@ -64,7 +56,7 @@ void BackUp()
 } // namespace
 
 SaveFailure::SaveFailure(const std::string& file, const std::string& reason)
-    : std::runtime_error(file + ": " + reason)
+    : std::runtime_error(file.empty() ? reason : file + ": " + reason)
 {
 }
 

@@ -121,11 +121,19 @@ TEST(Widening, IsRoundedAndNarrowingGoesBack)
 
 TEST(Widening, NarrowingTakesTheNearest)
 {
+    // In 31sts and 63rds of a step, so that nothing is rounded; ties may go either way.
     for (int component = 0; component < 256; ++component) {
-        const auto distance = [&](int v) { return std::abs(Widened5(v) - component); };
+        const auto distance5 = [&](int v) { return std::abs(v * 255 - component * 31); };
         for (int v = 0; v < 32; ++v)
-            EXPECT_LE(distance(Narrowed5(component)), distance(v) + 1) << component;
+            EXPECT_LE(distance5(Narrowed5(component)), distance5(v)) << component;
+        const auto distance6 = [&](int v) { return std::abs(v * 255 - component * 63); };
+        for (int v = 0; v < 64; ++v)
+            EXPECT_LE(distance6(Narrowed6(component)), distance6(v)) << component;
     }
+    for (int v = 0; v < 32; ++v)
+        EXPECT_EQ(Narrowed5(Widened5(v)), v);
+    for (int v = 0; v < 64; ++v)
+        EXPECT_EQ(Narrowed6(Widened6(v)), v);
 }
 
 TEST(Palettes, Palette8IsTheOneThatNetpbmKnows)

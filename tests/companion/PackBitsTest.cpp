@@ -81,6 +81,20 @@ TEST(PackBits, APairWhereALiteralMustEndStandsAlone)
     EXPECT_EQ(Bytes(packed.begin() + 128, packed.end()), Hex("FFC8"));
 }
 
+TEST(PackBits, ARunOneTooLongGivesTheOneToTheLiteralBeforeIt)
+{
+    for (const std::size_t length : { 129u, 257u }) {
+        Bytes row = Hex("01");
+        row.resize(1 + length, 0xAA);
+
+        Bytes packed;
+        AppendPackBits(packed, row, 1);
+
+        EXPECT_EQ(Bytes(packed.begin(), packed.begin() + 5), Hex("01 01AA 81AA")) << length;
+        EXPECT_EQ(packed.size(), length == 129 ? 5u : 7u);
+    }
+}
+
 TEST(PackBits, AddsToWhatIsThere)
 {
     Bytes packed = Hex("1234");

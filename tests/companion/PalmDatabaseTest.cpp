@@ -81,15 +81,27 @@ TEST(PalmRecord, PackedPixelsAt16BitsArePairs)
         Hex("0004 0001 0008 8000 10 03 18 01 00 02 0090 00000000 00000000 00000007 FDF81F 00"));
 }
 
-TEST(PalmRecord, ARowOrAWayTooLongForItsFieldIsRefused)
+TEST(PalmRecord, ARowOfMoreBytesThanItsFieldTellsIsRefused)
 {
-    const Picture wide(32767, 1), wider(32768, 1), large(400, 400);
+    const Picture wide(32767, 1), wider(32768, 1), wideIndexed(65534, 1), widerIndexed(65535, 1);
 
     EXPECT_NO_THROW(EncodeHighDensity(wide, Form(16), std::nullopt));
     EXPECT_THROW(EncodeHighDensity(wider, Form(16), std::nullopt), RecordTooLarge);
     EXPECT_THROW(EncodeLowDensity(wider, Form(16), std::nullopt, false), RecordTooLarge);
-    EXPECT_NO_THROW(EncodeLowDensity(large, Form(16), std::nullopt, false));
-    EXPECT_THROW(EncodeLowDensity(large, Form(16), std::nullopt, true), RecordTooLarge);
+    EXPECT_NO_THROW(EncodeLowDensity(wideIndexed, Form(8), std::nullopt, false));
+    EXPECT_THROW(EncodeLowDensity(widerIndexed, Form(8), std::nullopt, false), RecordTooLarge);
+}
+
+TEST(PalmRecord, ANextRecordFartherThanItsFieldTellsIsRefused)
+{
+    // 16 bytes of header and 4 for each row: 65535 and 65536 times 4 bytes
+    const Picture large(4, 65531), larger(4, 65532);
+
+    const Bytes record = EncodeLowDensity(large, Form(8), std::nullopt, true);
+    EXPECT_EQ(Bytes(record.begin() + 10, record.begin() + 12), Hex("FFFF"));
+    EXPECT_EQ(record.size(), 65535u * 4);
+    EXPECT_THROW(EncodeLowDensity(larger, Form(8), std::nullopt, true), RecordTooLarge);
+    EXPECT_NO_THROW(EncodeLowDensity(larger, Form(8), std::nullopt, false)) << "nothing follows";
 }
 
 TEST(PalmRecord, PackedPixelsStandBehindTheirSize)
@@ -232,10 +244,10 @@ TEST_F(Database, HoldsNoMoreResourcesThanItsCountCanTell)
 {
     WriteText(out, "old");
 
-    const auto failure = Compile(std::vector<ResourceRow>(65536, Version));
+    const auto failure = Compile(std::vector<ResourceRow>(32768, Version));
 
     ASSERT_TRUE(failure);
-    EXPECT_EQ(failure->reason, "a database holds 65535 resources at most");
+    EXPECT_EQ(failure->reason, "a database holds 32767 resources at most");
     EXPECT_EQ(ReadText(out), "old");
 }
 

@@ -121,8 +121,25 @@ TEST_F(PixelLibrary, AFileThatCannotBeWrittenDoesNotAppear)
 {
     Bmp8to24(OneRow(Hex("00")), Palette8, 1, 1, folder.File("no/folder.bmp"));
 
-    EXPECT_FALSE(WasWritten());
+    EXPECT_FALSE(std::filesystem::exists(folder.File("no")));
 }
+
+#ifndef _WIN32
+
+/// The full disk that Linux has for such tests.
+TEST_F(PixelLibrary, AFileThatOnlyHalfFitsDoesNotAppear)
+{
+    if (!std::filesystem::exists("/dev/full"))
+        GTEST_SKIP() << "no full device";
+    std::filesystem::create_symlink("/dev/full", folder.File("full.bmp"));
+
+    Bmp8to24(OneRow(Hex("00")), Palette8, 1, 1, folder.File("full.bmp"));
+
+    EXPECT_FALSE(std::filesystem::is_symlink(folder.File("full.bmp"))) << "taken away again";
+    EXPECT_TRUE(std::filesystem::exists("/dev/full"));
+}
+
+#endif
 
 TEST_F(PixelLibrary, TCchangeLeavesAPalettesColourUnchanged)
 {

@@ -33,7 +33,7 @@ TEST_F(WorkingFolder, DeletesByEndingInAnyCase)
     for (const char* name : { "a.bmp", "B.BMP", "c.bmp.bak", "d.bin", "keep.txt" })
         WriteText(WorkPath(name), "x");
 
-    DeleteWorkingFiles({ ".bmp", ".bin" });
+    EXPECT_TRUE(DeleteWorkingFiles({ ".bmp", ".bin" }));
 
     EXPECT_FALSE(FileExists(WorkPath("*.bmp")));
     EXPECT_FALSE(FileExists(WorkPath("d.bin")));

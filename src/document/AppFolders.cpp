@@ -39,8 +39,10 @@ std::string ResolveAppFolder(const std::string& programFolder, const std::string
         return programFolder;
     const fs::path folder = platform::NativePath(userFolder);
     std::error_code error;
-    const bool isNew = fs::create_directories(folder, error);
-    if (isNew)
+    fs::create_directories(folder, error);
+    // Up to the first start that came so far as to have settings; what the user deletes later on
+    // does not come back.
+    if (!fs::exists(folder / "VYPX.ini", error))
         FillFolder(platform::NativePath(programFolder), folder);
     return platform::FolderIsWritable(userFolder) ? userFolder : programFolder;
 }

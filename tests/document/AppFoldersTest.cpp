@@ -33,11 +33,12 @@ TEST(AppFolders, ElseTheUsersFolderIsMade)
 
 #ifndef _WIN32
 
-TEST(AppFolders, TheUsersFolderIsFilledOnce)
+TEST(AppFolders, TheUsersFolderIsFilledUpToTheFirstSettings)
 {
     namespace fs = std::filesystem;
     const TempFolder program, user;
     WriteText(program.File("AppList.dat"), "[First]\n");
+    WriteText(program.File("PalmApp.dat"), "[Palm]\n");
     fs::permissions(program.Path(), fs::perms(0555));
     fs::permissions(user.Path(), fs::perms::all);
     const std::string data = user.File("data");
@@ -48,9 +49,16 @@ TEST(AppFolders, TheUsersFolderIsFilledOnce)
         EXPECT_EQ(ReadText(data + "/AppList.dat"), "[First]\n");
 
         WriteText(data + "/AppList.dat", "[Mine]\n");
+        fs::remove(data + "/PalmApp.dat"); // as an interrupted first start leaves it
+        EXPECT_EQ(ResolveAppFolder(program.Path(), data), data);
+        EXPECT_EQ(ReadText(data + "/AppList.dat"), "[Mine]\n");
+        EXPECT_EQ(ReadText(data + "/PalmApp.dat"), "[Palm]\n");
+
+        WriteText(data + "/VYPX.ini", "[Program]\n");
+        fs::remove(data + "/PalmApp.dat");
         EXPECT_EQ(ResolveAppFolder(program.Path(), data), data);
     }
-    EXPECT_EQ(ReadText(data + "/AppList.dat"), "[Mine]\n");
+    EXPECT_FALSE(fs::exists(data + "/PalmApp.dat")) << "what the user deletes stays deleted";
     fs::permissions(program.Path(), fs::perms::owner_all);
 }
 

@@ -416,6 +416,23 @@ TEST_F(Inifile, AScreenBelowTheLeastSizeLeavesTheWindowWhereItIs)
     EXPECT_EQ(window, OnAScreen());
 }
 
+TEST_F(Inifile, AMaximisedFormOfASizeThatIsNoNumberIsReadByTheFallbacks)
+{
+    WriteText(file, "[Form]\nLeft=x\nTop=\nWidth=1e99\nHeight=FAIL\nMaximised=1\n");
+    ini.Section("Form");
+    ini.key("k");
+    ini.Default("d");
+    Placement window = OnAScreen();
+    const Placement before = window;
+
+    ini.LoadFormPosition(window, 100, 100);
+
+    EXPECT_EQ(window.width, before.width);
+    EXPECT_EQ(window.height, before.height);
+    EXPECT_EQ(window.state, WindowState::Maximised);
+    EXPECT_EQ(ini.key() + ini.Default(), "kd");
+}
+
 /// Names and values that can stand in a file as they are.
 std::string Word(int number) { return "w" + std::to_string(number); }
 

@@ -155,7 +155,7 @@ std::optional<Removal> ToggleRemoval()
     IconsetChanged = true;
     std::optional<Removal> next;
     for (IconRow& row : IconTable) {
-        if (row.IconLabel != SelectedNode)
+        if (row.IconLabel.empty() || row.IconLabel != SelectedNode)
             continue;
         const bool marks = row.IconState == 1;
         row.IconState = marks ? 0 : 1;

@@ -47,9 +47,9 @@ void ReadIconTableResource(LoadListener& listener)
     const std::int32_t count = ResourceSize / RecordSize;
     if (count < 0)
         throw PastTheEnd();
-    Itbl.assign(static_cast<std::size_t>(count) + 1, {});
     if (count > INT16_MAX)
         throw std::out_of_range("record count beyond 16 bits with sign");
+    Itbl.assign(static_cast<std::size_t>(count) + 1, {});
     std::size_t index = static_cast<std::size_t>(ResourceOffset) + 1;
     for (std::size_t row = 1; row < Itbl.size(); ++row, index += RecordSize)
         Itbl[row] = ReadRecord(index);

@@ -27,7 +27,7 @@ public:
     {
         while (Pass() && !m_itblSeen) {
             m_itblSeen = m_noItbl = true;
-            Itbl.assign(1, {}); // the index of the last file says nothing about this one
+            Itbl.clear(); // the index of the last file says nothing about this one
         }
     }
 

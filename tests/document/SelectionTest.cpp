@@ -206,6 +206,40 @@ TEST_F(Selection, AFlaggedPictureOfFewBitsTakesTheColourOfItsIndex)
     EXPECT_EQ(SlotLG.Mask(), (Rgb{ 85, 85, 85 }));
 }
 
+TEST_F(Selection, ALaterRowOfTheTableOfBitmapsCounts)
+{
+    Add("A (Large Icon)", "tAIB1", "a.bmp", "NEW");
+    BitmapTable = { { "a.bmp", 1, 5, 1, 1, 1, 8 }, { "a.bmp", 1, 5, 2, 2, 2, 8 } };
+
+    Select("A (Large Icon)");
+
+    EXPECT_EQ(SlotSM.Mask(), (Rgb{ 2, 2, 2 }));
+}
+
+TEST_F(Selection, RowsOfOneLabelGiveOnePictureEach)
+{
+    Add("A (Large Icon)", "tAIB1", "a.bmp", "NEW");
+    Add("A (Large Icon)", "tAIB2", "NEW", "b-d144.bmp");
+    Add("A (Large Icon)", "tAIB3", "c.bmp", "c-d144.bmp");
+
+    Select("A (Large Icon)");
+
+    EXPECT_EQ(LowResPath, WorkPath("a.bmp"));
+    EXPECT_EQ(HighResPath, WorkPath("b-d144.bmp"));
+}
+
+TEST_F(Selection, WithNothingSelectedNoRowIsMarked)
+{
+    IconTable.assign(3, {});
+    for (IconRow& row : IconTable)
+        row.IconState = 1;
+    SelectedNode.clear();
+
+    EXPECT_EQ(ToggleRemoval(), std::nullopt);
+
+    EXPECT_EQ(IconTable[0].IconState, 1);
+}
+
 TEST_F(Selection, SharersAreListedInRowOrder)
 {
     Add("A (Large Icon)", "tAIB1", "a.bmp", "NEW");

@@ -217,13 +217,24 @@ TEST_F(WalkResources, CatalogRowsWithoutANameNeverMatch)
 
 TEST_F(WalkResources, AnIndexAtTheEndIsFoundBeforeAnyRowIsMade)
 {
-    std::vector<std::size_t> rowsAtPictures;
     Open(Iconset{ .resources = { Icon(3500), Icon(3501),
                       Index({ IndexRecord("appl", "ALPH", 3500, 3501) }) } }
              .File());
 
     EXPECT_THAT(Labels(), ElementsAre("Alpha (Large Icon)", "Alpha (Small Icon)"));
+    EXPECT_THAT(NodeKeys(), ElementsAre("Alpha (Large Icon)", "Alpha (Small Icon)"));
     EXPECT_EQ(BmpTotalNum, 2) << "the first pass counts nothing";
+}
+
+TEST_F(WalkResources, ABrokenIndexAfterAFileWithoutOneEndsTheWalk)
+{
+    Open(Iconset{ .resources = { Icon(3500) } }.File());
+    ASSERT_THAT(Labels(), ElementsAre("tAIB3500 () "));
+
+    Open(Iconset{ .resources = { { "iTbl", 1000, Bytes(17, 0) }, Icon(3500) } }.File());
+
+    EXPECT_THAT(listener.messages, ElementsAre("Error reading iTbl"));
+    EXPECT_THAT(Labels(), ::testing::IsEmpty()) << "no orphans, which a save would leave out";
 }
 
 TEST_F(WalkResources, ASecondIndexIsNotRead)

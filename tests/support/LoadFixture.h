@@ -4,6 +4,7 @@
 #include "document/Document.h"
 #include "document/WorkingFolder.h"
 #include "reader/LoadFile.h"
+#include "reader/Progress.h"
 #include "settings/Settings.h"
 #include "support/Files.h"
 #include "support/Iconsets.h"
@@ -58,6 +59,7 @@ protected:
         SetDefaultSettings();
         ResetDocument();
         ResetCatalogs();
+        BitmapCount = ProgressCount = 0;
         AppFolder = folder.Path();
         SetTempSuffix(0);
         MakeFolder(WorkFolder());

@@ -116,7 +116,8 @@ private:
     // Form1Load.cpp
     std::optional<std::string> ChooseIconset();
     void DisableSlotCommands();
-    void ForgetShownIcon();
+    void EmptyTables();
+    void OfferNothing();
     void EndLoad();
     void Message(std::string_view text) override;
     void BeginLoad() override;
@@ -167,6 +168,7 @@ private:
     void SaveSettings();
     void SaveRunCount(int count);
     void ShowResolution();
+    void RefreshOptions();
     void TakeOptions();
 
     // Form1Events.cpp

@@ -60,6 +60,7 @@ void Form1::ShowDepthWindow()
 {
     if (!m_depthWindow) {
         m_depthWindow = new frmSelectCDepth(this);
+        connect(m_depthWindow, &frmSelectCDepth::DepthChosen, this, &Form1::RefreshOptions);
         connect(m_depthWindow, &frmSelectCDepth::ResolutionChosen, this, &Form1::ShowResolution);
         connect(m_depthWindow, &frmSelectCDepth::Done, this, &Form1::LeaveDepthWindow);
     }
@@ -104,16 +105,13 @@ void Form1::MakeNewIconset(const QString& name)
         FileName.clear();
         ShowStatus(1, "Windows Filename = ");
         ShowStatus(2, "Palm Database Name = " + Shown(DatabaseName));
-        IconTable.assign(1, {});
-        BitmapTable.assign(1, {});
-        BitmapRow = 0;
-        ForgetShownIcon();
+        EmptyTables();
     } else if (!FileLoaded) {
-        // What was left of a file that could not be read must never be saved over it.
+        // What is left of a closed or a half-read file must never be saved over it.
         FileName.clear();
-        IconTable.assign(1, {});
-        BitmapTable.assign(1, {});
-        BitmapRow = 0;
+        Tree.Clear();
+        m_ui->TreeView1->Fill(Tree);
+        EmptyTables();
     }
     // On purpose: without a name as well.
     FileLoaded = true;
@@ -139,21 +137,21 @@ void Form1::mnuCloseIconset_Click()
                "mnuRemoveLR", "mnuRemoveHR", "cmdChangeDataBaseName" },
         false);
     FileLoaded = false;
-    ForgetShownIcon();
+    EmptyTables();
     Enable({ "cmdAddIcon", "cmdClrDeleted" }, false);
-    IconTable.assign(1, {});
-    BitmapTable.assign(1, {});
-    BitmapRow = 0;
     Itbl.assign(1, {});
     FileCashe.assign(1, 0);
-    ShareNames.assign(1, {});
     IconsetChanged = false;
     UpdateIconStats();
 }
 
-/// No icon is selected any more: no pictures, and no commands for them.
-void Form1::ForgetShownIcon()
+/// There are no icons any more, no pictures on show and no commands for them.
+void Form1::EmptyTables()
 {
+    IconTable.assign(1, {});
+    BitmapTable.assign(1, {});
+    BitmapRow = 0;
+    ShareNames.assign(1, {});
     ForgetSelection();
     for (Panel* panel : Panels()) {
         HideColour(*panel);

@@ -61,7 +61,9 @@ bool Form1::eventFilter(QObject* watched, QEvent* event)
     if (IsKeptOutByLoad(*event))
         return true;
     if (IsRemoveKey(*watched, *event)) {
-        RemoveSelected();
+        // A key that is held down must not flip the mark to and fro.
+        if (!static_cast<QKeyEvent*>(event)->isAutoRepeat())
+            RemoveSelected();
         return true;
     }
     if (event->type() == QEvent::Resize && (watched == m_panelLG.box || watched == m_panelSM.box))

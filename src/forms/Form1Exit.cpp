@@ -1,6 +1,8 @@
 #include "document/SettingsFile.h"
 #include "document/WorkingFolder.h"
 #include "forms/Form1.h"
+#include "forms/frmProgOptions.h"
+#include "forms/frmSelectCDepth.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -17,6 +19,11 @@ void Form1::ExitProgram()
     if (m_exited)
         return;
     m_exited = true;
+    // What they take back or take over is to be saved.
+    for (QDialog* window :
+        { static_cast<QDialog*>(m_depthWindow), static_cast<QDialog*>(m_options) })
+        if (window)
+            window->close();
     // On purpose: the first copy never changes the count, and one that is not the last to leave
     // may hand its number to a later one.
     if (InstanceNumber >= 1)

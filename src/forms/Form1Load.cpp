@@ -6,6 +6,7 @@
 #include "forms/Form1.h"
 #include "forms/Text.h"
 #include "forms/frmNewIconset.h"
+#include "forms/frmProgOptions.h"
 #include "settings/Settings.h"
 #include "ui_Form1.h"
 
@@ -38,13 +39,22 @@ void Form1::LoadFile()
     m_sincePaint.start();
     const LoadResult result = vypx::LoadFile(*path, *this);
     m_loading = false;
-    if (result == LoadResult::Recovered)
-        Enable({ "cmdAddIcon", "cmdAssignApp", "cmdRemoveIcon" }, false);
+    if (result == LoadResult::Recovered || result == LoadResult::Failed)
+        OfferNothing();
     if (result != LoadResult::WrongFileType)
         m_ui->TreeView1->Fill(Tree);
     EndLoad();
     if (m_closeAfterLoad)
         ExitProgram();
+}
+
+/// There is no document.
+void Form1::OfferNothing()
+{
+    Enable({ "cmdAddIcon", "cmdAssignApp", "cmdRemoveIcon", "cmdClrDeleted" }, false);
+    OfferRemoval(Removal::Remove);
+    if (m_options)
+        m_options->ShowDepthLock();
 }
 
 /// What every exit of a load does: no busy note, the tree in sight.

@@ -67,6 +67,13 @@ void Form1::ShowResolution()
 {
     ShowPanelsByOption();
     CheckResolutionEntry();
+    RefreshOptions();
+}
+
+void Form1::RefreshOptions()
+{
+    if (m_options)
+        m_options->ShowChoices();
 }
 
 void Form1::TakeOptions()

@@ -120,6 +120,15 @@ void IconTreeView::EditRoot()
     editItem(Root());
 }
 
+void IconTreeView::FinishEdit()
+{
+    QWidget* const editor = viewport()->findChild<QLineEdit*>("txtLabelEdit");
+    if (state() != EditingState || !editor)
+        return;
+    commitData(editor);
+    closeEditor(editor, QAbstractItemDelegate::NoHint);
+}
+
 QTreeWidgetItem* IconTreeView::NodeOf(const QString& key) const { return m_byKey.value(key); }
 
 } // namespace vypx

@@ -26,6 +26,8 @@ public:
 
     /// Lets the user edit the root's text in place.
     void EditRoot();
+    /// Takes a text that is still being typed in, as Enter does.
+    void FinishEdit();
 
     /// Null when there is no such node.
     QTreeWidgetItem* NodeOf(const QString& key) const;

@@ -33,12 +33,10 @@ const std::vector<MenuRow>& MenuRows()
                 { "mnuCloseIconset", "&Close Iconset", QKeySequence::Close },
                 { "mnuSave", "&Save", QKeySequence::Save },
                 { "mnuSaveAs", "S&ave As", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S) },
-                { "mnuSaveandInstall", "Save and &Install" },
-                { "break" },
+                { "mnuSaveandInstall", "Save and &Install" }, { "break" },
                 { "mnuLoadTemplate", "&Load Template" },
-                { "mnuExportTemplate", "&Export Template" },
-                { "breakfiles1" },
-                { "mnuExit", "&Exit", QKeySequence(Qt::CTRL | Qt::Key_Q) },
+                { "mnuExportTemplate", "&Export Template" }, { "breakfiles1" },
+                { "mnuExit", "&Exit" }, // no key: it asks nothing, and Ctrl+Q is beside Ctrl+W
             } },
         { "mnuView", "&View",
             {

@@ -36,10 +36,11 @@ void frmNewIconset::cmdDoneName_Click()
 bool frmNewIconset::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::KeyPress && m_ui->txtNewIconsetDBName->text().isEmpty()) {
-        const QString typed = static_cast<QKeyEvent*>(event)->text();
-        constexpr ushort Enter = 13, FirstPrintable = 32, FirstLetter = 65;
-        const ushort key = typed.isEmpty() ? FirstLetter : typed[0].unicode();
-        if (key == Enter || (key >= FirstPrintable && key < FirstLetter))
+        const auto& pressed = static_cast<QKeyEvent&>(*event);
+        constexpr ushort FirstPrintable = 32, FirstLetter = 65;
+        const ushort letter = pressed.text().isEmpty() ? FirstLetter : pressed.text()[0].unicode();
+        if (pressed.key() == Qt::Key_Return || pressed.key() == Qt::Key_Enter
+            || (letter >= FirstPrintable && letter < FirstLetter))
             return true;
     }
     return QDialog::eventFilter(watched, event);

@@ -23,6 +23,8 @@ frmProgOptions::frmProgOptions(QWidget* parent)
     setAttribute(Qt::WA_DeleteOnClose);
     PaintChrome(*this);
     move(PixelsFromTwips(OpenAt), PixelsFromTwips(OpenAt));
+    for (QLineEdit* edit : { m_ui->txtPalmUserID, m_ui->txtVstring })
+        edit->setValidator(Latin1Validator(*edit));
     ShowSettings();
     ConnectBoxes();
     ConnectDepths();
@@ -47,6 +49,13 @@ void frmProgOptions::ShowSettings()
     m_ui->chkStartupSearch->setChecked(StartupSearch);
     m_ui->chkRememberBackColor->setChecked(RememberPreviewColor);
     m_ui->chkPromptForCDepth->setChecked(PromptColorDepth);
+    (UsePackbits ? m_ui->optPalm40 : m_ui->optPalm35)->setChecked(true);
+    ShowChoices();
+    ShowDepthLock();
+}
+
+void frmProgOptions::ShowChoices()
+{
     (HighResOnly         ? m_ui->optHighResOnly
             : LowResOnly ? m_ui->optLowResOnly
                          : m_ui->optBothRes)
@@ -55,8 +64,6 @@ void frmProgOptions::ShowSettings()
             : DefaultColorDepth == "8-Bit" ? m_ui->opt8Bit
                                            : m_ui->opt16Bit)
         ->setChecked(true);
-    (UsePackbits ? m_ui->optPalm40 : m_ui->optPalm35)->setChecked(true);
-    ShowDepthLock();
 }
 
 void frmProgOptions::ShowDepthLock()
@@ -122,7 +129,7 @@ void frmProgOptions::ConnectResolutions()
     setsResolution(m_ui->optLowResOnly, false, true);
 }
 
-void frmProgOptions::cmdDoneOptions_Click()
+void frmProgOptions::TakeTexts()
 {
     QString version = m_ui->txtVstring->text();
     while (version.endsWith(' '))
@@ -130,7 +137,14 @@ void frmProgOptions::cmdDoneOptions_Click()
     VersionString = version.isEmpty() ? "3.20" : Inner(version);
     PalmUserID = Inner(m_ui->txtPalmUserID->text().trimmed());
     emit Done();
-    close();
+}
+
+void frmProgOptions::cmdDoneOptions_Click() { close(); }
+
+void frmProgOptions::reject()
+{
+    TakeTexts();
+    QDialog::reject();
 }
 
 } // namespace vypx

@@ -12,8 +12,8 @@ class frmProgOptions;
 namespace vypx {
 
 /// The window of the program's options. Every change takes effect at once, on the variables of
-/// settings/Settings.h; the two texts are taken by its Done button. It does not block the main
-/// form and goes when it is closed.
+/// settings/Settings.h, the two texts when it is closed, in whatever way: there is no cancel. It
+/// does not block the main form and goes when it is closed.
 class frmProgOptions : public QDialog {
     Q_OBJECT
 
@@ -23,6 +23,10 @@ public:
 
     /// An iconset was opened or closed: the colour depth can only be changed without one.
     void ShowDepthLock();
+    /// The depth or the resolution was chosen elsewhere.
+    void ShowChoices();
+
+    void reject() override;
 
 signals:
     /// HighResOnly and LowResOnly have new values.
@@ -36,6 +40,7 @@ private:
     void ConnectDepths();
     void ConnectResolutions();
     void ShowDepthWarning();
+    void TakeTexts();
     void cmdDoneOptions_Click();
 
     std::unique_ptr<Ui::frmProgOptions> m_ui;

@@ -1,7 +1,10 @@
 #include "forms/frmSelectCDepth.h"
 
 #include "forms/Look.h"
+#include "settings/Settings.h"
 #include "ui_frmSelectCDepth.h"
+
+#include <tuple>
 
 namespace vypx {
 
@@ -40,8 +43,10 @@ void frmSelectCDepth::ConnectDepths()
 {
     const auto setsDepth = [this](QAbstractButton* option, const char* depth) {
         connect(option, &QAbstractButton::clicked, this, [this, depth] {
+            m_depth = { m_depth ? m_depth->before : DefaultColorDepth, depth };
             DefaultColorDepth = depth;
             ShowDepthWarning();
+            emit DepthChosen();
         });
     };
     setsDepth(m_ui->opt4Bit, "4-Bit");
@@ -57,17 +62,24 @@ void frmSelectCDepth::ConnectResolutions()
 
 void frmSelectCDepth::TakeResolution()
 {
-    HighResOnly = m_ui->optHighResOnly->isChecked();
-    LowResOnly = m_ui->optLowResOnly->isChecked();
+    const Resolution chosen{ m_ui->optHighResOnly->isChecked(), m_ui->optLowResOnly->isChecked() };
+    m_resolution = { m_resolution ? m_resolution->before : Resolution(HighResOnly, LowResOnly),
+        chosen };
+    std::tie(HighResOnly, LowResOnly) = chosen;
     emit ResolutionChosen();
 }
 
 void frmSelectCDepth::reject()
 {
-    DefaultColorDepth = m_depthBefore;
-    HighResOnly = m_highResOnlyBefore;
-    LowResOnly = m_lowResOnlyBefore;
-    emit ResolutionChosen();
+    // What was chosen elsewhere meanwhile stays.
+    if (m_depth && DefaultColorDepth == m_depth->chosen) {
+        DefaultColorDepth = m_depth->before;
+        emit DepthChosen();
+    }
+    if (m_resolution && Resolution(HighResOnly, LowResOnly) == m_resolution->chosen) {
+        std::tie(HighResOnly, LowResOnly) = m_resolution->before;
+        emit ResolutionChosen();
+    }
     QDialog::reject();
 }
 

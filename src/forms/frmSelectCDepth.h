@@ -1,9 +1,10 @@
 #pragma once
 
-#include "settings/Settings.h"
-
 #include <QDialog>
 #include <memory>
+#include <optional>
+#include <string>
+#include <utility>
 
 namespace Ui {
 class frmSelectCDepth;
@@ -13,7 +14,7 @@ namespace vypx {
 
 /// Asks for the colour depth and the resolutions of a document that is to be opened or made. It
 /// does not block the main form; every choice takes effect at once. Closing it by its frame or by
-/// Escape gives the command up and the choices with it: the document that is open keeps its depth.
+/// Escape gives the command up and takes its choices back: a document that is open keeps its depth.
 class frmSelectCDepth : public QDialog {
     Q_OBJECT
 
@@ -24,6 +25,8 @@ public:
     void reject() override;
 
 signals:
+    /// DefaultColorDepth has a new value.
+    void DepthChosen();
     /// HighResOnly and LowResOnly have new values.
     void ResolutionChosen();
     /// On to the document. The window is hidden.
@@ -37,8 +40,14 @@ private:
     void cmdDoneCDepth_Click();
 
     std::unique_ptr<Ui::frmSelectCDepth> m_ui;
-    const std::string m_depthBefore = DefaultColorDepth;
-    const bool m_highResOnlyBefore = HighResOnly, m_lowResOnlyBefore = LowResOnly;
+    /// A value as it stood before this window's first choice, and its last choice.
+    template <typename Value>
+    struct Choice {
+        Value before, chosen;
+    };
+    using Resolution = std::pair<bool, bool>; // HighResOnly, LowResOnly
+    std::optional<Choice<std::string>> m_depth;
+    std::optional<Choice<Resolution>> m_resolution;
 };
 
 /// What follows the window: a new iconset, or one that is opened.

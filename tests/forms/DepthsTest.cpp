@@ -182,12 +182,17 @@ TEST_F(Depths, EachResolutionShowsItsFramesAndItsMark)
 
 TEST_F(Depths, EscapeGivesTheCommandUpAndTheNextOneStartsAfresh)
 {
+    Entry("mnuHideLowRes").trigger();
     Entry("mnuOpen").trigger();
+    Click("opt8Bit");
     QTest::keyClick(&Find<QDialog>("frmSelectCDepth"), Qt::Key_Escape);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 
     EXPECT_FALSE(HasWindow("frmSelectCDepth"));
     EXPECT_TRUE(ask.opened.empty());
+    EXPECT_EQ(DefaultColorDepth, "16-Bit");
+    EXPECT_TRUE(Entry("mnuHideLowRes").isChecked()) << "no resolution was chosen";
+    EXPECT_FALSE(Find<QWidget>("frameSM").isVisible());
 
     Entry("mnuNew").trigger();
     Click("cmdDoneCDepth");

@@ -49,6 +49,7 @@ TEST_F(Documents, NewTakesThePictureAndItsCommandsAway)
     Find<QLineEdit>("txtNewIconsetDBName").setText("My Set");
     Click("cmdDoneName");
     EXPECT_FALSE(HasPicture());
+    EXPECT_EQ(SelectedNode, "");
     QTest::keyClick(&Nodes(), Qt::Key_R);
     EXPECT_FALSE(IconsetChanged) << "there is no icon to be marked";
 }
@@ -90,6 +91,7 @@ TEST_F(Documents, NoIconIsSelectedAfterAnOpen)
     OpenAlpha();
     SelectAlpha();
     OpenAlpha("again.prc");
+    EXPECT_EQ(SelectedNode, "");
 
     QTest::keyClick(&Nodes(), Qt::Key_R);
 
@@ -173,6 +175,8 @@ TEST_F(Documents, AnEmptyNameDoesNotBringBackAHalfReadFile)
 
     EXPECT_EQ(Messages().back(), "Can't save. The iconset doesn't contain any icons.");
     EXPECT_EQ(ReadBytes(program.File("set.prc")), before);
+    EXPECT_EQ(Nodes().Root(), nullptr);
+    EXPECT_EQ(FileName, "");
 }
 
 TEST_F(Documents, EnterInTheEmptyNameBoxDoesNothing)
@@ -181,6 +185,7 @@ TEST_F(Documents, EnterInTheEmptyNameBoxDoesNothing)
     auto& edit = Find<QLineEdit>("txtNewIconsetDBName");
 
     QTest::keyClick(&edit, Qt::Key_Return);
+    QTest::keyClick(&edit, Qt::Key_Enter, Qt::KeypadModifier);
     EXPECT_TRUE(Find<QDialog>("frmNewIconset").isVisible());
     EXPECT_FALSE(FileLoaded);
 
@@ -316,6 +321,8 @@ TEST_F(Documents, CloseEmptiesEverything)
     EXPECT_EQ(BitmapTable[0].file, "");
     EXPECT_EQ(Itbl.size(), 1u);
     EXPECT_EQ(FileCashe.size(), 1u);
+    EXPECT_EQ(ShareNames.size(), 1u);
+    EXPECT_EQ(BitmapRow, 0);
     EXPECT_EQ(HighResPath + LowResPath + SelectedNode, "");
     EXPECT_FALSE(LGloaded || SMloaded);
     for (const QString letters : { "LG", "SM" }) {

@@ -75,7 +75,7 @@ TEST_F(Options, CaptionsStandLetterForLetter)
         texts << box->title();
     for (const char* fixed : { "General Options", "Image Compression Options",
              "If you're unsure which version of Palm OS your PDA uses, you should select:",
-             "\"Compile for Palm OS 3.5 or higher\"" })
+             "\"Compile for Palm OS 3.5 or higher\"", "Version String", "Palm User ID" })
         EXPECT_TRUE(texts.contains(fixed)) << fixed;
 }
 
@@ -168,6 +168,7 @@ TEST_F(Options, AnOpenIconsetLocksTheDepthAndNothingElse)
 
     for (const QString name : { "opt16Bit", "opt8Bit", "opt4Bit", "chkPromptForCDepth" })
         EXPECT_FALSE(Box(name).isEnabled()) << name.toStdString();
+    EXPECT_FALSE(Find<QGroupBox>("frameCD").isEnabled());
     EXPECT_TRUE(Find<QLabel>("lblCantChange").isVisible());
     EXPECT_FALSE(Find<QLabel>("lblCDwarn1").isVisible());
     EXPECT_TRUE(Box("chkCreateBak").isEnabled());
@@ -189,6 +190,117 @@ TEST_F(Options, DoneTakesTheTextsSavesAndCloses)
     EXPECT_EQ(frame->findChild<QDialog*>("frmProgOptions"), nullptr);
     EXPECT_NE(Settings().find("Palm User ID=Jo Palm\n"), std::string::npos);
     EXPECT_NE(Settings().find("User Color Depth=8-Bit\n"), std::string::npos);
+}
+
+TEST_F(Options, IsLockedAtOnceWhereAnIconsetIsOpen)
+{
+    Done();
+    PromptColorDepth = false;
+    LowResOnly = true;
+    DefaultColorDepth = "8-Bit";
+    Open(Written(Iconset{ .resources = { Picture(3500) } }.File()));
+
+    Entry("mnuOptions").trigger();
+
+    EXPECT_FALSE(Box("opt8Bit").isEnabled());
+    EXPECT_TRUE(Box("opt8Bit").isChecked());
+    EXPECT_TRUE(Box("optLowResOnly").isChecked());
+    EXPECT_TRUE(Find<QLabel>("lblCantChange").isVisible());
+    EXPECT_FALSE(Find<QLabel>("lblCDwarn1").isVisible());
+}
+
+TEST_F(Options, ThereIsNoCancel)
+{
+    Find<QLineEdit>("txtPalmUserID").setText("Jo");
+    Find<QLineEdit>("txtVstring").setText("5.5");
+    Click("opt4Bit");
+
+    QTest::keyClick(&Find<QDialog>("frmProgOptions"), Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+
+    EXPECT_EQ(frame->findChild<QDialog*>("frmProgOptions"), nullptr);
+    EXPECT_EQ(PalmUserID + " " + VersionString, "Jo 5.5");
+    EXPECT_EQ(Find<QLabel>("lblTargetCD").text(), "4-Bit");
+    EXPECT_NE(Settings().find("Palm User ID=Jo\n"), std::string::npos);
+}
+
+TEST_F(Options, AnExitTakesTheTextsToo)
+{
+    Find<QLineEdit>("txtPalmUserID").setText("Jo");
+
+    Entry("mnuExit").trigger();
+
+    EXPECT_NE(Settings().find("Palm User ID=Jo\n"), std::string::npos);
+}
+
+TEST_F(Options, LettersThatTheFileCannotHoldCannotBeTyped)
+{
+    for (const char* name : { "txtPalmUserID", "txtVstring" }) {
+        auto& edit = Find<QLineEdit>(name);
+        edit.clear();
+        for (const char* letter : { "\u0141", "u", "\u00E9" })
+            edit.insert(QString::fromUtf8(letter));
+        EXPECT_EQ(edit.text(), QString::fromUtf8("u\u00E9")) << name;
+    }
+}
+
+TEST_F(Options, HasItsOwnColourBehindEverything)
+{
+    const QImage seen = Find<QDialog>("frmProgOptions").grab().toImage();
+    EXPECT_EQ(seen.pixelColor(2, 2), QColor(224, 223, 227));
+    const auto& depths = Find<QGroupBox>("frameCD");
+    const QPoint inFrame =
+        depths.mapTo(depths.window(), depths.rect().bottomRight() - QPoint(6, 6));
+    EXPECT_EQ(seen.pixelColor(inFrame), QColor(224, 223, 227));
+}
+
+/// While the window that asks for the depth stands as well.
+class OptionsAndDepth : public Options {
+protected:
+    OptionsAndDepth()
+    {
+        Entry("mnuNew").trigger();
+        depth = &Find<QDialog>("frmSelectCDepth");
+    }
+
+    bool IsChosen(const QString& name)
+    {
+        return Find<QDialog>("frmProgOptions").findChild<QRadioButton*>(name)->isChecked();
+    }
+    void ClickThere(const QString& name) { depth->findChild<QRadioButton*>(name)->click(); }
+
+    QDialog* depth = nullptr;
+};
+
+TEST_F(OptionsAndDepth, ShowWhatIsChosenThereAndTakenBack)
+{
+    ClickThere("opt4Bit");
+    ClickThere("optLowResOnly");
+    EXPECT_TRUE(IsChosen("opt4Bit"));
+    EXPECT_TRUE(IsChosen("optLowResOnly"));
+
+    depth->close();
+    EXPECT_TRUE(IsChosen("opt16Bit"));
+    EXPECT_TRUE(IsChosen("optBothRes"));
+}
+
+TEST_F(OptionsAndDepth, WhatIsChosenHereMeanwhileStays)
+{
+    ClickThere("opt4Bit");
+    Find<QDialog>("frmProgOptions").findChild<QRadioButton*>("opt8Bit")->click();
+
+    depth->close();
+
+    EXPECT_EQ(DefaultColorDepth, "8-Bit");
+}
+
+TEST_F(OptionsAndDepth, WhatIsTakenBackIsNotSavedAtTheExit)
+{
+    ClickThere("opt4Bit");
+
+    Entry("mnuExit").trigger();
+
+    EXPECT_NE(Settings().find("User Color Depth=16-Bit\n"), std::string::npos);
 }
 
 TEST_F(Options, AnEmptyVersionStringBecomesTheDefault)

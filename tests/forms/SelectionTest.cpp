@@ -1,68 +1,12 @@
-#include "WindowFixture.h"
+#include "IconsFixture.h"
 
 #include "companion/BmpFile.h"
-
-#include <QLineEdit>
-#include <QPushButton>
 
 namespace vypx::test {
 
 namespace {
 
-/// A 2 x 1 record at 8 bits: index 5 (255, 0, 255), which is transparent when flagged, and white.
-Bytes TwoPixels(bool high, bool flagged)
-{
-    Bytes record(high ? 28 : 20, 0);
-    PutU16(record, 0, 2);
-    PutU16(record, 2, 1);
-    PutU16(record, 4, 2);
-    record[6] = flagged ? 0x20 : 0;
-    record[8] = 8;
-    record[high ? 19 : 12] = 5;
-    record[high ? 24 : 16] = 5;
-    return record;
-}
-
-Resource BothPictures(int id, bool flagged)
-{
-    Bytes low = TwoPixels(false, flagged);
-    PutU16(low, 10, static_cast<unsigned>(low.size() / 4));
-    return { "tAIB", id, Join({ low, Separator(), TwoPixels(true, flagged) }) };
-}
-
-class Selecting : public WindowFixture {
-protected:
-    Selecting()
-    {
-        Start();
-        AppTable = { {}, { "Alpha", "appl", "ALPH", "" }, { "Beta", "appl", "BETA", "" } };
-        Open(Written(Iconset{ .name = "Set",
-            .resources = { { "iTbl", 1000,
-                               Join({ IndexRecord("appl", "ALPH", 3500, 3501),
-                                   IndexRecord("appl", "BETA", 3502, 0) }) },
-                BothPictures(3500, true), BothPictures(3501, false), Picture(3502),
-                { "tAIB", 3503, TwoPixels(false, false) } } }
-                         .File()));
-    }
-
-    /// A real click on the node's text.
-    void Click(const QString& text)
-    {
-        QTreeWidgetItem* const node = text == "Set" ? Nodes().Root() : Nodes().NodeOf(text);
-        ASSERT_NE(node, nullptr) << text.toStdString();
-        QTest::mouseClick(
-            Nodes().viewport(), Qt::LeftButton, {}, Nodes().visualItemRect(node).center());
-    }
-    bool IsOn(const QString& name) { return Find<QPushButton>(name).isEnabled(); }
-    QColor Pixel(const QString& box, const QPoint& point)
-    {
-        return Find<QWidget>(box).grab().toImage().pixelColor(point);
-    }
-    int ImageOf(const QString& text)
-    {
-        return Nodes().NodeOf(text)->data(0, IconTreeView::ImageRole).toInt();
-    }
-};
+using Selecting = IconsFixture;
 
 TEST_F(Selecting, AClickShowsBothPicturesTheirSizesAndColours)
 {
@@ -110,6 +54,8 @@ TEST_F(Selecting, APictureWithoutATransparentColourSaysSo)
 
 TEST_F(Selecting, OneSlotOnlyLeavesTheOtherEmptyWithoutWords)
 {
+    Click("Alpha (Small Icon)"); // which has both, and no colour to show
+    ASSERT_TRUE(Find<QLabel>("lblNoTransparentLG").isVisible());
     Click("Beta (Large Icon)");
 
     EXPECT_EQ(Find<QLabel>("lbl_SMsize").text(), "1 x 1 pixels");
@@ -118,14 +64,44 @@ TEST_F(Selecting, OneSlotOnlyLeavesTheOtherEmptyWithoutWords)
     EXPECT_TRUE(Find<QWidget>("picLG").size().isEmpty());
 }
 
+TEST_F(Selecting, AHighResPictureOnlyLeavesTheLowResPanelEmpty)
+{
+    Click("Alpha (Small Icon)");
+    ASSERT_TRUE(Find<QLabel>("lblNoTransparentSM").isVisible());
+    IconTable[0].LowResFile = "NEW";
+    Click("Alpha (Large Icon)");
+
+    EXPECT_EQ(Find<QLabel>("lbl_LGsize").text(), "2 x 1 pixels");
+    EXPECT_EQ(Find<QLabel>("lbl_SMsize").text(), "");
+    EXPECT_FALSE(Find<QLabel>("lblNoTransparentSM").isVisible());
+    EXPECT_FALSE(Find<QLabel>("lblC_RGB_SM").isVisible());
+    EXPECT_TRUE(Find<QWidget>("picSM").size().isEmpty());
+}
+
+TEST_F(Selecting, APictureThatTheTableOfBitmapsLacksHasNoTransparentColour)
+{
+    Click("Alpha (Large Icon)");
+    ASSERT_TRUE(Find<QLabel>("lblC_RGB_LG").isVisible());
+    BitmapTable.assign(1, {});
+    Click("Alpha (Small Icon)");
+    Click("Alpha (Large Icon)");
+
+    EXPECT_FALSE(LGhasTransparent || SMhasTransparent);
+    EXPECT_FALSE(Find<QLabel>("lblC_RGB_LG").isVisible());
+    EXPECT_TRUE(Find<QLabel>("lblNoTransparentLG").isVisible());
+    EXPECT_EQ(Find<QLabel>("lbl_LGsize").text(), "2 x 1 pixels");
+}
+
 TEST_F(Selecting, PicturesStandInTheMiddleByTwoHalvings)
 {
-    Click("Beta (Large Icon)");
-
-    const QWidget& box = Find<QWidget>("picSMfrm");
+    Click("Beta (Large Icon)"); // 1 x 1: half of it is 0
+    QWidget& box = Find<QWidget>("picSMfrm");
     const QWidget& picture = Find<QWidget>("picSM");
-    EXPECT_EQ(picture.x(), box.width() / 2 - 1 / 2);
-    EXPECT_EQ(picture.y(), box.height() / 2 - 1 / 2);
+    for (const QSize size : { QSize(300, 200), QSize(301, 201) }) {
+        box.resize(size);
+
+        EXPECT_EQ(picture.pos(), QPoint(150, 100)) << "of an even box not (300 - 1) / 2";
+    }
 }
 
 TEST_F(Selecting, PicturesStayInTheMiddleWhenTheWindowGrows)
@@ -193,9 +169,12 @@ TEST_F(Selecting, TheRemoveButtonMarksAndRestores)
     EXPECT_TRUE(IsOn("cmdClrDeleted"));
     EXPECT_TRUE(IconsetChanged);
 
+    const QImage restore = button.icon().pixmap(16).toImage();
     Click("Beta (Large Icon)");
     EXPECT_EQ(button.text(), "&Remove Selected");
+    EXPECT_NE(button.icon().pixmap(16).toImage(), restore) << "a picture of its own";
     Click("Alpha (Large Icon)");
+    EXPECT_EQ(button.icon().pixmap(16).toImage(), restore);
     EXPECT_EQ(button.text(), "&Restore Selected");
 
     QTest::mouseClick(&button, Qt::LeftButton);
@@ -212,6 +191,57 @@ TEST_F(Selecting, PlainRRemovesAndTheTreesTypeAheadDoesNotGetIt)
 
     EXPECT_EQ(ImageOf("Alpha (Large Icon)"), 6);
     EXPECT_EQ(SelectedNode, "Alpha (Large Icon)");
+}
+
+TEST_F(Selecting, AnRThatIsHeldDownMarksOnce)
+{
+    Click("Alpha (Large Icon)");
+
+    for (const bool repeats : { false, true, true }) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_R, Qt::NoModifier, "r", repeats);
+        QCoreApplication::sendEvent(&Nodes(), &press);
+    }
+
+    EXPECT_EQ(IconTable[0].IconState, 0);
+    EXPECT_EQ(SelectedNode, "Alpha (Large Icon)") << "the tree's search gets none of them";
+}
+
+TEST_F(Selecting, TheAssignButtonSaysWhatItIsFor)
+{
+    Click("tAIB3503 (Orphan) ");
+    EXPECT_EQ(Find<QPushButton>("cmdAssignApp").text(), "Assign Orphan");
+
+    Click("Alpha (Large Icon)");
+    EXPECT_EQ(Find<QPushButton>("cmdAssignApp").text(), "Change / Share");
+}
+
+TEST_F(Selecting, AfterAllIconsAreClearedOnlyTheRootStands)
+{
+    for (IconRow& row : IconTable)
+        row.IconState = 0;
+    frame->Form().UpdateIconStats();
+    ask.Answer(QMessageBox::Ok);
+
+    QTest::mouseClick(&Find<QPushButton>("cmdClrDeleted"), Qt::LeftButton);
+
+    EXPECT_EQ(NodeTexts(), QStringList());
+    EXPECT_EQ(Nodes().Root()->text(0), "Set");
+}
+
+TEST_F(Selecting, AFileThatCannotBeReadLeavesNothingToMark)
+{
+    Click("Alpha (Large Icon)");
+    QTest::keyClick(&Nodes(), Qt::Key_R);
+    ASSERT_EQ(Find<QPushButton>("cmdRemoveIcon").text(), "&Restore Selected");
+
+    ask.Answer(QMessageBox::No); // nothing of the marks is to be saved
+    Open(QString::fromStdString(program.File("gone.prc")));
+
+    ASSERT_FALSE(FileLoaded);
+    EXPECT_FALSE(IsOn("cmdRemoveIcon"));
+    EXPECT_FALSE(IsOn("cmdClrDeleted"));
+    EXPECT_EQ(Find<QPushButton>("cmdRemoveIcon").text(), "&Remove Selected");
+    EXPECT_EQ(SelectedNode, "");
 }
 
 TEST_F(Selecting, RWithCtrlOrAltRemovesNothing)
@@ -272,88 +302,17 @@ TEST_F(Selecting, ClearingWithNothingMarkedSaysSo)
     EXPECT_EQ(Messages(), QStringList("There are currently no icons to be deleted."));
 }
 
-/// The root's text is edited to this.
-class Renaming : public Selecting {
-protected:
-    void Rename(const QString& text)
-    {
-        Click("Set");
-        QTest::mouseClick(&Find<QPushButton>("cmdChangeDataBaseName"), Qt::LeftButton);
-        auto& edit = Find<QLineEdit>("txtLabelEdit");
-        edit.selectAll();
-        if (text.isEmpty())
-            QTest::keyClick(&edit, Qt::Key_Delete);
-        else
-            QTest::keyClicks(&edit, text);
-        QTest::keyClick(&edit, Qt::Key_Return);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return Status(2) != "Palm Database Name = Set"; }));
+TEST_F(Selecting, NoSelectionMovesThePanels)
+{
+    const QRect before = Find<QWidget>("frameLG").geometry();
+
+    for (const QString text : { "Set", "Alpha (Large Icon)", "Alpha (Small Icon)" }) {
+        Click(text);
+        Find<QLabel>("lblC_RGB_LG").setText("255, 255, 255"); // no colour's text is wider
+        QTest::qWait(30);
+
+        EXPECT_EQ(Find<QWidget>("frameLG").geometry(), before) << text.toStdString();
     }
-};
-
-TEST_F(Renaming, ChangesTheRootTheNameAndTheStatusBar)
-{
-    Rename("Renamed r");
-
-    EXPECT_EQ(Nodes().Root()->text(0), "Renamed r");
-    EXPECT_EQ(DatabaseName, "Renamed r");
-    EXPECT_EQ(Status(2), "Palm Database Name = Renamed r");
-    EXPECT_EQ(Parent, "Set");
-    EXPECT_FALSE(IconsetChanged);
-}
-
-TEST_F(Renaming, OnPurposeAnEmptyNameStandsInTheStatusBarButNotInTheTree)
-{
-    Rename("");
-
-    EXPECT_EQ(Nodes().Root()->text(0), "Set");
-    EXPECT_EQ(DatabaseName, "");
-    EXPECT_EQ(Status(2), "Palm Database Name = ");
-    EXPECT_TRUE(ask.shown.empty());
-}
-
-TEST_F(Renaming, OnPurposeANameThatIsTooLongIsRefusedByTheTreeOnly)
-{
-    ask.Answer(QMessageBox::Ok);
-
-    Rename("ABCDEFGHIJKLMNOPQRSTUVWXYZ012345");
-
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !ask.shown.empty(); }));
-    EXPECT_EQ(Messages(), QStringList("Maximum name length is 31 characters."));
-    EXPECT_EQ(Nodes().Root()->text(0), "Set");
-    EXPECT_EQ(DatabaseName, "ABCDEFGHIJKLMNOPQRSTUVWXYZ012345");
-}
-
-TEST_F(Renaming, AcceptsA31CharacterName)
-{
-    Rename("ABCDEFGHIJKLMNOPQRSTUVWXYZ01234");
-
-    EXPECT_EQ(Nodes().Root()->text(0), "ABCDEFGHIJKLMNOPQRSTUVWXYZ01234");
-}
-
-TEST_F(Renaming, WhatLatin1LacksCannotBeTypedIn)
-{
-    Click("Set");
-    QTest::mouseClick(&Find<QPushButton>("cmdChangeDataBaseName"), Qt::LeftButton);
-    auto& edit = Find<QLineEdit>("txtLabelEdit");
-    edit.clear();
-
-    edit.insert(QString::fromUtf8("\xE2\x82\xAC")); // the euro sign, as a paste brings it
-    edit.insert(QString::fromUtf8("Caf\xC3\xA9"));
-
-    EXPECT_EQ(edit.text(), QString::fromUtf8("Caf\xC3\xA9"));
-}
-
-TEST_F(Renaming, EscapeLeavesEverythingAsItWas)
-{
-    Click("Set");
-    QTest::mouseClick(&Find<QPushButton>("cmdChangeDataBaseName"), Qt::LeftButton);
-    auto& edit = Find<QLineEdit>("txtLabelEdit");
-    QTest::keyClicks(&edit, "zzz");
-    QTest::keyClick(&edit, Qt::Key_Escape);
-    QCoreApplication::processEvents();
-
-    EXPECT_EQ(DatabaseName, "Set");
-    EXPECT_EQ(Nodes().Root()->text(0), "Set");
 }
 
 TEST_F(WindowFixture, AnIconWhoseOwnerHoldsAnyBytesCanBeSelectedAndMarked)
@@ -371,19 +330,6 @@ TEST_F(WindowFixture, AnIconWhoseOwnerHoldsAnyBytesCanBeSelectedAndMarked)
 
     EXPECT_EQ(SelectedNode, "tAIB3500 (" + owner + " - Large) ");
     EXPECT_EQ(Nodes().Root()->child(0)->data(0, IconTreeView::ImageRole), 6);
-}
-
-TEST_F(Selecting, NoSelectionMovesThePanels)
-{
-    const QRect before = Find<QWidget>("frameLG").geometry();
-
-    for (const QString text : { "Set", "Alpha (Large Icon)", "Alpha (Small Icon)" }) {
-        Click(text);
-        Find<QLabel>("lblC_RGB_LG").setText("255, 255, 255"); // no colour's text is wider
-        QTest::qWait(30);
-
-        EXPECT_EQ(Find<QWidget>("frameLG").geometry(), before) << text.toStdString();
-    }
 }
 
 } // namespace

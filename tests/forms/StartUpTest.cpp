@@ -138,6 +138,23 @@ TEST_F(StartUp, MissingCatalogsAreToldInTheirOrderAndTheStartGoesOn)
     EXPECT_TRUE(frame->isVisible());
 }
 
+TEST_F(StartUp, TellsOfTwoApplicationsWithOneCreatorAndGoesOn)
+{
+    WriteText(program.File("AppList.dat"),
+        "[Ant]\nType=appl\nCreator={SAME}\n[Bee]\nType=appl\nCreator={SAME}\n");
+    ask.Answer(QMessageBox::Ok);
+    ask.Answer(QMessageBox::Ok);
+
+    Start();
+
+    ASSERT_EQ(ask.shown.size(), 2u);
+    EXPECT_TRUE(ask.shown[0].text.startsWith(
+        "An icon with a duplicate Creator ID was found in the Application List."));
+    EXPECT_EQ(ask.shown[1].text,
+        "After you have corrected this error, you will need to close and restart VY Pixelworks.");
+    EXPECT_TRUE(frame->isVisible());
+}
+
 TEST_F(StartUp, DisablesWhatNeedsADocument)
 {
     Start();

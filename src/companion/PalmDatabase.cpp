@@ -1,6 +1,7 @@
 #include "companion/PalmDatabase.h"
 
 #include "companion/BmpFile.h"
+#include "companion/IconsetLimits.h"
 #include "companion/PalmRecord.h"
 #include "platform/Platform.h"
 
@@ -15,7 +16,9 @@ namespace vypx {
 
 namespace {
 
-constexpr std::size_t HeaderSize = 78, EntrySize = 10, Gap = 2, MostResources = 32767;
+constexpr std::size_t HeaderSize = 78, EntrySize = 10;
+// A reader that asks where the data behind the last resource begin finds a whole entry of zeros.
+constexpr std::size_t Gap = EntrySize;
 
 void Append16(Bytes& bytes, unsigned value)
 {
@@ -169,8 +172,9 @@ Bytes Header(const std::string& databaseName, std::size_t count)
     return bytes;
 }
 
-Bytes Database(
-    std::span<const ResourceRow> resources, const std::string& databaseName, Compiler& compiler)
+/// Throws CompileFailure.
+Bytes Database(std::span<const ResourceRow> resources, const std::string& databaseName,
+    const std::string& outputPath, Compiler& compiler)
 {
     Bytes file = Header(databaseName, resources.size());
     std::size_t entry = file.size();
@@ -183,7 +187,12 @@ Bytes Database(
         Append32(listed, static_cast<std::uint32_t>(file.size()));
         std::copy(listed.begin(), listed.end(), file.begin() + static_cast<std::ptrdiff_t>(entry));
         entry += EntrySize;
+        if (file.size() >= DataOffsetEnd)
+            throw CompileFailure{ outputPath, "an iconset can't be larger than 16 MiB" };
         const Bytes body = compiler.Body(row);
+        if (body.size()
+            >= static_cast<std::size_t>(MaxResourceSize)) // the last one is read 1 longer
+            throw CompileFailure{ outputPath, row.key + " would be 10000000 bytes or more" };
         file.insert(file.end(), body.begin(), body.end());
     }
     return file;
@@ -220,11 +229,11 @@ std::optional<CompileFailure> CompilePRC(std::span<const ResourceRow> resources,
         Compiler compiler(transparency,
             { .depth = depth, .packed = pack, .palette8 = palette8, .palette4 = palette4 },
             workFolder);
-        if (resources.size() > MostResources)
-            return CompileFailure{ outputPath, "a database holds 32767 resources at most" };
+        if (resources.size() > MaxResources)
+            return CompileFailure{ outputPath, "an iconset holds 2000 resources at most" };
         if (outputPath.empty())
             return CompileFailure{ {}, "there is no file name" };
-        const Bytes file = Database(resources, databaseName, compiler);
+        const Bytes file = Database(resources, databaseName, outputPath, compiler);
         if (const std::error_code error = platform::ReplaceFile(outputPath, file))
             return CompileFailure{ outputPath, error.message() };
         return std::nullopt;

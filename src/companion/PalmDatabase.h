@@ -62,9 +62,11 @@ struct CompileFailure {
 ///       52     8 0
 ///       60     8 "ICON", "VNTR"
 ///       68     8 0
-///       76     2 resource count, read as a number with sign: 32767 at most
+///       76     2 resource count
 ///       78  10*n type, ID, data offset of each
-///              2 0, then the data, each resource at an even offset
+///             10 0, then the data, each resource at an even offset
+///
+/// What is beyond the limits of companion/IconsetLimits.h is a failure.
 ///
 /// Source: Palm OS Programmer's Companion, resource databases.
 std::optional<CompileFailure> CompilePRC(std::span<const ResourceRow> resources,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "companion/ByteView.h"
+#include "companion/IconsetLimits.h"
 
 #include <cstdint>
 #include <string>
@@ -31,8 +32,6 @@ inline constexpr std::size_t DatabaseTypeOffset = 60, DatabaseCreatorOffset = 64
 inline constexpr std::size_t ResourceCountOffset = 76;
 inline constexpr std::int32_t FirstEntryIndex = 79; ///< into FileCashe
 inline constexpr std::int32_t EntrySize = 10;
-inline constexpr int MaxResources = 2000;
-inline constexpr std::int32_t MaxResourceSize = 10'000'000; ///< bytes
 
 /// One entry of the list, without its data offset.
 struct ResourceEntry {

@@ -161,8 +161,9 @@ TEST_F(Database, OfPlainFilesOnlyIsAValidOneWithoutAPicture)
     EXPECT_EQ(Bytes(file.begin() + 32, file.begin() + 36), Hex("0001 0001"));
     EXPECT_EQ(Bytes(file.begin() + 60, file.begin() + 68), Hex("49434F4E 564E5452"));
     EXPECT_EQ(Bytes(file.begin() + 76, file.begin() + 98),
-        Hex("0002 74766572 03E8 00000064 6954626C 03E8 0000006A"));
-    EXPECT_EQ(Bytes(file.begin() + 100, file.end()),
+        Hex("0002 74766572 03E8 0000006C 6954626C 03E8 00000072"));
+    EXPECT_EQ(Bytes(file.begin() + 98, file.begin() + 108), Bytes(10, 0)) << "a whole entry";
+    EXPECT_EQ(Bytes(file.begin() + 108, file.end()),
         Hex("332E323000 00 07070707070707070707070707070707"))
         << "each resource begins at an even offset";
 }
@@ -195,7 +196,7 @@ TEST_F(Database, AFamilyIsLowThenMarkThenHigh)
     const Bytes low = EncodeLowDensity(TwoPixels(), Form(8), std::nullopt, true);
     const Bytes high = EncodeHighDensity(TwoPixels(), Form(8), std::nullopt);
     Bytes expected = Join({ low, HighDensityMark(), high });
-    EXPECT_EQ(Bytes(file.begin() + 90, file.end()), expected);
+    EXPECT_EQ(Bytes(file.begin() + 98, file.end()), expected);
     EXPECT_EQ(Bytes(file.begin() + 78, file.begin() + 84), Hex("74414942 0DAC"));
 }
 
@@ -203,7 +204,7 @@ TEST_F(Database, WithAHighResPictureOnlyTheMarkComesFirst)
 {
     Compile({ { "", "a.bmp", "Tbmp1" } });
 
-    EXPECT_EQ(Out()[90 + 8], 0xFF);
+    EXPECT_EQ(Out()[98 + 8], 0xFF);
 }
 
 TEST_F(Database, AMissingPictureIsAFailureAndNoFileAppears)
@@ -229,7 +230,7 @@ TEST_F(Database, ARecordIsTransparentByTheLastRowOfItsFileWithTheFlagAndAColour)
         const ResourceRow row{ .lowFile = "a.bmp", .highFile = "", .key = "tAIB3500" };
         EXPECT_FALSE(CompilePRC(
             { { row } }, rows, Palette8, Palette4, 8, false, out, "Name", folder.Path() + "/"));
-        return (Out()[90 + 6] & 0x20) != 0 ? Out()[90 + 12] : -1;
+        return (Out()[98 + 6] & 0x20) != 0 ? Out()[98 + 12] : -1;
     };
 
     EXPECT_EQ(index({ blank, other, yes }), 5);
@@ -240,15 +241,45 @@ TEST_F(Database, ARecordIsTransparentByTheLastRowOfItsFileWithTheFlagAndAColour)
         EXPECT_EQ(index({ row }), -1);
 }
 
-TEST_F(Database, HoldsNoMoreResourcesThanItsCountCanTell)
+TEST_F(Database, HoldsNoMoreResourcesThanReadersTake)
 {
+    EXPECT_FALSE(Compile(std::vector<ResourceRow>(2000, Version)));
     WriteText(out, "old");
 
-    const auto failure = Compile(std::vector<ResourceRow>(32768, Version));
+    const auto failure = Compile(std::vector<ResourceRow>(2001, Version));
 
     ASSERT_TRUE(failure);
-    EXPECT_EQ(failure->reason, "a database holds 32767 resources at most");
+    EXPECT_EQ(failure->reason, "an iconset holds 2000 resources at most");
     EXPECT_EQ(ReadText(out), "old");
+}
+
+TEST_F(Database, HoldsNoLargerResourceThanReadersTake)
+{
+    // The last resource is read as one byte more.
+    WriteBytes(folder.File("tver1000.bin"), Bytes(9'999'999, 1));
+    EXPECT_FALSE(Compile({ Version }));
+    WriteBytes(folder.File("tver1000.bin"), Bytes(10'000'000, 1));
+
+    const auto failure = Compile({ Version });
+
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->reason, "tver1000 would be 10000000 bytes or more");
+    EXPECT_EQ(failure->file, out);
+    EXPECT_EQ(Out().size(), 98u + 9'999'999) << "the old file stands";
+}
+
+TEST_F(Database, HoldsNoResourceBehind16MiB)
+{
+    // Three entries and the zeros behind them end at 118: the third body begins at 16,777,214.
+    WriteBytes(folder.File("tver1000.bin"), Bytes(8'388'548, 1));
+    EXPECT_FALSE(Compile({ Version, Version, Index }));
+    EXPECT_EQ(Out().size(), 16'777'214u + 16);
+    WriteBytes(folder.File("tver1000.bin"), Bytes(8'388'549, 1));
+
+    const auto failure = Compile({ Version, Version, Index });
+
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->reason, "an iconset can't be larger than 16 MiB");
 }
 
 TEST_F(Database, AFailureLeavesTheOldFile)

@@ -139,6 +139,24 @@ RC_GTEST_FIXTURE_PROP(RoundTrip, ASavedDocumentOpensWithItsIconsPicturesAndColou
     transparency.clear();
 }
 
+/// A reader looks for the end of the last resource behind the list. Were there pixels, they could
+/// name a place within the index: here the record's rows of 8 bytes would, as 0x80000.
+TEST_F(RoundTrip, TheIndexIsReadWholeWhateverTheFirstRecordHolds)
+{
+    DefaultColorDepth = "4-Bit";
+    IconTable = { { "Alpha (Large Icon)", "tAIB3500", "tAIB3500.bmp", "NEW", 1, "APP" } };
+    WriteBytes(WorkPath("tAIB3500.bmp"), EncodeBmp24(vypx::Picture(16, 1)));
+    VersionString.assign(0x80000 - 150, 'x'); // brings the index to 0x80000 - 6
+
+    CompileIconset();
+
+    ASSERT_LT(ByteView(ReadBytes(FileName)).U32(78 + 20 + 6), 0x80000u);
+    ASSERT_GT(ReadBytes(FileName).size(), 0x80000u);
+    ASSERT_EQ(LoadFile(FileName, listener), LoadResult::Opened);
+    EXPECT_EQ(listener.messages, std::vector<std::string>());
+    EXPECT_EQ(IconTable.at(0).IconLabel, "Alpha (Large Icon)");
+}
+
 /// The record with its pixels unpacked; `sizeField` is the width of their size.
 Bytes WithPlainPixels(Bytes record, std::size_t header, std::size_t sizeField)
 {

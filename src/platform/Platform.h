@@ -47,6 +47,10 @@ std::optional<std::vector<std::uint8_t>> ReadWholeFile(
 /// stands as it was and nothing is left beside it. A leftover of a killed writer is no obstacle.
 std::error_code ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes);
 
+/// Where ReplaceFile writes first: beside `target`, under its name and ".vypx-new". A long name is
+/// cut, so that no name has more than 255 units of the system's.
+std::filesystem::path PassingFile(const std::filesystem::path& target);
+
 /// Whether files can be made in an existing folder, found out by making one.
 bool FolderIsWritable(const std::string& folder);
 

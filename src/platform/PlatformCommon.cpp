@@ -1,5 +1,6 @@
 #include "platform/Platform.h"
 
+#include <algorithm>
 #include <fstream>
 #include <utility>
 
@@ -39,6 +40,16 @@ std::optional<std::vector<std::uint8_t>> ReadWholeFile(
     if (file.bad())
         return std::nullopt;
     return bytes;
+}
+
+fs::path PassingFile(const fs::path& target)
+{
+    const fs::path::string_type name = target.filename().native();
+    const fs::path::string_type ending = fs::path(".vypx-new").native();
+    std::size_t kept = std::min(name.size(), 255 - ending.size());
+    while (kept < name.size() && kept > 0 && (name[kept] & 0xC0) == 0x80) // no half a character
+        --kept;
+    return target.parent_path() / (name.substr(0, kept) + ending);
 }
 
 bool FolderIsWritable(const std::string& folder)

@@ -111,7 +111,7 @@ std::error_code ReplaceFile(const std::string& path, std::span<const std::uint8_
     if (replaces && ::access(target.c_str(), W_OK) != 0)
         return LastError();
 
-    const std::string passing = target.string() + ".vypx-new";
+    const std::string passing = PassingFile(target).string();
     error = WritePassingFile(passing, bytes, replaces ? &old : nullptr);
     if (!error && std::rename(passing.c_str(), target.c_str()) != 0)
         error = LastError();

@@ -77,8 +77,7 @@ std::error_code ReplaceFile(const std::string& path, std::span<const std::uint8_
         target = std::filesystem::canonical(target, error);
     if (error)
         return error;
-    std::filesystem::path passing = target;
-    passing += L".vypx-new";
+    const std::filesystem::path passing = PassingFile(target);
     error = WritePassingFile(passing, bytes);
     if (!error) {
         // ReplaceFile keeps the old file's access rights; it wants an old file to be there.

@@ -59,6 +59,21 @@ TEST(ReplaceFile, MakesAndReplacesAndLeavesNothingBeside)
     EXPECT_EQ(FilesIn(folder), 1u);
 }
 
+TEST(ReplaceFile, TakesTheLongestNamesThatTheSystemTakes)
+{
+    const TempFolder folder;
+    const std::string longest(255, 'x');
+
+    EXPECT_FALSE(platform::ReplaceFile(folder.File(longest), TextBytes("one")));
+
+    EXPECT_EQ(ReadText(folder.File(longest)), "one");
+    EXPECT_EQ(FilesIn(folder), 1u);
+    EXPECT_EQ(platform::PassingFile("/f/set.prc"), "/f/set.prc.vypx-new");
+    // 246 bytes are left for the name, which would cut the last letter in two.
+    const std::string umlauts = std::string(245, 'x') + "\xC3\xA4.prc";
+    EXPECT_EQ(platform::PassingFile("/f/" + umlauts), "/f/" + std::string(245, 'x') + ".vypx-new");
+}
+
 TEST(ReplaceFile, FollowsASymbolicLinkAndKeepsIt)
 {
     const TempFolder folder;

@@ -21,13 +21,29 @@ constexpr std::string_view ShippedData[] = {
     "samples",
 };
 
-/// What can't be copied is missing then, as it would be in the program's folder.
+/// Whole or not at all: a start that breaks off must not leave half a catalog. What can't be
+/// copied is missing then, as it would be in the program's folder.
+void CopyIfMissing(const fs::path& from, const fs::path& to)
+{
+    std::error_code ignored;
+    if (fs::exists(to, ignored))
+        return;
+    if (const auto bytes = platform::ReadWholeFile(platform::Utf8Path(from)))
+        static_cast<void>(platform::ReplaceFile(platform::Utf8Path(to), *bytes));
+}
+
 void FillFolder(const fs::path& from, const fs::path& to)
 {
     for (const std::string_view name : ShippedData) {
-        std::error_code ignored;
-        fs::copy(from / name, to / name,
-            fs::copy_options::recursive | fs::copy_options::skip_existing, ignored);
+        std::error_code end;
+        CopyIfMissing(from / name, to / name);
+        for (fs::recursive_directory_iterator entry(from / name, end), last; !end && entry != last;
+             entry.increment(end)) {
+            const fs::path target = to / entry->path().lexically_relative(from);
+            std::error_code ignored;
+            fs::create_directories(target.parent_path(), ignored);
+            CopyIfMissing(entry->path(), target);
+        }
     }
 }
 

@@ -39,6 +39,8 @@ TEST(AppFolders, TheUsersFolderIsFilledUpToTheFirstSettings)
     const TempFolder program, user;
     WriteText(program.File("AppList.dat"), "[First]\n");
     WriteText(program.File("PalmApp.dat"), "[Palm]\n");
+    fs::create_directories(program.File("samples/drawings"));
+    WriteText(program.File("samples/drawings/one.svg"), "<svg/>");
     fs::permissions(program.Path(), fs::perms(0555));
     fs::permissions(user.Path(), fs::perms::all);
     const std::string data = user.File("data");
@@ -47,6 +49,7 @@ TEST(AppFolders, TheUsersFolderIsFilledUpToTheFirstSettings)
 
         EXPECT_EQ(ResolveAppFolder(program.Path(), data), data);
         EXPECT_EQ(ReadText(data + "/AppList.dat"), "[First]\n");
+        EXPECT_EQ(ReadText(data + "/samples/drawings/one.svg"), "<svg/>");
 
         WriteText(data + "/AppList.dat", "[Mine]\n");
         fs::remove(data + "/PalmApp.dat"); // as an interrupted first start leaves it

@@ -7,9 +7,9 @@
 
 namespace {
 
-void AddOpenOptions(CLI::App& command, vypx::OpenOptions& options)
+void AddOpenOptions(CLI::App& command, vypx::OpenOptions& options, const char* whatFileIs)
 {
-    command.add_option("FILE", options.file, "Iconset (.prc, .pdb) or template (.vpt)")->required();
+    command.add_option("FILE", options.file, whatFileIs)->required();
     command.add_option("--app-folder", options.appFolder, "Folder with the catalogs")
         ->required()
         ->check(CLI::ExistingDirectory);
@@ -25,7 +25,7 @@ void AddOpenOptions(CLI::App& command, vypx::OpenOptions& options)
 CLI::App& AddDump(CLI::App& tool, vypx::OpenOptions& options)
 {
     CLI::App* dump = tool.add_subcommand("dump", "Open an iconset and print it as JSON");
-    AddOpenOptions(*dump, options);
+    AddOpenOptions(*dump, options, "Iconset (.prc, .pdb) or template (.vpt)");
     dump->add_flag("--template", options.asTemplate, "FILE is a template");
     return *dump;
 }
@@ -33,7 +33,7 @@ CLI::App& AddDump(CLI::App& tool, vypx::OpenOptions& options)
 void AddConvert(CLI::App& tool, vypx::ConvertOptions& options)
 {
     CLI::App* convert = tool.add_subcommand("convert", "Open an iconset and save it as OUT");
-    AddOpenOptions(*convert, options.open);
+    AddOpenOptions(*convert, options.open, "Iconset (.prc, .pdb)");
     convert->add_option("OUT", options.out, "File to write; may be FILE")->required();
     convert->add_flag("--packbits", options.packed, "Compress the pictures");
     convert->add_flag("--drop-unknown", options.dropUnknown, "Leave unknown icons out");

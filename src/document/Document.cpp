@@ -29,9 +29,8 @@ void ResetDocument()
     ShareNames.clear();
 }
 
-void ForgetSelection()
+void ClearSlots()
 {
-    SelectedNode.clear();
     HighResPath.clear();
     LowResPath.clear();
     LGloaded = SMloaded = false;

@@ -101,8 +101,8 @@ inline std::vector<std::string> ShareNames;
 /// Puts everything above back to what it is when the process starts.
 void ResetDocument();
 
-/// Nothing is selected and no picture on show, as when a document begins or ends.
-void ForgetSelection();
+/// No picture is on show, as when a document begins or ends.
+void ClearSlots();
 
 /// Index of the first row with that label. An empty label is no row's.
 std::optional<std::size_t> FindIconRow(std::string_view label);

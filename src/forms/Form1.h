@@ -148,12 +148,14 @@ private:
     void ShowStatus(int panel, const QString& text);
 
     // Form1Selection.cpp
+    void ShowTree();
     void ShowSelection(Panel& panel, const SlotEffects& effects);
     void OfferRemoval(Removal removal);
     void RemoveSelected();
     void ClearDeletedIcons();
     void RebuildTree();
     void TreeView1_AfterLabelEdit(const QString& text);
+    void TellOfLongName();
 
     // Form1Panels.cpp
     void DrawSlot(Panel& panel);
@@ -170,6 +172,7 @@ private:
     void ShowResolution();
     void RefreshOptions();
     void TakeOptions();
+    void ShowDepth();
 
     // Form1Events.cpp
     bool IsKeptOutByLoad(QEvent& event) const;
@@ -188,6 +191,7 @@ private:
     bool m_loading = false;
     bool m_closeAfterLoad = false;
     bool m_exited = false;
+    bool m_nameTooLong = false; ///< still to be told
 };
 
 } // namespace vypx

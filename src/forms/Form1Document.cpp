@@ -62,6 +62,7 @@ void Form1::ShowDepthWindow()
         m_depthWindow = new frmSelectCDepth(this);
         connect(m_depthWindow, &frmSelectCDepth::DepthChosen, this, &Form1::RefreshOptions);
         connect(m_depthWindow, &frmSelectCDepth::ResolutionChosen, this, &Form1::ShowResolution);
+        connect(m_depthWindow, &frmSelectCDepth::TakenBack, this, &Form1::ShowDepth);
         connect(m_depthWindow, &frmSelectCDepth::Done, this, &Form1::LeaveDepthWindow);
     }
     m_depthWindow->show();
@@ -72,7 +73,7 @@ void Form1::ShowDepthWindow()
 /// The depth is chosen: on to what was asked for.
 void Form1::LeaveDepthWindow()
 {
-    m_ui->lblTargetCD->setText(Shown(DefaultColorDepth));
+    ShowDepth();
     ShowResolution();
     if (PendingNew)
         ShowNewIconset();
@@ -97,7 +98,7 @@ void Form1::MakeNewIconset(const QString& name)
         Parent = DatabaseName = Inner(name);
         Tree.Clear();
         Tree.SetRoot(Parent);
-        m_ui->TreeView1->Fill(Tree);
+        ShowTree();
         FileLoaded = true;
         Enable({ "mnuRemoveLR", "mnuRemoveHR", "mnuCloseIconset", "mnuSave", "mnuSaveandInstall",
                    "mnuSaveAs", "mnuExportTemplate", "frameLG", "frameSM", "cmdAddIcon" },
@@ -110,7 +111,7 @@ void Form1::MakeNewIconset(const QString& name)
         // What is left of a closed or a half-read file must never be saved over it.
         FileName.clear();
         Tree.Clear();
-        m_ui->TreeView1->Fill(Tree);
+        ShowTree();
         EmptyTables();
     }
     // On purpose: without a name as well.
@@ -132,9 +133,9 @@ void Form1::mnuCloseIconset_Click()
             return;
     }
     Tree.Clear();
-    m_ui->TreeView1->Fill(Tree);
+    ShowTree();
     Enable({ "mnuCloseIconset", "mnuSave", "mnuSaveandInstall", "mnuSaveAs", "mnuExportTemplate",
-               "mnuRemoveLR", "mnuRemoveHR", "cmdChangeDataBaseName" },
+               "mnuRemoveLR", "mnuRemoveHR" },
         false);
     FileLoaded = false;
     EmptyTables();
@@ -152,7 +153,7 @@ void Form1::EmptyTables()
     BitmapTable.assign(1, {});
     BitmapRow = 0;
     ShareNames.assign(1, {});
-    ForgetSelection();
+    ClearSlots();
     for (Panel* panel : Panels()) {
         HideColour(*panel);
         ClearPicture(*panel);

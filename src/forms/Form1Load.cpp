@@ -42,7 +42,7 @@ void Form1::LoadFile()
     if (result == LoadResult::Recovered || result == LoadResult::Failed)
         OfferNothing();
     if (result != LoadResult::WrongFileType)
-        m_ui->TreeView1->Fill(Tree);
+        ShowTree();
     EndLoad();
     if (m_closeAfterLoad)
         ExitProgram();
@@ -109,7 +109,7 @@ void Form1::BeginLoad()
 void Form1::TreeCleared()
 {
     m_ui->TreeView1->setVisible(false);
-    m_ui->TreeView1->Fill(Tree);
+    ShowTree();
     m_ui->lblWorking->setVisible(true);
     RunPendingEvents();
 }
@@ -168,11 +168,11 @@ void Form1::Opened()
 {
     if (m_newIconset)
         m_newIconset->close(); // it was asked for in the place of another document
-    Enable({ "cmdAssignApp", "cmdRemoveIcon" }, false); // no icon is selected yet
+    Enable({ "cmdAssignApp", "cmdRemoveIcon" }, false); // until an icon of it is clicked
     OfferRemoval(Removal::Remove);
     Enable({ "frameLG", "frameSM", "cmdAddIcon" }, true);
     BusyEnded();
-    m_ui->TreeView1->Fill(Tree);
+    ShowTree();
     m_ui->TreeView1->setVisible(true);
     Enable({ "mnuRemoveLR", "mnuRemoveHR", "mnuCloseIconset", "mnuSave", "mnuSaveandInstall",
                "mnuSaveAs", "mnuExportTemplate" },

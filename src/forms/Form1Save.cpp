@@ -31,6 +31,7 @@ void Form1::SaveIconset()
 bool Form1::PassesSaveChecks()
 {
     m_ui->TreeView1->FinishEdit();
+    TellOfLongName();
     const std::optional<std::string_view> why = WhyNotSaved();
     if (why)
         Message(*why);

@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 #include <QTimer>
+#include <utility>
 
 namespace vypx {
 
@@ -91,7 +92,14 @@ void Form1::ClearDeletedIcons()
 void Form1::RebuildTree()
 {
     RebuildIconTree();
+    ShowTree();
+}
+
+void Form1::ShowTree()
+{
     m_ui->TreeView1->Fill(Tree);
+    if (!Tree.HasRoot())
+        Enable("cmdChangeDataBaseName", false);
 }
 
 void Form1::cmdChangeDataBaseName_Click() { m_ui->TreeView1->EditRoot(); }
@@ -108,11 +116,16 @@ void Form1::TreeView1_AfterLabelEdit(const QString& text)
     ShowStatus(2, "Palm Database Name = " + text);
     m_ui->TreeView1->scrollToItem(m_ui->TreeView1->Root());
     m_ui->TreeView1->setFocus();
-    if (!tooLong)
-        return;
+    m_nameTooLong = tooLong;
     // Not before the editor has closed, which a box of its own would disturb.
-    QTimer::singleShot(
-        0, this, [this] { m_ask.Show(this, { .text = "Maximum name length is 31 characters." }); });
+    if (tooLong)
+        QTimer::singleShot(0, this, &Form1::TellOfLongName);
+}
+
+void Form1::TellOfLongName()
+{
+    if (std::exchange(m_nameTooLong, false))
+        m_ask.Show(this, { .text = "Maximum name length is 31 characters." });
 }
 
 } // namespace vypx

@@ -78,8 +78,11 @@ void Form1::RefreshOptions()
 
 void Form1::TakeOptions()
 {
-    SaveSettings();
-    m_ui->lblTargetCD->setText(Shown(DefaultColorDepth));
+    if (!m_exited) // an exit saves them itself
+        SaveSettings();
+    ShowDepth();
 }
+
+void Form1::ShowDepth() { m_ui->lblTargetCD->setText(Shown(DefaultColorDepth)); }
 
 } // namespace vypx

@@ -115,9 +115,12 @@ void IconTreeView::Refresh(const IconTree& tree)
 
 void IconTreeView::EditRoot()
 {
-    Root()->setFlags(Root()->flags() | Qt::ItemIsEditable);
-    setCurrentItem(Root());
-    editItem(Root());
+    QTreeWidgetItem* const root = Root();
+    if (!root)
+        return;
+    root->setFlags(root->flags() | Qt::ItemIsEditable);
+    setCurrentItem(root);
+    editItem(root);
 }
 
 void IconTreeView::FinishEdit()

@@ -39,11 +39,19 @@ void frmSelectCDepth::ShowDepthWarning()
         line->setVisible(!m_ui->opt16Bit->isChecked());
 }
 
+template <typename Value>
+void frmSelectCDepth::Note(
+    std::optional<Choice<Value>>& choice, const Value& now, const Value& chosen)
+{
+    const bool isMine = choice && choice->chosen == now;
+    choice = Choice<Value>{ isMine ? choice->before : now, chosen };
+}
+
 void frmSelectCDepth::ConnectDepths()
 {
     const auto setsDepth = [this](QAbstractButton* option, const char* depth) {
         connect(option, &QAbstractButton::clicked, this, [this, depth] {
-            m_depth = { m_depth ? m_depth->before : DefaultColorDepth, depth };
+            Note<std::string>(m_depth, DefaultColorDepth, depth);
             DefaultColorDepth = depth;
             ShowDepthWarning();
             emit DepthChosen();
@@ -63,8 +71,7 @@ void frmSelectCDepth::ConnectResolutions()
 void frmSelectCDepth::TakeResolution()
 {
     const Resolution chosen{ m_ui->optHighResOnly->isChecked(), m_ui->optLowResOnly->isChecked() };
-    m_resolution = { m_resolution ? m_resolution->before : Resolution(HighResOnly, LowResOnly),
-        chosen };
+    Note<Resolution>(m_resolution, { HighResOnly, LowResOnly }, chosen);
     std::tie(HighResOnly, LowResOnly) = chosen;
     emit ResolutionChosen();
 }
@@ -80,6 +87,7 @@ void frmSelectCDepth::reject()
         std::tie(HighResOnly, LowResOnly) = m_resolution->before;
         emit ResolutionChosen();
     }
+    emit TakenBack();
     QDialog::reject();
 }
 

@@ -29,6 +29,8 @@ signals:
     void DepthChosen();
     /// HighResOnly and LowResOnly have new values.
     void ResolutionChosen();
+    /// What the choices changed stands as it did before them.
+    void TakenBack();
     /// On to the document. The window is hidden.
     void Done();
 
@@ -40,11 +42,14 @@ private:
     void cmdDoneCDepth_Click();
 
     std::unique_ptr<Ui::frmSelectCDepth> m_ui;
-    /// A value as it stood before this window's first choice, and its last choice.
+    /// This window's last choice of a value, and what stood before its choices: what the start or
+    /// another window chose last.
     template <typename Value>
     struct Choice {
         Value before, chosen;
     };
+    template <typename Value>
+    static void Note(std::optional<Choice<Value>>& choice, const Value& now, const Value& chosen);
     using Resolution = std::pair<bool, bool>; // HighResOnly, LowResOnly
     std::optional<Choice<std::string>> m_depth;
     std::optional<Choice<Resolution>> m_resolution;

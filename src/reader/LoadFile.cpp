@@ -50,7 +50,7 @@ void RememberFolder(LoadListener& listener)
 void ClearTree(LoadListener& listener)
 {
     FileLoaded = false; // a half-built document must never be saved over a file
-    ForgetSelection();
+    ClearSlots();
     Tree.Clear();
     TLstCnt = 0;
     listener.TreeCleared();

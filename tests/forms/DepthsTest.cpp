@@ -200,6 +200,33 @@ TEST_F(Depths, EscapeGivesTheCommandUpAndTheNextOneStartsAfresh)
     EXPECT_TRUE(ask.opened.empty()) << "the command that was given up stays so";
 }
 
+TEST_F(Depths, WhatTheOptionsChoseSinceStands)
+{
+    Entry("mnuOptions").trigger();
+    Entry("mnuNew").trigger();
+    const auto inDepths = [&](const char* option) {
+        Find<QDialog>("frmSelectCDepth").findChild<QAbstractButton*>(option)->click();
+    };
+    const auto inOptions = [&](const char* option) {
+        Find<QDialog>("frmProgOptions").findChild<QAbstractButton*>(option)->click();
+    };
+    inDepths("opt4Bit");
+    inOptions("opt8Bit");
+    inOptions("optHighResOnly");
+    inDepths("opt4Bit");
+    inDepths("opt16Bit");
+    inDepths("optLowResOnly");
+    inOptions("cmdDoneOptions");
+    EXPECT_EQ(Find<QLabel>("lblTargetCD").text(), "16-Bit");
+
+    QTest::keyClick(&Find<QDialog>("frmSelectCDepth"), Qt::Key_Escape);
+
+    EXPECT_EQ(DefaultColorDepth, "8-Bit");
+    EXPECT_TRUE(HighResOnly && !LowResOnly);
+    EXPECT_EQ(Find<QLabel>("lblTargetCD").text(), "8-Bit");
+    EXPECT_TRUE(Entry("mnuHideLowRes").isChecked());
+}
+
 TEST_F(Depths, TheResolutionTakesEffectAtTheClickAndAgainAtTheEnd)
 {
     Entry("mnuNew").trigger();

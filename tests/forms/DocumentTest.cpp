@@ -49,7 +49,6 @@ TEST_F(Documents, NewTakesThePictureAndItsCommandsAway)
     Find<QLineEdit>("txtNewIconsetDBName").setText("My Set");
     Click("cmdDoneName");
     EXPECT_FALSE(HasPicture());
-    EXPECT_EQ(SelectedNode, "");
     QTest::keyClick(&Nodes(), Qt::Key_R);
     EXPECT_FALSE(IconsetChanged) << "there is no icon to be marked";
 }
@@ -86,12 +85,14 @@ TEST_F(Documents, AnOpenedOneClosesTheWindowForANewOne)
     EXPECT_EQ(Nodes().Root()->text(0), "Set");
 }
 
-TEST_F(Documents, NoIconIsSelectedAfterAnOpen)
+TEST_F(Documents, OnPurposeTheSelectionSurvivesALoadButNoCommandForItDoes)
 {
     OpenAlpha();
     SelectAlpha();
     OpenAlpha("again.prc");
-    EXPECT_EQ(SelectedNode, "");
+    EXPECT_EQ(SelectedNode, "Alpha (Large Icon)");
+    EXPECT_EQ(LastClickedText, "Alpha (Large Icon)");
+    EXPECT_EQ(HighResPath + LowResPath, "");
 
     QTest::keyClick(&Nodes(), Qt::Key_R);
 
@@ -177,6 +178,36 @@ TEST_F(Documents, AnEmptyNameDoesNotBringBackAHalfReadFile)
     EXPECT_EQ(ReadBytes(program.File("set.prc")), before);
     EXPECT_EQ(Nodes().Root(), nullptr);
     EXPECT_EQ(FileName, "");
+}
+
+TEST_F(Documents, WithoutARootThereIsNoNameToChange)
+{
+    OpenAlpha();
+    Nodes().setCurrentItem(Nodes().Root());
+    FileLoaded = false; // as a load leaves it that fails on its way
+    ASSERT_TRUE(CommandIsEnabled(*frame, "cmdChangeDataBaseName"));
+
+    MakeNew("");
+    EXPECT_FALSE(CommandIsEnabled(*frame, "cmdChangeDataBaseName"));
+    Nodes().EditRoot();
+
+    EXPECT_EQ(Nodes().Root(), nullptr);
+}
+
+TEST_F(Documents, AFileThatIsNoIconsetLeavesNoNameToChange)
+{
+    OpenAlpha();
+    PromptColorDepth = true;
+    Entry("mnuOpen").trigger();
+    Nodes().setCurrentItem(Nodes().Root()); // while the window for the depth stands
+    ASSERT_TRUE(CommandIsEnabled(*frame, "cmdChangeDataBaseName"));
+
+    ask.Choose(Written(Bytes(20, 1), "short.prc"));
+    ask.Answer(QMessageBox::Ok);
+    Click("cmdDoneCDepth");
+
+    EXPECT_EQ(Messages(), QStringList("Error! Invalid file!"));
+    EXPECT_FALSE(CommandIsEnabled(*frame, "cmdChangeDataBaseName"));
 }
 
 TEST_F(Documents, EnterInTheEmptyNameBoxDoesNothing)
@@ -323,7 +354,7 @@ TEST_F(Documents, CloseEmptiesEverything)
     EXPECT_EQ(FileCashe.size(), 1u);
     EXPECT_EQ(ShareNames.size(), 1u);
     EXPECT_EQ(BitmapRow, 0);
-    EXPECT_EQ(HighResPath + LowResPath + SelectedNode, "");
+    EXPECT_EQ(HighResPath + LowResPath, "");
     EXPECT_FALSE(LGloaded || SMloaded);
     for (const QString letters : { "LG", "SM" }) {
         EXPECT_EQ(Find<QLabel>("lbl_" + letters + "size").text(), "");

@@ -1,6 +1,7 @@
 #include "WindowFixture.h"
 #include "document/RunCount.h"
 
+#include <QLineEdit>
 #include <QMdiSubWindow>
 
 namespace vypx::test {
@@ -104,6 +105,21 @@ TEST_F(Exit, ACountThatCannotBeHandedBackIsTold)
     EXPECT_EQ(Messages(),
         QStringList(
             { "Failed to get value from VYPX.ini.", "Failed to save value to TBQX.ini file." }));
+    ExpectLeft();
+}
+
+TEST_F(Exit, TheOptionsOnTheScreenAreTakenOverAndSavedOnce)
+{
+    Entry("mnuOptions").trigger();
+    Find<QLineEdit>("txtVstring").setText("4.00");
+    std::filesystem::remove(program.File("VYPX.ini"));
+    MakeFolder(program.File("VYPX.ini"));
+    ask.Answer(QMessageBox::Ok);
+
+    Entry("mnuExit").trigger();
+
+    EXPECT_EQ(Messages(), QStringList("Failed to save value to TBQX.ini file."));
+    EXPECT_EQ(VersionString, "4.00");
     ExpectLeft();
 }
 

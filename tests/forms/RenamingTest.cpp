@@ -84,6 +84,22 @@ TEST_F(Renaming, OnPurposeANameThatIsTooLongIsRefusedByTheTreeOnly)
     EXPECT_EQ(DatabaseName, "ABCDEFGHIJKLMNOPQRSTUVWXYZ012345");
 }
 
+TEST_F(Renaming, ATooLongNameThatIsStillBeingTypedIsToldBeforeTheSaveGoesOn)
+{
+    Click("Set");
+    QTest::mouseClick(&Find<QPushButton>("cmdChangeDataBaseName"), Qt::LeftButton);
+    Find<QLineEdit>("txtLabelEdit").setText("ABCDEFGHIJKLMNOPQRSTUVWXYZ012345");
+    ask.Answer(QMessageBox::Ok);
+    ask.Answer(QMessageBox::No);
+
+    Entry("mnuSave").trigger();
+    QCoreApplication::processEvents();
+
+    EXPECT_EQ(Messages(),
+        (QStringList{ "Maximum name length is 31 characters.",
+            "About to overwrite the existing file.\nAre you sure?" }));
+}
+
 TEST_F(Renaming, AcceptsA31CharacterName)
 {
     Rename("ABCDEFGHIJKLMNOPQRSTUVWXYZ01234");

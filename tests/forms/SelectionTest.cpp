@@ -241,7 +241,8 @@ TEST_F(Selecting, AFileThatCannotBeReadLeavesNothingToMark)
     EXPECT_FALSE(IsOn("cmdRemoveIcon"));
     EXPECT_FALSE(IsOn("cmdClrDeleted"));
     EXPECT_EQ(Find<QPushButton>("cmdRemoveIcon").text(), "&Remove Selected");
-    EXPECT_EQ(SelectedNode, "");
+    QTest::keyClick(&Nodes(), Qt::Key_R);
+    EXPECT_EQ(Find<QPushButton>("cmdRemoveIcon").text(), "&Remove Selected");
 }
 
 TEST_F(Selecting, RWithCtrlOrAltRemovesNothing)

@@ -2,6 +2,10 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
 
 namespace vypx {
 
@@ -25,6 +29,25 @@ std::optional<QString> Chosen(
     return dialog.selectedFiles().value(0);
 }
 
+/// Below the fields of a dialog that saves: the name of the file that will be written, with the
+/// ending that a name without one gets.
+void ShowNameToBeWritten(QFileDialog& dialog)
+{
+    auto* const layout = qobject_cast<QGridLayout*>(dialog.layout());
+    const auto* const edit = dialog.findChild<QLineEdit*>("fileNameEdit");
+    if (!layout || !edit)
+        return;
+    auto* const note = new QLabel(&dialog);
+    note->setObjectName("lblNameToBeWritten");
+    note->setTextFormat(Qt::PlainText);
+    layout->addWidget(note, layout->rowCount(), 0, 1, -1);
+    QObject::connect(edit, &QLineEdit::textChanged, note, [&dialog, note](const QString& typed) {
+        const QFileInfo file(dialog.selectedFiles().value(0));
+        const bool isName = !typed.isEmpty() && !file.isDir();
+        note->setText(isName ? QObject::tr("Will be written as %1").arg(file.fileName()) : "");
+    });
+}
+
 } // namespace
 
 QString ScreenAsk::OpenFile(QWidget* parent, const OpenQuestion& question)
@@ -42,6 +65,9 @@ std::optional<QString> ScreenAsk::SaveFile(QWidget* parent, const SaveQuestion& 
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(question.defaultEnding);
+    // Dialogs of some desktops ask about the name without the ending that it is then given.
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    ShowNameToBeWritten(dialog);
     return Chosen(dialog, question.folder, question.filters);
 }
 

@@ -22,7 +22,8 @@ struct OpenQuestion {
     QStringList filters; ///< "Words (*.a *.b)", patterns apart by blanks
 };
 
-/// A file dialog that saves. It asks before it accepts an existing file.
+/// A file dialog that saves. It shows the name that will be written and asks before it accepts an
+/// existing file.
 struct SaveQuestion {
     QString title;
     QString folder;        ///< where it starts; empty: where the program was started

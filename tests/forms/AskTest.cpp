@@ -188,23 +188,53 @@ TEST_F(OnScreen, ADialogThatSavesGivesTheTypedNameAnEndingIfItHasNone)
     }
 }
 
+TEST_F(OnScreen, ADialogThatSavesShowsTheNameThatWillBeWritten)
+{
+    const TempFolder folder;
+    QStringList notes;
+    WhenUp<QFileDialog>([&](QFileDialog& dialog) {
+        auto* const name = dialog.findChild<QLineEdit*>("fileNameEdit");
+        const auto* const note = dialog.findChild<QLabel*>("lblNameToBeWritten");
+        ASSERT_TRUE(name && note);
+        for (const char* typed : { "", "m", "my set", "my.prc", "/tmp/<b>x", "/tmp", "" }) {
+            name->setText(typed);
+            notes.append(note->text());
+        }
+        EXPECT_TRUE(note->isVisible());
+        EXPECT_EQ(note->textFormat(), Qt::PlainText);
+    });
+
+    SaveUnder(ask, QString::fromStdString(folder.Path()));
+
+    EXPECT_EQ(notes,
+        (QStringList{ "", "Will be written as m.vpt", "Will be written as my set.vpt",
+            "Will be written as my.prc", "Will be written as <b>x.vpt", "", "" }));
+}
+
 TEST_F(OnScreen, ADialogThatSavesAsksBeforeItTakesAFileThatIsThere)
 {
     const TempFolder folder;
     WriteText(folder.File("old.prc"), "x");
-    for (const auto button : { QMessageBox::No, QMessageBox::Yes }) {
+    WriteText(folder.File("old.vpt"), "x");
+    const std::pair<const char*, QMessageBox::StandardButton> cases[] = {
+        { "old.prc", QMessageBox::No },
+        { "old.prc", QMessageBox::Yes },
+        { "old", QMessageBox::No },
+        { "old", QMessageBox::Yes },
+    };
+    for (const auto& [name, button] : cases) {
         bool asked = false;
-        WhenUp<QFileDialog>([&](QFileDialog& dialog) {
-            WhenUp<QMessageBox>([&](QMessageBox& box) {
+        WhenUp<QFileDialog>([&, typed = name, answer = button](QFileDialog& dialog) {
+            WhenUp<QMessageBox>([&, answer](QMessageBox& box) {
                 asked = true;
-                QTest::mouseClick(box.button(button), Qt::LeftButton);
+                QTest::mouseClick(box.button(answer), Qt::LeftButton);
             });
-            TypeName(dialog, "old.prc");
+            TypeName(dialog, typed);
         });
 
         const auto chosen = SaveUnder(ask, QString::fromStdString(folder.Path()));
 
-        EXPECT_TRUE(asked);
+        EXPECT_TRUE(asked) << name;
         EXPECT_EQ(chosen.has_value(), button == QMessageBox::Yes);
     }
 }

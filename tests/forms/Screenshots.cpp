@@ -11,10 +11,12 @@
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
 #include <QTest>
+#include <QTimer>
 #include <filesystem>
 #include <iostream>
 
@@ -29,6 +31,24 @@ void Take(const QString& folder, const QString& name)
     const QString file = folder + "/" + name + ".png";
     if (!QGuiApplication::primaryScreen()->grabWindow(0).save(file))
         std::cerr << "can't write " << file.toStdString() << '\n';
+}
+
+/// The dialog that saves, as Save As shows it, with a name without an ending typed in.
+void TakeSaveDialog(const QString& folder, QWidget& over)
+{
+    const test::TempFolder target;
+    QTimer::singleShot(300, [&] {
+        QWidget& dialog = *QApplication::activeModalWidget();
+        dialog.move(80, 120);
+        dialog.findChild<QLineEdit*>("fileNameEdit")->setText("My Icons");
+        Take(folder, "save-dialog");
+        dialog.close();
+    });
+    ScreenAsk().SaveFile(&over,
+        { .title = "Save Iconset",
+            .folder = QString::fromStdString(target.Path()),
+            .filters = { "Vantry Iconset (*.prc *.pdb)" },
+            .defaultEnding = "vpt" });
 }
 
 } // namespace
@@ -96,6 +116,7 @@ int main(int argc, char** argv)
     select("Palm Calculator (Large Icon)");
     QTest::keyClick(frame.findChild<IconTreeView*>("TreeView1"), Qt::Key_R);
     Take(folder, "road-1-marked");
+    TakeSaveDialog(folder, frame);
     ask.SaveTo(QString::fromStdString(programFolder.File("saved.prc")));
     frame.findChild<QAction*>("mnuSaveAs")->trigger();
     frame.findChild<QAction*>("mnuCloseIconset")->trigger();

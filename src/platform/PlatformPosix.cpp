@@ -47,7 +47,7 @@ void SyncFolderOf(const std::filesystem::path& file)
 
 /// Writes, syncs and closes the passing file. The first failure is the one that is told.
 std::error_code WritePassingFile(
-    const std::string& name, std::span<const std::uint8_t> bytes, const struct stat* old)
+    const std::string& name, std::span<const std::uint8_t> bytes, const struct stat* model)
 {
     ::unlink(name.c_str());
     const int file = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
@@ -57,10 +57,10 @@ std::error_code WritePassingFile(
     if (!WriteAll(file, bytes))
         error = LastError();
     // The owner is kept where the system allows it; without that right the file is ours.
-    if (!error && old && (old->st_uid != ::geteuid() || old->st_gid != ::getegid())
-        && ::fchown(file, old->st_uid, old->st_gid) != 0 && errno != EPERM)
+    if (!error && model && (model->st_uid != ::geteuid() || model->st_gid != ::getegid())
+        && ::fchown(file, model->st_uid, model->st_gid) != 0 && errno != EPERM)
         error = LastError();
-    if (!error && old && ::fchmod(file, old->st_mode & 07777) != 0)
+    if (!error && model && ::fchmod(file, model->st_mode & 07777) != 0)
         error = LastError();
     if (!error && ::fsync(file) != 0)
         error = LastError();
@@ -90,7 +90,8 @@ std::optional<FileIdentity> IdentityOf(const std::string& path)
     };
 }
 
-std::error_code ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes)
+std::error_code ReplaceFile(
+    const std::string& path, std::span<const std::uint8_t> bytes, const std::string& like)
 {
     std::error_code error;
     std::filesystem::path target = path;
@@ -111,8 +112,10 @@ std::error_code ReplaceFile(const std::string& path, std::span<const std::uint8_
     if (replaces && ::access(target.c_str(), W_OK) != 0)
         return LastError();
 
+    struct stat model = old;
+    const bool hasModel = (!like.empty() && ::stat(like.c_str(), &model) == 0) || replaces;
     const std::string passing = PassingFile(target).string();
-    error = WritePassingFile(passing, bytes, replaces ? &old : nullptr);
+    error = WritePassingFile(passing, bytes, hasModel ? &model : nullptr);
     if (!error && std::rename(passing.c_str(), target.c_str()) != 0)
         error = LastError();
     if (error)

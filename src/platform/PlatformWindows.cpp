@@ -69,7 +69,8 @@ std::optional<FileIdentity> IdentityOf(const std::string& path)
     };
 }
 
-std::error_code ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes)
+std::error_code ReplaceFile(
+    const std::string& path, std::span<const std::uint8_t> bytes, const std::string&)
 {
     std::error_code error, missing;
     std::filesystem::path target = NativePath(path);

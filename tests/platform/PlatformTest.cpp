@@ -98,6 +98,22 @@ TEST(ReplaceFile, KeepsPermissions)
     EXPECT_EQ(fs::status(folder.File("a")).permissions(), mine);
 }
 
+TEST(ReplaceFile, GivesACopyThePermissionsOfItsOriginal)
+{
+    const TempFolder folder;
+    WriteText(folder.File("a"), "secret");
+    WriteText(folder.File("older copy"), "x");
+    const fs::perms mine = fs::perms::owner_read | fs::perms::owner_write;
+    fs::permissions(folder.File("a"), mine);
+
+    for (const char* copy : { "new copy", "older copy" }) {
+        EXPECT_FALSE(
+            platform::ReplaceFile(folder.File(copy), TextBytes("secret"), folder.File("a")));
+
+        EXPECT_EQ(fs::status(folder.File(copy)).permissions(), mine) << copy;
+    }
+}
+
 TEST(ReplaceFile, AFailureIsNamedAndLeavesTheOldFile)
 {
     const TempFolder folder;

@@ -2,6 +2,7 @@
 
 #include "document/Catalogs.h"
 #include "document/WorkingFolder.h"
+#include "platform/Platform.h"
 #include "settings/Inifile.h"
 
 #include <array>
@@ -116,7 +117,7 @@ void ReadSections(std::string_view file, std::vector<Row>& table, std::string_vi
 {
     cInifile ini;
     ini.path(AppFolder + BelowFolder(file));
-    if (!FileExists(ini.path()))
+    if (!platform::ReadWholeFile(ini.path())) // one that can't be read is as good as missing
         show(missing);
     std::vector<std::string> sections;
     std::int32_t count = 0;

@@ -2,6 +2,7 @@
 
 #include "document/Catalogs.h"
 #include "settings/Inifile.h"
+#include "support/CommonUser.h"
 #include "support/LoadFixture.h"
 
 #include <gmock/gmock.h>
@@ -69,6 +70,24 @@ TEST_F(CatalogFiles, MissingFilesAreToldAndGiveEmptyTables)
     EXPECT_EQ(AppTable.size() + PalmTable.size() + VYTable.size(), 3u);
     EXPECT_FALSE(FileExists(folder.File("*.dat"))) << "the program makes none of them";
 }
+
+#ifndef _WIN32
+
+TEST_F(CatalogFiles, OneThatCannotBeReadIsAsGoodAsMissing)
+{
+    WriteText(folder.File("AppList.dat"), "[A]\nType=appl\nCreator={AAAA}\n");
+    std::filesystem::permissions(folder.File("AppList.dat"), std::filesystem::perms::none);
+    std::filesystem::permissions(folder.Path(), std::filesystem::perms::all);
+    {
+        const CommonUser common;
+        ReadAppIni(show);
+    }
+
+    EXPECT_THAT(messages, ElementsAre("Error! Can't find Applist.dat."));
+    EXPECT_EQ(AppTable.size(), 1u);
+}
+
+#endif
 
 TEST_F(CatalogFiles, OnPurposeCreatorBeforeTypeChangesTheirColumns)
 {

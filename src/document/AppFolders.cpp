@@ -1,5 +1,6 @@
 #include "document/AppFolders.h"
 
+#include "document/RunningCopies.h"
 #include "document/WorkingFolder.h"
 #include "platform/Platform.h"
 
@@ -58,8 +59,10 @@ std::string ResolveAppFolder(const std::string& programFolder, const std::string
     fs::create_directories(folder, error);
     // Up to the first start that came so far as to have settings; what the user deletes later on
     // does not come back.
-    if (!fs::exists(folder / "VYPX.ini", error))
+    if (!fs::exists(folder / "VYPX.ini", error)) {
+        const CopiesGate gate(userFolder); // or a second copy could go on without the catalogs
         FillFolder(platform::NativePath(programFolder), folder);
+    }
     return platform::FolderIsWritable(userFolder) ? userFolder : programFolder;
 }
 

@@ -15,25 +15,16 @@ using platform::FileLock;
 /// Places that are looked at; more copies than that are not told apart.
 constexpr int MaxPlaces = 256;
 
-/// Held for the moment in which places are looked at and taken or left, so that two copies that
-/// start together don't see each other's half. A copy that hangs there must not keep others out
-/// for ever.
-class Gate {
-public:
-    explicit Gate(const std::string& folder)
-    {
-        constexpr int Tries = 200;
-        constexpr std::chrono::milliseconds Pause(10);
-        const std::string file = folder + BelowFolder("copies.lock");
-        for (int i = 0; i < Tries && m_lock.TryLock(file) == FileLock::Answer::HeldByAnother; ++i)
-            std::this_thread::sleep_for(Pause);
-    }
-
-private:
-    FileLock m_lock;
-};
-
 } // namespace
+
+CopiesGate::CopiesGate(const std::string& folder)
+{
+    constexpr int Tries = 200;
+    constexpr std::chrono::milliseconds Pause(10);
+    const std::string file = folder + BelowFolder("copies.lock");
+    for (int i = 0; i < Tries && m_lock.TryLock(file) == FileLock::Answer::HeldByAnother; ++i)
+        std::this_thread::sleep_for(Pause);
+}
 
 RunningCopies::~RunningCopies() { Leave(); }
 
@@ -43,7 +34,7 @@ void RunningCopies::Enter(const std::string& folder)
     m_folder = folder;
     m_place = 0;
     m_anotherRan = false;
-    const Gate gate(folder);
+    const CopiesGate gate(folder);
     for (int place = 0; place < MaxPlaces; ++place) {
         const bool isNew = !FileExists(LockFile(place));
         if (isNew && m_lock.Held())
@@ -65,7 +56,7 @@ void RunningCopies::Leave()
 {
     if (!m_lock.Held())
         return;
-    const Gate gate(m_folder);
+    const CopiesGate gate(m_folder);
     m_lock.Unlock();
     std::error_code ignored;
     std::filesystem::remove(platform::NativePath(LockFile(m_place)), ignored);

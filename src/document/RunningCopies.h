@@ -6,6 +6,17 @@
 
 namespace vypx {
 
+/// Held while a copy that starts or ends looks at what all copies share in a folder, and changes
+/// it, so that two copies that start together don't see each other's half. A copy that hangs there
+/// keeps others out for two seconds only.
+class CopiesGate {
+public:
+    explicit CopiesGate(const std::string& folder);
+
+private:
+    platform::FileLock m_lock; // of "copies.lock"
+};
+
 /// The copies of this program that run over one program folder. Each holds a lock of its own there
 /// ("copy0.lock", "copy1.lock" and so on), which the system frees when the copy ends in whatever
 /// way, so a crash leaves nothing behind that a later start would believe.

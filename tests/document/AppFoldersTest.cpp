@@ -1,10 +1,14 @@
 #include "document/AppFolders.h"
+#include "document/RunningCopies.h"
 
 #include "support/CommonUser.h"
 #include "support/Files.h"
 #include "support/TempFolder.h"
 
+#include <chrono>
+#include <future>
 #include <gtest/gtest.h>
+#include <memory>
 
 namespace vypx::test {
 
@@ -53,15 +57,42 @@ TEST(AppFolders, TheUsersFolderIsFilledUpToTheFirstSettings)
 
         WriteText(data + "/AppList.dat", "[Mine]\n");
         fs::remove(data + "/PalmApp.dat"); // as an interrupted first start leaves it
+        WriteText(data + "/PalmApp.dat.vypx-new", "[Pa");
         EXPECT_EQ(ResolveAppFolder(program.Path(), data), data);
         EXPECT_EQ(ReadText(data + "/AppList.dat"), "[Mine]\n");
         EXPECT_EQ(ReadText(data + "/PalmApp.dat"), "[Palm]\n");
+        EXPECT_FALSE(fs::exists(data + "/PalmApp.dat.vypx-new"));
 
         WriteText(data + "/VYPX.ini", "[Program]\n");
         fs::remove(data + "/PalmApp.dat");
         EXPECT_EQ(ResolveAppFolder(program.Path(), data), data);
     }
     EXPECT_FALSE(fs::exists(data + "/PalmApp.dat")) << "what the user deletes stays deleted";
+    fs::permissions(program.Path(), fs::perms::owner_all);
+}
+
+TEST(AppFolders, ACopyThatStartsMeanwhileWaitsUntilTheFolderIsFull)
+{
+    namespace fs = std::filesystem;
+    const TempFolder program, user;
+    WriteText(program.File("AppList.dat"), "[First]\n");
+    fs::permissions(program.Path(), fs::perms(0555));
+    fs::permissions(user.Path(), fs::perms::all);
+    const std::string data = user.File("data");
+    {
+        const CommonUser common;
+        fs::create_directory(data);
+        auto another = std::make_unique<CopiesGate>(data);
+        std::future<std::string> folder =
+            std::async(std::launch::async, [&] { return ResolveAppFolder(program.Path(), data); });
+
+        EXPECT_EQ(folder.wait_for(std::chrono::milliseconds(100)), std::future_status::timeout);
+        WriteText(data + "/AppList.dat", "[Filled by another]\n");
+        another.reset();
+
+        EXPECT_EQ(folder.get(), data);
+        EXPECT_EQ(ReadText(data + "/AppList.dat"), "[Filled by another]\n");
+    }
     fs::permissions(program.Path(), fs::perms::owner_all);
 }
 

@@ -54,6 +54,8 @@ int Convert(const ConvertOptions& options)
     SavingAs = true;
     try {
         CompileIconset();
+        if (const std::string lost = IconsWithoutRoom(); !lost.empty())
+            Tell(lost);
     } catch (const SaveFailure& failure) {
         Tell(failure.what());
         return 1;

@@ -188,7 +188,7 @@ Bytes Database(std::span<const ResourceRow> resources, const std::string& databa
         std::copy(listed.begin(), listed.end(), file.begin() + static_cast<std::ptrdiff_t>(entry));
         entry += EntrySize;
         if (file.size() >= DataOffsetEnd)
-            throw CompileFailure{ outputPath, "an iconset can't be larger than 16 MiB" };
+            throw CompileFailure{ outputPath, "no resource can begin behind the first 16 MiB" };
         const Bytes body = compiler.Body(row);
         if (body.size()
             >= static_cast<std::size_t>(MaxResourceSize)) // the last one is read 1 longer

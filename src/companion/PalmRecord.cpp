@@ -2,6 +2,7 @@
 
 #include "companion/NearestColour.h"
 #include "companion/PackBits.h"
+#include "companion/PixelBuffer.h"
 
 #include <algorithm>
 
@@ -108,7 +109,7 @@ Bytes Finish(Bytes record, const Picture& picture, const RecordForm& form, bool 
     std::size_t sizeField)
 {
     const int rowBytes = RowBytesOf(picture.Width(), form.depth);
-    if (rowBytes > UINT16_MAX)
+    if (rowBytes > UINT16_MAX || !PixelBuffer::Holds(rowBytes, picture.Height()))
         throw RecordTooLarge();
     std::optional<Bytes> packed;
     if (form.packed)

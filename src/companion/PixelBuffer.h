@@ -54,6 +54,12 @@ public:
     int RowsMade() const { return m_rowsMade; }
 
     static constexpr std::size_t MaxBytes = 256u << 20;
+    /// Whether all rows of such a picture stay below MaxBytes.
+    static bool Holds(int rowBytes, int height)
+    {
+        const PixelBuffer buffer(rowBytes, height);
+        return buffer.Columns() * (static_cast<std::size_t>(height) + 1) <= MaxBytes;
+    }
 
 private:
     std::size_t Columns() const { return static_cast<std::size_t>(m_rowBytes + m_rowPad + 5); }

@@ -123,12 +123,14 @@ void Form1::TakeTargetFolder()
 }
 
 /// Writes the iconset. A failure shows no box but a note that stays until a save succeeds; the old
-/// file stands.
+/// file stands. So does the note about icons that the file's reader has no room for.
 bool Form1::Compile()
 {
     try {
         CompileIconset();
-        m_ui->lblNotSaved->setVisible(false);
+        const std::string lost = IconsWithoutRoom();
+        m_ui->lblNotSaved->setText(tr("The iconset was saved. %1").arg(Shown(lost)));
+        m_ui->lblNotSaved->setVisible(!lost.empty());
         return true;
     } catch (const std::exception& failure) {
         m_ui->lblNotSaved->setText(

@@ -7,6 +7,7 @@
 #include "settings/Settings.h"
 #include "writer/IconIndex.h"
 
+#include <algorithm>
 #include <unordered_set>
 
 namespace vypx {
@@ -30,6 +31,11 @@ bool Qualifies(const IconRow& row)
     return hasPicture && isKept && row.IconState != 0;
 }
 
+std::size_t RowsToSave()
+{
+    return static_cast<std::size_t>(std::count_if(IconTable.begin(), IconTable.end(), Qualifies));
+}
+
 int DepthArgument()
 {
     return DefaultColorDepth == "4-Bit" ? 4 : DefaultColorDepth == "8-Bit" ? 8 : 16;
@@ -49,7 +55,7 @@ void BackUp()
     const auto old = platform::ReadWholeFile(FileName);
     if (!old)
         throw SaveFailure(FileName, "the old file can't be read for its backup");
-    if (const std::error_code error = platform::ReplaceFile(FileName + ".bak", *old))
+    if (const std::error_code error = platform::ReplaceFile(FileName + ".bak", *old, FileName))
         throw SaveFailure(FileName + ".bak", error.message());
 }
 
@@ -109,6 +115,17 @@ std::vector<TransparencyRow> TransparencyRows()
         rows[i].blue = std::to_string(colour->blue);
     }
     return rows;
+}
+
+std::string IconsWithoutRoom()
+{
+    const bool hasIndex = FileExists(WorkPath(std::string(IndexKey) + ".bin"));
+    const std::size_t resources = PictureRows().size() + (hasIndex ? 2 : 1);
+    const std::size_t icons = RowsToSave(), room = 2 * resources + 1;
+    if (icons <= room)
+        return {};
+    return "Only " + std::to_string(room) + " of its " + std::to_string(icons)
+        + " icons will be shown when it is opened again: too many of them share a picture.";
 }
 
 void CompileIconset()

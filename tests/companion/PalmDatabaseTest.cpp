@@ -3,6 +3,7 @@
 #include "companion/BmpFile.h"
 #include "companion/NearestColour.h"
 #include "companion/PalmRecord.h"
+#include "companion/PixelBuffer.h"
 #include "support/Files.h"
 #include "support/Iconsets.h"
 #include "support/TempFolder.h"
@@ -90,6 +91,13 @@ TEST(PalmRecord, ARowOfMoreBytesThanItsFieldTellsIsRefused)
     EXPECT_THROW(EncodeLowDensity(wider, Form(16), std::nullopt, false), RecordTooLarge);
     EXPECT_NO_THROW(EncodeLowDensity(wideIndexed, Form(8), std::nullopt, false));
     EXPECT_THROW(EncodeLowDensity(widerIndexed, Form(8), std::nullopt, false), RecordTooLarge);
+}
+
+TEST(PalmRecord, RowsBeyondWhatAReaderExpandsAreTooMany)
+{
+    // Five columns and one row more: 4096 rows of 65,533 bytes are just below 256 MiB.
+    EXPECT_TRUE(PixelBuffer::Holds(65528, 4095));
+    EXPECT_FALSE(PixelBuffer::Holds(65528, 4096));
 }
 
 TEST(PalmRecord, ANextRecordFartherThanItsFieldTellsIsRefused)
@@ -279,7 +287,7 @@ TEST_F(Database, HoldsNoResourceBehind16MiB)
     const auto failure = Compile({ Version, Version, Index });
 
     ASSERT_TRUE(failure);
-    EXPECT_EQ(failure->reason, "an iconset can't be larger than 16 MiB");
+    EXPECT_EQ(failure->reason, "no resource can begin behind the first 16 MiB");
 }
 
 TEST_F(Database, AFailureLeavesTheOldFile)

@@ -45,6 +45,27 @@ TEST_F(Saving, SaveOverwritesTheFileAndKeepsABackup)
     EXPECT_FALSE(Note().isVisible());
 }
 
+TEST_F(Saving, IconsThatTheSavedFileHasNoRoomForAreTold)
+{
+    const IconRow shared = IconTable[0];
+    for (int i = 0; i < 10; ++i) {
+        IconTable.push_back(shared);
+        IconTable.back().IconLabel = "App " + std::to_string(i) + " (Large Icon)";
+    }
+
+    Entry("mnuSave").trigger();
+
+    EXPECT_FALSE(IconsetChanged);
+    EXPECT_TRUE(Note().isVisible());
+    EXPECT_EQ(Note().text(),
+        "The iconset was saved. Only 9 of its 12 icons will be shown when it is opened again: too "
+        "many of them share a picture.");
+
+    IconTable.resize(2);
+    Entry("mnuSave").trigger();
+    EXPECT_FALSE(Note().isVisible());
+}
+
 TEST_F(Saving, SaveAsksBeforeItOverwrites)
 {
     WarnOverwrite = true;

@@ -114,6 +114,8 @@ void Form1::MakeNewIconset(const QString& name)
         ShowTree();
         EmptyTables();
     }
+    if (m_depthWindow)
+        m_depthWindow->KeepChoices();
     // On purpose: without a name as well.
     FileLoaded = true;
     Enable({ "mnuRemoveLR", "mnuRemoveHR" }, true);

@@ -4,6 +4,7 @@
 #include "forms/Form1.h"
 #include "forms/Text.h"
 #include "forms/frmProgOptions.h"
+#include "forms/frmSelectCDepth.h"
 #include "settings/Settings.h"
 #include "ui_Form1.h"
 
@@ -55,7 +56,15 @@ void Form1::mnuOptions_Click()
 {
     if (!m_options) {
         m_options = new frmProgOptions(this);
-        connect(m_options, &frmProgOptions::ResolutionChosen, this, &Form1::ShowResolution);
+        connect(m_options, &frmProgOptions::DepthChosen, this, [this] {
+            if (m_depthWindow)
+                m_depthWindow->TakeDepthOfOthers();
+        });
+        connect(m_options, &frmProgOptions::ResolutionChosen, this, [this] {
+            if (m_depthWindow)
+                m_depthWindow->TakeResolutionOfOthers();
+            ShowResolution();
+        });
         connect(m_options, &frmProgOptions::Done, this, &Form1::TakeOptions);
     }
     m_options->show();

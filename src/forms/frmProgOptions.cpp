@@ -103,9 +103,11 @@ void frmProgOptions::ConnectDepths()
 {
     const auto setsDepth = [this](QAbstractButton* option, const char* depth) {
         connect(option, &QAbstractButton::toggled, this, [this, depth](bool on) {
-            if (on)
-                DefaultColorDepth = depth;
             ShowDepthWarning();
+            if (!on || DefaultColorDepth == depth)
+                return;
+            DefaultColorDepth = depth;
+            emit DepthChosen();
         });
     };
     setsDepth(m_ui->opt4Bit, "4-Bit");
@@ -117,7 +119,7 @@ void frmProgOptions::ConnectResolutions()
 {
     const auto setsResolution = [this](QAbstractButton* option, bool highOnly, bool lowOnly) {
         connect(option, &QAbstractButton::toggled, this, [this, highOnly, lowOnly](bool on) {
-            if (!on)
+            if (!on || (HighResOnly == highOnly && LowResOnly == lowOnly))
                 return;
             HighResOnly = highOnly;
             LowResOnly = lowOnly;

@@ -29,7 +29,8 @@ public:
     void reject() override;
 
 signals:
-    /// HighResOnly and LowResOnly have new values.
+    /// The user chose here: DefaultColorDepth, or HighResOnly and LowResOnly, have new values.
+    void DepthChosen();
     void ResolutionChosen();
     /// The settings are to be saved.
     void Done();

@@ -16,15 +16,11 @@ frmSelectCDepth::frmSelectCDepth(QWidget* parent)
     setAttribute(Qt::WA_DeleteOnClose);
     PaintChrome(*this);
     move(DialogPlace());
-    (DefaultColorDepth == "4-Bit"          ? m_ui->opt4Bit
-            : DefaultColorDepth == "8-Bit" ? m_ui->opt8Bit
-                                           : m_ui->opt16Bit)
-        ->setChecked(true);
-    (HighResOnly         ? m_ui->optHighResOnly
-            : LowResOnly ? m_ui->optLowResOnly
-                         : m_ui->optBothRes)
-        ->setChecked(true);
-    ShowDepthWarning();
+    ShowDepth();
+    ShowResolution();
+    for (QRadioButton* option : { m_ui->opt4Bit, m_ui->opt8Bit, m_ui->opt16Bit })
+        if (option->isChecked())
+            option->setFocus();
     ConnectDepths();
     ConnectResolutions();
     connect(
@@ -33,25 +29,35 @@ frmSelectCDepth::frmSelectCDepth(QWidget* parent)
 
 frmSelectCDepth::~frmSelectCDepth() = default;
 
+void frmSelectCDepth::ShowDepth()
+{
+    (DefaultColorDepth == "4-Bit"          ? m_ui->opt4Bit
+            : DefaultColorDepth == "8-Bit" ? m_ui->opt8Bit
+                                           : m_ui->opt16Bit)
+        ->setChecked(true);
+    ShowDepthWarning();
+}
+
+void frmSelectCDepth::ShowResolution()
+{
+    (HighResOnly         ? m_ui->optHighResOnly
+            : LowResOnly ? m_ui->optLowResOnly
+                         : m_ui->optBothRes)
+        ->setChecked(true);
+}
+
 void frmSelectCDepth::ShowDepthWarning()
 {
     for (QWidget* line : { m_ui->lblCDwarn1, m_ui->lblCDwarn2, m_ui->lblCDwarn3, m_ui->lblCDwarn4 })
         line->setVisible(!m_ui->opt16Bit->isChecked());
 }
 
-template <typename Value>
-void frmSelectCDepth::Note(
-    std::optional<Choice<Value>>& choice, const Value& now, const Value& chosen)
-{
-    const bool isMine = choice && choice->chosen == now;
-    choice = Choice<Value>{ isMine ? choice->before : now, chosen };
-}
-
 void frmSelectCDepth::ConnectDepths()
 {
     const auto setsDepth = [this](QAbstractButton* option, const char* depth) {
         connect(option, &QAbstractButton::clicked, this, [this, depth] {
-            Note<std::string>(m_depth, DefaultColorDepth, depth);
+            if (!m_depthBefore)
+                m_depthBefore = DefaultColorDepth;
             DefaultColorDepth = depth;
             ShowDepthWarning();
             emit DepthChosen();
@@ -71,20 +77,38 @@ void frmSelectCDepth::ConnectResolutions()
 void frmSelectCDepth::TakeResolution()
 {
     const Resolution chosen{ m_ui->optHighResOnly->isChecked(), m_ui->optLowResOnly->isChecked() };
-    Note<Resolution>(m_resolution, { HighResOnly, LowResOnly }, chosen);
+    if (!m_resolutionBefore)
+        m_resolutionBefore = { HighResOnly, LowResOnly };
     std::tie(HighResOnly, LowResOnly) = chosen;
     emit ResolutionChosen();
 }
 
+void frmSelectCDepth::TakeDepthOfOthers()
+{
+    m_depthBefore.reset();
+    ShowDepth();
+}
+
+void frmSelectCDepth::TakeResolutionOfOthers()
+{
+    m_resolutionBefore.reset();
+    ShowResolution();
+}
+
+void frmSelectCDepth::KeepChoices()
+{
+    m_depthBefore.reset();
+    m_resolutionBefore.reset();
+}
+
 void frmSelectCDepth::reject()
 {
-    // What was chosen elsewhere meanwhile stays.
-    if (m_depth && DefaultColorDepth == m_depth->chosen) {
-        DefaultColorDepth = m_depth->before;
+    if (m_depthBefore) {
+        DefaultColorDepth = *m_depthBefore;
         emit DepthChosen();
     }
-    if (m_resolution && Resolution(HighResOnly, LowResOnly) == m_resolution->chosen) {
-        std::tie(HighResOnly, LowResOnly) = m_resolution->before;
+    if (m_resolutionBefore) {
+        std::tie(HighResOnly, LowResOnly) = *m_resolutionBefore;
         emit ResolutionChosen();
     }
     emit TakenBack();

@@ -22,6 +22,12 @@ public:
     explicit frmSelectCDepth(QWidget* parent);
     ~frmSelectCDepth() override;
 
+    /// Another window chose: this one shows it and takes back no more than it chooses after it.
+    void TakeDepthOfOthers();
+    void TakeResolutionOfOthers();
+    /// A document began with what is chosen, which so stands.
+    void KeepChoices();
+
     void reject() override;
 
 signals:
@@ -37,22 +43,17 @@ signals:
 private:
     void ConnectDepths();
     void ConnectResolutions();
+    void ShowDepth();
+    void ShowResolution();
     void ShowDepthWarning();
     void TakeResolution();
     void cmdDoneCDepth_Click();
 
     std::unique_ptr<Ui::frmSelectCDepth> m_ui;
-    /// This window's last choice of a value, and what stood before its choices: what the start or
-    /// another window chose last.
-    template <typename Value>
-    struct Choice {
-        Value before, chosen;
-    };
-    template <typename Value>
-    static void Note(std::optional<Choice<Value>>& choice, const Value& now, const Value& chosen);
     using Resolution = std::pair<bool, bool>; // HighResOnly, LowResOnly
-    std::optional<Choice<std::string>> m_depth;
-    std::optional<Choice<Resolution>> m_resolution;
+    /// What stood before this window's choices; empty as long as there are none.
+    std::optional<std::string> m_depthBefore;
+    std::optional<Resolution> m_resolutionBefore;
 };
 
 /// What follows the window: a new iconset, or one that is opened.

@@ -141,6 +141,7 @@ TEST_F(Depths, TheDepthOfTheSettingsIsChosenAndAnyOtherIs16Bit)
         Entry("mnuNew").trigger();
 
         EXPECT_TRUE(Find<QRadioButton>(option).isChecked()) << depth;
+        EXPECT_EQ(Find<QDialog>("frmSelectCDepth").focusWidget(), &Find<QRadioButton>(option));
         for (const char* line : { "lblCDwarn1", "lblCDwarn2", "lblCDwarn3", "lblCDwarn4" })
             EXPECT_EQ(Find<QLabel>(line).isVisible(), warns) << depth;
         EXPECT_EQ(DefaultColorDepth, depth) << "nothing was clicked";
@@ -210,10 +211,17 @@ TEST_F(Depths, WhatTheOptionsChoseSinceStands)
     const auto inOptions = [&](const char* option) {
         Find<QDialog>("frmProgOptions").findChild<QAbstractButton*>(option)->click();
     };
+    const auto isShown = [&](const char* option) {
+        return Find<QDialog>("frmSelectCDepth").findChild<QRadioButton*>(option)->isChecked();
+    };
     inDepths("opt4Bit");
-    inOptions("opt8Bit");
+    inOptions("opt16Bit");
+    inOptions("opt8Bit"); // by way of another one
     inOptions("optHighResOnly");
-    inDepths("opt4Bit");
+    EXPECT_TRUE(isShown("opt8Bit"));
+    EXPECT_TRUE(isShown("optHighResOnly"));
+    EXPECT_TRUE(Find<QLabel>("lblCDwarn1").isVisible());
+    inDepths("opt8Bit");
     inDepths("opt16Bit");
     inDepths("optLowResOnly");
     inOptions("cmdDoneOptions");
@@ -225,6 +233,42 @@ TEST_F(Depths, WhatTheOptionsChoseSinceStands)
     EXPECT_TRUE(HighResOnly && !LowResOnly);
     EXPECT_EQ(Find<QLabel>("lblTargetCD").text(), "8-Bit");
     EXPECT_TRUE(Entry("mnuHideLowRes").isChecked());
+}
+
+TEST_F(Depths, WhatTheOptionsChoseAgainStands)
+{
+    Entry("mnuOptions").trigger();
+    Entry("mnuNew").trigger();
+    Find<QDialog>("frmSelectCDepth").findChild<QAbstractButton*>("opt4Bit")->click();
+    for (const char* option : { "opt8Bit", "opt4Bit" })
+        Find<QDialog>("frmProgOptions").findChild<QAbstractButton*>(option)->click();
+
+    QTest::keyClick(&Find<QDialog>("frmSelectCDepth"), Qt::Key_Escape);
+
+    EXPECT_EQ(DefaultColorDepth, "4-Bit");
+}
+
+TEST_F(Depths, ADocumentThatBeganKeepsItsDepth)
+{
+    Entry("mnuNew").trigger();
+    Click("cmdDoneCDepth");
+    Entry("mnuNew").trigger();
+    Click("opt4Bit");
+    Click("optHighResOnly");
+    Find<QLineEdit>("txtNewIconsetDBName").setText("My Set");
+    Click("cmdDoneName");
+
+    QTest::keyClick(&Find<QDialog>("frmSelectCDepth"), Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(DefaultColorDepth, "4-Bit");
+    EXPECT_TRUE(HighResOnly);
+
+    Entry("mnuNew").trigger();
+    Click("opt8Bit");
+    PromptColorDepth = false;
+    OpenAlpha();
+    QTest::keyClick(&Find<QDialog>("frmSelectCDepth"), Qt::Key_Escape);
+    EXPECT_EQ(DefaultColorDepth, "8-Bit");
 }
 
 TEST_F(Depths, TheResolutionTakesEffectAtTheClickAndAgainAtTheEnd)

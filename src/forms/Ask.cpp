@@ -24,7 +24,11 @@ std::optional<QString> Chosen(
 {
     dialog.setNameFilters(filters);
     dialog.setDirectory(folder.isEmpty() ? QDir::currentPath() : folder);
-    if (dialog.exec() != QDialog::Accepted)
+    const bool accepted = dialog.exec() == QDialog::Accepted;
+    // After a question of its own some window managers leave no window active.
+    if (QWidget* const parent = dialog.parentWidget())
+        parent->window()->activateWindow();
+    if (!accepted)
         return std::nullopt;
     return dialog.selectedFiles().value(0);
 }
@@ -40,11 +44,14 @@ void ShowNameToBeWritten(QFileDialog& dialog)
     auto* const note = new QLabel(&dialog);
     note->setObjectName("lblNameToBeWritten");
     note->setTextFormat(Qt::PlainText);
+    note->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // long names don't widen it
     layout->addWidget(note, layout->rowCount(), 0, 1, -1);
     QObject::connect(edit, &QLineEdit::textChanged, note, [&dialog, note](const QString& typed) {
         const QFileInfo file(dialog.selectedFiles().value(0));
         const bool isName = !typed.isEmpty() && !file.isDir();
-        note->setText(isName ? QObject::tr("Will be written as %1").arg(file.fileName()) : "");
+        const QString text =
+            isName ? QObject::tr("Will be written as %1").arg(file.fileName()) : QString();
+        note->setText(note->fontMetrics().elidedText(text, Qt::ElideMiddle, note->width()));
     });
 }
 

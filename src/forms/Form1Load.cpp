@@ -7,6 +7,7 @@
 #include "forms/Text.h"
 #include "forms/frmNewIconset.h"
 #include "forms/frmProgOptions.h"
+#include "forms/frmSelectCDepth.h"
 #include "settings/Settings.h"
 #include "ui_Form1.h"
 
@@ -44,6 +45,7 @@ void Form1::LoadFile()
     if (result != LoadResult::WrongFileType)
         ShowTree();
     EndLoad();
+    m_ui->TreeView1->setFocus(); // which passed to another control while the tree was hidden
     if (m_closeAfterLoad)
         ExitProgram();
 }
@@ -168,6 +170,8 @@ void Form1::Opened()
 {
     if (m_newIconset)
         m_newIconset->close(); // it was asked for in the place of another document
+    if (m_depthWindow)
+        m_depthWindow->KeepChoices();
     Enable({ "cmdAssignApp", "cmdRemoveIcon" }, false); // until an icon of it is clicked
     OfferRemoval(Removal::Remove);
     Enable({ "frameLG", "frameSM", "cmdAddIcon" }, true);

@@ -1,12 +1,12 @@
 #include "document/Document.h"
 #include "document/IconStats.h"
 #include "forms/Form1.h"
+#include "forms/Text.h"
 #include "forms/frmProgOptions.h"
 #include "settings/Settings.h"
 #include "ui_Form1.h"
 
 #include <QAction>
-#include <QTextDocument>
 
 namespace vypx {
 
@@ -70,8 +70,7 @@ void Form1::ShowStatus(int panel, const QString& text)
 {
     QLabel* const label = m_statusPanels[static_cast<std::size_t>(panel - 1)];
     label->setText(text);
-    // A tool tip has no plain mode; names of files and databases may look like tags.
-    label->setToolTip(Qt::mightBeRichText(text) ? "<p>" + text.toHtmlEscaped() + "</p>" : text);
+    label->setToolTip(TipText(text));
 }
 
 void Form1::UpdateIconStats()

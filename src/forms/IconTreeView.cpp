@@ -3,8 +3,10 @@
 #include "forms/Look.h"
 #include "forms/Text.h"
 
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 #include <algorithm>
 #include <memory>
 
@@ -41,6 +43,17 @@ public:
         emit m_tree.AfterLabelEdit(static_cast<QLineEdit*>(editor)->text());
     }
 
+    /// The whole of a label that is cut.
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+        const QModelIndex& index) override
+    {
+        if (event->type() != QEvent::ToolTip
+            || sizeHint(option, index).width() <= option.rect.width())
+            return QStyledItemDelegate::helpEvent(event, view, option, index);
+        QToolTip::showText(event->globalPos(), TipText(index.data().toString()), view);
+        return true;
+    }
+
 private:
     IconTreeView& m_tree;
 };
@@ -55,6 +68,10 @@ IconTreeView::IconTreeView(QWidget* parent)
     setColumnCount(1);
     setIconSize(QSize(16, 16));
     setItemDelegate(new LabelEdit(*this));
+    setTextElideMode(Qt::ElideMiddle); // the end of a label says which of two icons it is
+    QSizePolicy policy = sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    setSizePolicy(policy);
     connect(this, &QTreeWidget::itemSelectionChanged, this, [this] {
         if (const QTreeWidgetItem* node = selectedItems().value(0))
             emit NodeClick(node);

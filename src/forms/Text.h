@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QTextDocument>
 #include <string>
 #include <string_view>
 
@@ -16,5 +17,11 @@ inline QString Shown(std::string_view latin1)
 inline std::string Inner(const QString& text) { return text.toLatin1().toStdString(); }
 
 inline QString ShownPath(const std::string& path) { return QString::fromStdString(path); }
+
+/// For a tool tip, which has no plain mode: a text that may look like tags, as it is.
+inline QString TipText(const QString& text)
+{
+    return Qt::mightBeRichText(text) ? "<p>" + text.toHtmlEscaped() + "</p>" : text;
+}
 
 } // namespace vypx

@@ -196,6 +196,12 @@ TEST_F(OnScreen, ADialogThatSavesShowsTheNameThatWillBeWritten)
         auto* const name = dialog.findChild<QLineEdit*>("fileNameEdit");
         const auto* const note = dialog.findChild<QLabel*>("lblNameToBeWritten");
         ASSERT_TRUE(name && note);
+        const int width = dialog.width();
+        name->setText(QString(240, 'x') + ".prc");
+        QCoreApplication::processEvents();
+        EXPECT_EQ(dialog.width(), width);
+        EXPECT_TRUE(note->text().endsWith("xx.prc"));
+        EXPECT_LE(note->fontMetrics().horizontalAdvance(note->text()), note->width());
         for (const char* typed : { "", "m", "my set", "my.prc", "/tmp/<b>x", "/tmp", "" }) {
             name->setText(typed);
             notes.append(note->text());

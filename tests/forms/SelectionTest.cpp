@@ -1,6 +1,10 @@
 #include "IconsFixture.h"
 
 #include "companion/BmpFile.h"
+#include "document/Selection.h"
+
+#include <QHelpEvent>
+#include <QToolTip>
 
 namespace vypx::test {
 
@@ -226,6 +230,27 @@ TEST_F(Selecting, AfterAllIconsAreClearedOnlyTheRootStands)
 
     EXPECT_EQ(NodeTexts(), QStringList());
     EXPECT_EQ(Nodes().Root()->text(0), "Set");
+}
+
+TEST_F(Selecting, ALabelThatIsCutHasItsWholeTextInATip)
+{
+    const auto tipOf = [&](const QString& label) {
+        const QPoint at = Nodes().visualItemRect(Nodes().NodeOf(label)).center();
+        QHelpEvent help(QEvent::ToolTip, at, Nodes().viewport()->mapToGlobal(at));
+        QCoreApplication::sendEvent(Nodes().viewport(), &help);
+        return QToolTip::text();
+    };
+    EXPECT_EQ(tipOf("Alpha (Large Icon)"), "");
+    const std::string name =
+        "<b>A name that no tree is wide enough for</b> " + std::string(60, 'x');
+    IconTable[0].IconLabel = name + " (Large Icon)";
+    RebuildIconTree();
+    Nodes().Fill(Tree);
+
+    const QString tip = tipOf(QString::fromStdString(IconTable[0].IconLabel));
+
+    EXPECT_TRUE(tip.contains("&lt;b&gt;A name")) << tip.toStdString();
+    EXPECT_TRUE(tip.contains("(Large Icon)"));
 }
 
 TEST_F(Selecting, AFileThatCannotBeReadLeavesNothingToMark)

@@ -1,6 +1,7 @@
 #include "forms/frmProgOptions.h"
 
 #include "document/Document.h"
+#include "forms/DepthControls.h"
 #include "forms/Look.h"
 #include "forms/Text.h"
 #include "forms/UserStore.h"
@@ -56,14 +57,8 @@ void frmProgOptions::ShowSettings()
 
 void frmProgOptions::ShowChoices()
 {
-    (HighResOnly         ? m_ui->optHighResOnly
-            : LowResOnly ? m_ui->optLowResOnly
-                         : m_ui->optBothRes)
-        ->setChecked(true);
-    (DefaultColorDepth == "4-Bit"          ? m_ui->opt4Bit
-            : DefaultColorDepth == "8-Bit" ? m_ui->opt8Bit
-                                           : m_ui->opt16Bit)
-        ->setChecked(true);
+    CheckResolution(*m_ui);
+    CheckDepth(*m_ui);
 }
 
 void frmProgOptions::ShowDepthLock()
@@ -72,13 +67,12 @@ void frmProgOptions::ShowDepthLock()
     for (QWidget* control : std::initializer_list<QWidget*>{ m_ui->opt16Bit, m_ui->opt8Bit,
              m_ui->opt4Bit, m_ui->chkPromptForCDepth, m_ui->frameCD })
         control->setEnabled(!FileLoaded);
-    ShowDepthWarning();
+    ShowWarning();
 }
 
-void frmProgOptions::ShowDepthWarning()
+void frmProgOptions::ShowWarning()
 {
-    for (QWidget* line : { m_ui->lblCDwarn1, m_ui->lblCDwarn2, m_ui->lblCDwarn3, m_ui->lblCDwarn4 })
-        line->setVisible(!m_ui->opt16Bit->isChecked() && !FileLoaded);
+    ShowDepthWarning(*m_ui, !m_ui->opt16Bit->isChecked() && !FileLoaded);
 }
 
 void frmProgOptions::ConnectBoxes()
@@ -103,7 +97,7 @@ void frmProgOptions::ConnectDepths()
 {
     const auto setsDepth = [this](QAbstractButton* option, const char* depth) {
         connect(option, &QAbstractButton::toggled, this, [this, depth](bool on) {
-            ShowDepthWarning();
+            ShowWarning();
             if (!on || DefaultColorDepth == depth)
                 return;
             DefaultColorDepth = depth;

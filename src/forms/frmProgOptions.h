@@ -40,7 +40,7 @@ private:
     void ConnectBoxes();
     void ConnectDepths();
     void ConnectResolutions();
-    void ShowDepthWarning();
+    void ShowWarning();
     void TakeTexts();
     void cmdDoneOptions_Click();
 

@@ -1,5 +1,6 @@
 #include "forms/frmSelectCDepth.h"
 
+#include "forms/DepthControls.h"
 #include "forms/Look.h"
 #include "settings/Settings.h"
 #include "ui_frmSelectCDepth.h"
@@ -17,7 +18,7 @@ frmSelectCDepth::frmSelectCDepth(QWidget* parent)
     PaintChrome(*this);
     move(DialogPlace());
     ShowDepth();
-    ShowResolution();
+    CheckResolution(*m_ui);
     for (QRadioButton* option : { m_ui->opt4Bit, m_ui->opt8Bit, m_ui->opt16Bit })
         if (option->isChecked())
             option->setFocus();
@@ -31,25 +32,8 @@ frmSelectCDepth::~frmSelectCDepth() = default;
 
 void frmSelectCDepth::ShowDepth()
 {
-    (DefaultColorDepth == "4-Bit"          ? m_ui->opt4Bit
-            : DefaultColorDepth == "8-Bit" ? m_ui->opt8Bit
-                                           : m_ui->opt16Bit)
-        ->setChecked(true);
-    ShowDepthWarning();
-}
-
-void frmSelectCDepth::ShowResolution()
-{
-    (HighResOnly         ? m_ui->optHighResOnly
-            : LowResOnly ? m_ui->optLowResOnly
-                         : m_ui->optBothRes)
-        ->setChecked(true);
-}
-
-void frmSelectCDepth::ShowDepthWarning()
-{
-    for (QWidget* line : { m_ui->lblCDwarn1, m_ui->lblCDwarn2, m_ui->lblCDwarn3, m_ui->lblCDwarn4 })
-        line->setVisible(!m_ui->opt16Bit->isChecked());
+    CheckDepth(*m_ui);
+    ShowDepthWarning(*m_ui, !m_ui->opt16Bit->isChecked());
 }
 
 void frmSelectCDepth::ConnectDepths()
@@ -59,7 +43,7 @@ void frmSelectCDepth::ConnectDepths()
             if (!m_depthBefore)
                 m_depthBefore = DefaultColorDepth;
             DefaultColorDepth = depth;
-            ShowDepthWarning();
+            ShowDepth();
             emit DepthChosen();
         });
     };
@@ -92,7 +76,7 @@ void frmSelectCDepth::TakeDepthOfOthers()
 void frmSelectCDepth::TakeResolutionOfOthers()
 {
     m_resolutionBefore.reset();
-    ShowResolution();
+    CheckResolution(*m_ui);
 }
 
 void frmSelectCDepth::KeepChoices()

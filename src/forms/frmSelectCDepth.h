@@ -44,8 +44,6 @@ private:
     void ConnectDepths();
     void ConnectResolutions();
     void ShowDepth();
-    void ShowResolution();
-    void ShowDepthWarning();
     void TakeResolution();
     void cmdDoneCDepth_Click();
 

@@ -1,6 +1,7 @@
-// Saving 4000 working files at 8 bits, packed, against reading the same files and writing their
-// bytes as one file; and opening and saving against a bare loop over the same records that expands,
-// writes, reads and encodes each. Compare CPU times.
+// Saving 3996 working files at 8 bits, packed, against reading the same files and writing their
+// bytes as one file (an iconset holds 2000 resources, its version and its index among them, of two
+// working files each); and opening and saving against a bare loop over the same records that
+// expands, writes, reads and encodes each. Compare CPU times.
 
 #include "companion/BmpFile.h"
 #include "companion/PalmRecord.h"
@@ -24,7 +25,7 @@ namespace vypx {
 
 namespace {
 
-constexpr int Resources = 2000;
+constexpr int Resources = 1998;
 
 class Silent : public LoadListener {
     void Message(std::string_view) override { }
@@ -106,7 +107,7 @@ void Save()
     CompileIconset();
 }
 
-void SaveFourThousandPictures(benchmark::State& state)
+void SaveAFullIconset(benchmark::State& state)
 {
     Prepare();
     Open();
@@ -171,7 +172,7 @@ void BareLoop(benchmark::State& state)
 }
 
 BENCHMARK(ReadThemAndWriteTheirBytes)->Unit(benchmark::kMillisecond);
-BENCHMARK(SaveFourThousandPictures)->Unit(benchmark::kMillisecond);
+BENCHMARK(SaveAFullIconset)->Unit(benchmark::kMillisecond);
 BENCHMARK(BareLoop)->Unit(benchmark::kMillisecond);
 BENCHMARK(OpenAndSave)->Unit(benchmark::kMillisecond);
 

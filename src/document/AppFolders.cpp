@@ -38,8 +38,10 @@ void FillFolder(const fs::path& from, const fs::path& to)
     for (const std::string_view name : ShippedData) {
         std::error_code end;
         CopyIfMissing(from / name, to / name);
-        for (fs::recursive_directory_iterator entry(from / name, end), last; !end && entry != last;
-             entry.increment(end)) {
+        for (fs::recursive_directory_iterator
+                 entry(from / name, fs::directory_options::skip_permission_denied, end),
+             last;
+             !end && entry != last; entry.increment(end)) {
             const fs::path target = to / entry->path().lexically_relative(from);
             std::error_code ignored;
             fs::create_directories(target.parent_path(), ignored);

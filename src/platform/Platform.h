@@ -45,8 +45,8 @@ std::optional<std::vector<std::uint8_t>> ReadWholeFile(
 /// ends in ".vypx-new", synced, given the old file's permissions, renamed over it. A symbolic link
 /// is followed first and stays a link. After a failure, which the result names, the old file
 /// stands as it was and nothing is left beside it. A leftover of a killed writer is no obstacle.
-/// With `like`, an existing file, the permissions are that file's, as a copy has them (on Windows
-/// those of the folder or the old file).
+/// With `like`, an existing file, the permissions are that file's, as a copy has them, and the
+/// right to write it again (on Windows those of the folder or the old file).
 std::error_code ReplaceFile(
     const std::string& path, std::span<const std::uint8_t> bytes, const std::string& like = {});
 

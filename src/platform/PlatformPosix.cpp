@@ -45,6 +45,24 @@ void SyncFolderOf(const std::filesystem::path& file)
     ::close(handle);
 }
 
+/// Gives a new file the permissions of another. Its owner and group are kept where the system
+/// allows it; without that right the file is ours, and the rights that were a group's are nobody's.
+std::error_code TakeRights(int file, const struct stat& model)
+{
+    mode_t mode = model.st_mode & 0777;
+    struct stat own { };
+    if (::fstat(file, &own) != 0)
+        return LastError();
+    const bool isKept = (own.st_uid == model.st_uid && own.st_gid == model.st_gid)
+        || ::fchown(file, model.st_uid, model.st_gid) == 0;
+    if (!isKept && errno != EPERM)
+        return LastError();
+    if (!isKept && own.st_gid != model.st_gid
+        && ::fchown(file, static_cast<uid_t>(-1), model.st_gid) != 0)
+        mode &= ~static_cast<mode_t>(S_IRWXG);
+    return ::fchmod(file, mode) == 0 ? std::error_code() : LastError();
+}
+
 /// Writes, syncs and closes the passing file. The first failure is the one that is told.
 std::error_code WritePassingFile(
     const std::string& name, std::span<const std::uint8_t> bytes, const struct stat* model)
@@ -56,12 +74,8 @@ std::error_code WritePassingFile(
     std::error_code error;
     if (!WriteAll(file, bytes))
         error = LastError();
-    // The owner is kept where the system allows it; without that right the file is ours.
-    if (!error && model && (model->st_uid != ::geteuid() || model->st_gid != ::getegid())
-        && ::fchown(file, model->st_uid, model->st_gid) != 0 && errno != EPERM)
-        error = LastError();
-    if (!error && model && ::fchmod(file, model->st_mode & 07777) != 0)
-        error = LastError();
+    if (!error && model)
+        error = TakeRights(file, *model);
     if (!error && ::fsync(file) != 0)
         error = LastError();
     if (::close(file) != 0 && !error)
@@ -109,11 +123,14 @@ std::error_code ReplaceFile(
     if (replaces && !S_ISREG(old.st_mode))
         return std::make_error_code(std::errc::invalid_argument);
     // A file that its user made read-only is not to be replaced behind that user's back.
-    if (replaces && ::access(target.c_str(), W_OK) != 0)
+    if (replaces && ::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0)
         return LastError();
 
     struct stat model = old;
-    const bool hasModel = (!like.empty() && ::stat(like.c_str(), &model) == 0) || replaces;
+    const bool isCopy = !like.empty() && ::stat(like.c_str(), &model) == 0;
+    if (isCopy)
+        model.st_mode |= S_IWUSR; // or it could not be replaced by the next one
+    const bool hasModel = isCopy || replaces;
     const std::string passing = PassingFile(target).string();
     error = WritePassingFile(passing, bytes, hasModel ? &model : nullptr);
     if (!error && std::rename(passing.c_str(), target.c_str()) != 0)

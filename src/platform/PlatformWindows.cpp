@@ -6,6 +6,7 @@
 
 #define NOMINMAX
 #include <windows.h>
+#undef ReplaceFile // a macro there
 
 namespace vypx::platform {
 

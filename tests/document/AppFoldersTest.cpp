@@ -45,6 +45,8 @@ TEST(AppFolders, TheUsersFolderIsFilledUpToTheFirstSettings)
     WriteText(program.File("PalmApp.dat"), "[Palm]\n");
     fs::create_directories(program.File("samples/drawings"));
     WriteText(program.File("samples/drawings/one.svg"), "<svg/>");
+    fs::create_directories(program.File("samples/closed"));
+    fs::permissions(program.File("samples/closed"), fs::perms::none);
     fs::permissions(program.Path(), fs::perms(0555));
     fs::permissions(user.Path(), fs::perms::all);
     const std::string data = user.File("data");
@@ -67,6 +69,7 @@ TEST(AppFolders, TheUsersFolderIsFilledUpToTheFirstSettings)
         fs::remove(data + "/PalmApp.dat");
         EXPECT_EQ(ResolveAppFolder(program.Path(), data), data);
     }
+    fs::permissions(program.File("samples/closed"), fs::perms::owner_all);
     EXPECT_FALSE(fs::exists(data + "/PalmApp.dat")) << "what the user deletes stays deleted";
     fs::permissions(program.Path(), fs::perms::owner_all);
 }

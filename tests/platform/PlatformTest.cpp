@@ -1,5 +1,6 @@
 #include "platform/Platform.h"
 
+#include "support/CommonUser.h"
 #include "support/Files.h"
 #include "support/TempFolder.h"
 
@@ -113,6 +114,43 @@ TEST(ReplaceFile, GivesACopyThePermissionsOfItsOriginal)
         EXPECT_EQ(fs::status(folder.File(copy)).permissions(), mine) << copy;
     }
 }
+
+#ifndef _WIN32
+
+TEST(ReplaceFile, ACopyOfAReadOnlyFileCanBeReplacedByTheNext)
+{
+    const TempFolder folder;
+    fs::permissions(folder.Path(), fs::perms::all);
+    const CommonUser common;
+    WriteText(folder.File("a"), "x");
+    fs::permissions(folder.File("a"), fs::perms::owner_read);
+
+    EXPECT_FALSE(platform::ReplaceFile(folder.File("copy"), TextBytes("1"), folder.File("a")));
+    EXPECT_FALSE(platform::ReplaceFile(folder.File("copy"), TextBytes("2"), folder.File("a")));
+
+    EXPECT_EQ(ReadText(folder.File("copy")), "2");
+    EXPECT_TRUE(platform::ReplaceFile(folder.File("a"), TextBytes("2"))) << "but not the original";
+}
+
+TEST(ReplaceFile, GivesTheRightsOfAGroupToNoOther)
+{
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "only root can make a file of another group";
+    const TempFolder folder;
+    fs::permissions(folder.Path(), fs::perms::all);
+    WriteText(folder.File("a"), "x");
+    ASSERT_EQ(::chown(folder.File("a").c_str(), 65534, 4711), 0);
+    fs::permissions(folder.File("a"), fs::perms(0664));
+    {
+        const CommonUser common; // of the group 0
+
+        EXPECT_FALSE(platform::ReplaceFile(folder.File("a"), TextBytes("y")));
+    }
+
+    EXPECT_EQ(fs::status(folder.File("a")).permissions(), fs::perms(0604));
+}
+
+#endif
 
 TEST(ReplaceFile, AFailureIsNamedAndLeavesTheOldFile)
 {

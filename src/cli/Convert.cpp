@@ -4,6 +4,7 @@
 #include "document/Document.h"
 #include "settings/Settings.h"
 #include "writer/CompileIconset.h"
+#include "writer/ReadBack.h"
 #include "writer/SaveChecks.h"
 
 #include <iostream>
@@ -55,7 +56,7 @@ int Convert(const ConvertOptions& options)
     try {
         CompileIconset();
         if (const std::string lost = IconsWithoutRoom(); !lost.empty())
-            Tell(lost);
+            Tell(lost); // OUT is complete all the same
     } catch (const SaveFailure& failure) {
         Tell(failure.what());
         return 1;

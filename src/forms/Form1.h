@@ -117,6 +117,7 @@ private:
     std::optional<std::string> ChooseIconset();
     void DisableSlotCommands();
     void EmptyTables();
+    void DocumentBegan();
     void OfferNothing();
     void EndLoad();
     void Message(std::string_view text) override;
@@ -191,7 +192,8 @@ private:
     bool m_loading = false;
     bool m_closeAfterLoad = false;
     bool m_exited = false;
-    bool m_nameTooLong = false; ///< still to be told
+    bool m_noteIsOfDocument = false; ///< lblNotSaved goes with the document
+    bool m_nameTooLong = false;      ///< still to be told
 };
 
 } // namespace vypx

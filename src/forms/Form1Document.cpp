@@ -114,8 +114,7 @@ void Form1::MakeNewIconset(const QString& name)
         ShowTree();
         EmptyTables();
     }
-    if (m_depthWindow)
-        m_depthWindow->KeepChoices();
+    DocumentBegan();
     // On purpose: without a name as well.
     FileLoaded = true;
     Enable({ "mnuRemoveLR", "mnuRemoveHR" }, true);
@@ -140,6 +139,8 @@ void Form1::mnuCloseIconset_Click()
                "mnuRemoveLR", "mnuRemoveHR" },
         false);
     FileLoaded = false;
+    if (m_noteIsOfDocument)
+        m_ui->lblNotSaved->setVisible(false);
     EmptyTables();
     Enable({ "cmdAddIcon", "cmdClrDeleted" }, false);
     Itbl.assign(1, {});

@@ -166,12 +166,21 @@ void Form1::Progress(int count)
 
 void Form1::ProgressHidden() { m_ui->ProgressBar1->setVisible(false); }
 
+/// One was opened or made: with the depth that was chosen last, wherever.
+void Form1::DocumentBegan()
+{
+    if (m_depthWindow)
+        m_depthWindow->KeepChoices();
+    ShowDepth();
+    if (m_noteIsOfDocument)
+        m_ui->lblNotSaved->setVisible(false);
+}
+
 void Form1::Opened()
 {
     if (m_newIconset)
         m_newIconset->close(); // it was asked for in the place of another document
-    if (m_depthWindow)
-        m_depthWindow->KeepChoices();
+    DocumentBegan();
     Enable({ "cmdAssignApp", "cmdRemoveIcon" }, false); // until an icon of it is clicked
     OfferRemoval(Removal::Remove);
     Enable({ "frameLG", "frameSM", "cmdAddIcon" }, true);

@@ -6,6 +6,7 @@
 #include "settings/Settings.h"
 #include "ui_Form1.h"
 #include "writer/CompileIconset.h"
+#include "writer/ReadBack.h"
 #include "writer/SaveChecks.h"
 
 namespace vypx {
@@ -123,7 +124,7 @@ void Form1::TakeTargetFolder()
 }
 
 /// Writes the iconset. A failure shows no box but a note that stays until a save succeeds; the old
-/// file stands. So does the note about icons that the file's reader has no room for.
+/// file stands. The note about icons that find no room in the file goes with the document.
 bool Form1::Compile()
 {
     try {
@@ -131,11 +132,13 @@ bool Form1::Compile()
         const std::string lost = IconsWithoutRoom();
         m_ui->lblNotSaved->setText(tr("The iconset was saved. %1").arg(Shown(lost)));
         m_ui->lblNotSaved->setVisible(!lost.empty());
+        m_noteIsOfDocument = true;
         return true;
     } catch (const std::exception& failure) {
         m_ui->lblNotSaved->setText(
             tr("The iconset was not saved. %1").arg(QString::fromStdString(failure.what())));
         m_ui->lblNotSaved->setVisible(true);
+        m_noteIsOfDocument = false;
         return false;
     }
 }

@@ -31,11 +31,6 @@ bool Qualifies(const IconRow& row)
     return hasPicture && isKept && row.IconState != 0;
 }
 
-std::size_t RowsToSave()
-{
-    return static_cast<std::size_t>(std::count_if(IconTable.begin(), IconTable.end(), Qualifies));
-}
-
 int DepthArgument()
 {
     return DefaultColorDepth == "4-Bit" ? 4 : DefaultColorDepth == "8-Bit" ? 8 : 16;
@@ -69,6 +64,11 @@ SaveFailure::SaveFailure(const std::string& file, const std::string& reason)
 SaveFailure::SaveFailure(const CompileFailure& failure)
     : SaveFailure(failure.file, failure.reason)
 {
+}
+
+std::size_t RowsToSave()
+{
+    return static_cast<std::size_t>(std::count_if(IconTable.begin(), IconTable.end(), Qualifies));
 }
 
 void WriteVersionResource()
@@ -115,17 +115,6 @@ std::vector<TransparencyRow> TransparencyRows()
         rows[i].blue = std::to_string(colour->blue);
     }
     return rows;
-}
-
-std::string IconsWithoutRoom()
-{
-    const bool hasIndex = FileExists(WorkPath(std::string(IndexKey) + ".bin"));
-    const std::size_t resources = PictureRows().size() + (hasIndex ? 2 : 1);
-    const std::size_t icons = RowsToSave(), room = 2 * resources + 1;
-    if (icons <= room)
-        return {};
-    return "Only " + std::to_string(room) + " of its " + std::to_string(icons)
-        + " icons will be shown when it is opened again: too many of them share a picture.";
 }
 
 void CompileIconset()

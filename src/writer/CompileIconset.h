@@ -23,13 +23,11 @@ inline bool SavingAs = false;
 /// caller has made every check. Throws SaveFailure.
 void CompileIconset();
 
-/// After a compile: a sentence about icons that the file holds and a reader, which has room for
-/// twice the resources and one, will not show. Empty: there are none.
-std::string IconsWithoutRoom();
-
 /// First step of it: `tver1000.bin`, the version text without blanks at its end and a zero.
 void WriteVersionResource();
 
+/// How many rows of IconTable are saved.
+std::size_t RowsToSave();
 /// The resources that the open document gives, pictures in the order of IconTable.
 std::vector<ResourceRow> PictureRows();
 /// The transparent colours of BitmapTable, at the same row numbers.

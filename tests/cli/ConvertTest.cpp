@@ -114,6 +114,30 @@ TEST_F(Convert, AFileThatIsNotThereGivesNoOutput)
     EXPECT_FALSE(std::filesystem::exists(folder.File("out.prc")));
 }
 
+TEST_F(Convert, TellsOfIconsThatOutHasNoRoomFor)
+{
+    std::string catalog;
+    Bytes index;
+    for (const char letter : std::string("ABCDEFGH")) {
+        const std::string creator = std::string("APP") + letter;
+        catalog += "[App " + std::string(1, letter) + "]\nType=appl\nCreator={" + creator + "}\n";
+        index = Join({ index, IndexRecord("appl", creator, 3500, 0) });
+    }
+    WriteText(folder.File("catalogs/AppList.dat"), catalog);
+    Iconset set{ .resources = { { "tAIB", 3500, LowRecord(8) }, { "iTbl", 1000, index } } };
+    for (int id = 1; id <= 5; ++id)
+        set.resources.push_back({ "text", id, Bytes(2) }); // which a save leaves out
+    WriteBytes(folder.File("set.prc"), set.File());
+
+    const ToolRun run = Run({});
+
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.errors,
+        "pixelworks-cli: Only 7 of its 8 icons will be shown when it is opened again: too many of "
+        "them share a picture.\n");
+    EXPECT_EQ(Dumped("out.prc")["icons"].size(), 7u);
+}
+
 TEST_F(Convert, OptionsChangeWhatIsWritten)
 {
     EXPECT_EQ(Run({ "--name", "Caf\xC3\xA9", "--drop-unknown", "--packbits", "--depth", "8-Bit",

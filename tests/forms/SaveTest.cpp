@@ -45,13 +45,19 @@ TEST_F(Saving, SaveOverwritesTheFileAndKeepsABackup)
     EXPECT_FALSE(Note().isVisible());
 }
 
-TEST_F(Saving, IconsThatTheSavedFileHasNoRoomForAreTold)
+TEST_F(Saving, IconsThatTheSavedFileHasNoRoomForAreToldUntilAnotherDocumentBegins)
 {
+    std::string catalog = "[Alpha]\nType=appl\nCreator={ALPH}\n";
     const IconRow shared = IconTable[0];
-    for (int i = 0; i < 10; ++i) {
+    for (const char letter : std::string("ABCDEFGHIJ")) {
+        const std::string name = std::string("App ") + letter,
+                          creator = std::string("APP") + letter;
+        catalog += "[" + name + "]\nType=appl\nCreator={" + creator + "}\n";
+        AppTable.push_back({ name, "appl", creator, "" });
         IconTable.push_back(shared);
-        IconTable.back().IconLabel = "App " + std::to_string(i) + " (Large Icon)";
+        IconTable.back().IconLabel = name + " (Large Icon)";
     }
+    WriteText(program.File("AppList.dat"), catalog);
 
     Entry("mnuSave").trigger();
 
@@ -61,8 +67,8 @@ TEST_F(Saving, IconsThatTheSavedFileHasNoRoomForAreTold)
         "The iconset was saved. Only 9 of its 12 icons will be shown when it is opened again: too "
         "many of them share a picture.");
 
-    IconTable.resize(2);
-    Entry("mnuSave").trigger();
+    Open(Path("set.prc"));
+    EXPECT_EQ(IconTable.size(), 9u);
     EXPECT_FALSE(Note().isVisible());
 }
 

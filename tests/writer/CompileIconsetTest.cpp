@@ -137,32 +137,6 @@ TEST_F(Compiling, TbmpResourcesOnlyGiveNoIndex)
     EXPECT_THAT(Labels(), ElementsAre("Tbmp3500 () "));
 }
 
-TEST_F(Compiling, TellsOfIconsThatAReaderHasNoRoomFor)
-{
-    std::string catalog;
-    for (const char letter : std::string("ABCDEFGH")) {
-        const std::string name = std::string("App ") + letter;
-        catalog += "[" + name + "]\nType=appl\nCreator={APP" + letter + "}\n";
-        AppTable.push_back({ name, "appl", std::string("APP") + letter, "" });
-        if (letter == 'H')
-            Add("Alpha (Large Icon)", 3501, true, false, "APP", 0);
-        Add(name + " (Large Icon)", 3500, true, false);
-        if (letter != 'G')
-            continue;
-        WriteText(folder.File("AppList.dat"), catalog);
-        CompileIconset();
-        EXPECT_EQ(IconsWithoutRoom(), "") << "seven icons, three resources";
-    }
-    WriteText(folder.File("AppList.dat"), catalog);
-    CompileIconset();
-
-    EXPECT_EQ(IconsWithoutRoom(),
-        "Only 7 of its 8 icons will be shown when it is opened again: too many of them share a "
-        "picture.");
-    ASSERT_EQ(LoadFile(FileName, listener), LoadResult::Opened);
-    EXPECT_EQ(IconTable.size(), 7u);
-}
-
 TEST_F(Compiling, BacksUpTheOldFile)
 {
     Add("Alpha (Large Icon)", 3500, true, false);

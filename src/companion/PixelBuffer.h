@@ -17,7 +17,7 @@ class PixelBuffer {
 public:
     PixelBuffer(int rowBytes, int height)
         : m_rowBytes(rowBytes)
-        , m_rowPad((4 - rowBytes % 4) % 4)
+        , m_rowPad(Padding(rowBytes))
         , m_height(height)
     {
         constexpr std::size_t IconSize = 64u << 10; // all of an icon's rows at once
@@ -54,15 +54,19 @@ public:
     int RowsMade() const { return m_rowsMade; }
 
     static constexpr std::size_t MaxBytes = 256u << 20;
-    /// Whether all rows of such a picture stay below MaxBytes.
+    /// Whether all rows of such a picture are at most MaxBytes.
     static bool Holds(int rowBytes, int height)
     {
-        const PixelBuffer buffer(rowBytes, height);
-        return buffer.Columns() * (static_cast<std::size_t>(height) + 1) <= MaxBytes;
+        return Columns(rowBytes) * (static_cast<std::size_t>(height) + 1) <= MaxBytes;
     }
 
 private:
-    std::size_t Columns() const { return static_cast<std::size_t>(m_rowBytes + m_rowPad + 5); }
+    static int Padding(int rowBytes) { return (4 - rowBytes % 4) % 4; }
+    static std::size_t Columns(int rowBytes)
+    {
+        return static_cast<std::size_t>(rowBytes + Padding(rowBytes) + 5);
+    }
+    std::size_t Columns() const { return Columns(m_rowBytes); }
 
     int m_rowBytes, m_rowPad, m_height;
     int m_rowsMade = 0;

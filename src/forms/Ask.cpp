@@ -33,6 +33,33 @@ std::optional<QString> Chosen(
     return dialog.selectedFiles().value(0);
 }
 
+/// One line that is cut in its middle where it is too long for its width, which it never widens.
+class CutLabel : public QLabel {
+public:
+    explicit CutLabel(QWidget* parent)
+        : QLabel(parent)
+    {
+        setTextFormat(Qt::PlainText);
+        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    }
+
+    void Show(const QString& text)
+    {
+        m_whole = text;
+        setText(fontMetrics().elidedText(text, Qt::ElideMiddle, width()));
+    }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override
+    {
+        QLabel::resizeEvent(event);
+        Show(m_whole);
+    }
+
+private:
+    QString m_whole;
+};
+
 /// Below the fields of a dialog that saves: the name of the file that will be written, with the
 /// ending that a name without one gets.
 void ShowNameToBeWritten(QFileDialog& dialog)
@@ -41,17 +68,13 @@ void ShowNameToBeWritten(QFileDialog& dialog)
     const auto* const edit = dialog.findChild<QLineEdit*>("fileNameEdit");
     if (!layout || !edit)
         return;
-    auto* const note = new QLabel(&dialog);
+    auto* const note = new CutLabel(&dialog);
     note->setObjectName("lblNameToBeWritten");
-    note->setTextFormat(Qt::PlainText);
-    note->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // long names don't widen it
     layout->addWidget(note, layout->rowCount(), 0, 1, -1);
     QObject::connect(edit, &QLineEdit::textChanged, note, [&dialog, note](const QString& typed) {
         const QFileInfo file(dialog.selectedFiles().value(0));
         const bool isName = !typed.isEmpty() && !file.isDir();
-        const QString text =
-            isName ? QObject::tr("Will be written as %1").arg(file.fileName()) : QString();
-        note->setText(note->fontMetrics().elidedText(text, Qt::ElideMiddle, note->width()));
+        note->Show(isName ? QObject::tr("Will be written as %1").arg(file.fileName()) : QString());
     });
 }
 

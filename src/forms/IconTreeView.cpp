@@ -50,7 +50,7 @@ public:
         if (event->type() != QEvent::ToolTip
             || sizeHint(option, index).width() <= option.rect.width())
             return QStyledItemDelegate::helpEvent(event, view, option, index);
-        QToolTip::showText(event->globalPos(), TipText(index.data().toString()), view);
+        QToolTip::showText(event->globalPos(), TipText(index.data().toString()), view, option.rect);
         return true;
     }
 

@@ -191,6 +191,7 @@ TEST_F(OnScreen, ADialogThatSavesGivesTheTypedNameAnEndingIfItHasNone)
 TEST_F(OnScreen, ADialogThatSavesShowsTheNameThatWillBeWritten)
 {
     const TempFolder folder;
+    std::filesystem::create_directory(folder.File("sub"));
     QStringList notes;
     WhenUp<QFileDialog>([&](QFileDialog& dialog) {
         auto* const name = dialog.findChild<QLineEdit*>("fileNameEdit");
@@ -201,8 +202,16 @@ TEST_F(OnScreen, ADialogThatSavesShowsTheNameThatWillBeWritten)
         QCoreApplication::processEvents();
         EXPECT_EQ(dialog.width(), width);
         EXPECT_TRUE(note->text().endsWith("xx.prc"));
+        dialog.resize(2000, dialog.height());
+        QCoreApplication::processEvents();
+        EXPECT_EQ(note->text().count('x'), 240);
+        dialog.resize(width, dialog.height());
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(note->text().endsWith("xx.prc"));
         EXPECT_LE(note->fontMetrics().horizontalAdvance(note->text()), note->width());
-        for (const char* typed : { "", "m", "my set", "my.prc", "/tmp/<b>x", "/tmp", "" }) {
+        const QString sub = QString::fromStdString(folder.File("sub"));
+        for (const QString& typed :
+            QStringList{ "", "m", "my set", "my.prc", sub + "/<b>x", sub, "" }) {
             name->setText(typed);
             notes.append(note->text());
         }
@@ -242,6 +251,27 @@ TEST_F(OnScreen, ADialogThatSavesAsksBeforeItTakesAFileThatIsThere)
 
         EXPECT_TRUE(asked) << name;
         EXPECT_EQ(chosen.has_value(), button == QMessageBox::Yes);
+    }
+}
+
+TEST_F(OnScreen, TheWindowBelowADialogIsActiveAfterIt)
+{
+    QWidget below;
+    below.show();
+    for (const bool accepts : { true, false }) {
+        const TempFolder folder;
+        WhenUp<QFileDialog>([&](QFileDialog& dialog) {
+            if (accepts)
+                TypeName(dialog, "new.prc");
+        });
+
+        ask.SaveFile(&below,
+            { .title = {},
+                .folder = QString::fromStdString(folder.Path()),
+                .filters = {},
+                .defaultEnding = "vpt" });
+
+        EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == &below; }));
     }
 }
 

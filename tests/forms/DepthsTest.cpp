@@ -257,6 +257,7 @@ TEST_F(Depths, ADocumentThatBeganKeepsItsDepth)
     Click("optHighResOnly");
     Find<QLineEdit>("txtNewIconsetDBName").setText("My Set");
     Click("cmdDoneName");
+    EXPECT_EQ(Find<QLabel>("lblTargetCD").text(), "4-Bit");
 
     QTest::keyClick(&Find<QDialog>("frmSelectCDepth"), Qt::Key_Escape);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

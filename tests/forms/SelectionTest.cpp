@@ -251,6 +251,7 @@ TEST_F(Selecting, ALabelThatIsCutHasItsWholeTextInATip)
 
     EXPECT_TRUE(tip.contains("&lt;b&gt;A name")) << tip.toStdString();
     EXPECT_TRUE(tip.contains("(Large Icon)"));
+    EXPECT_EQ(Nodes().textElideMode(), Qt::ElideMiddle) << "the size stays in sight";
 }
 
 TEST_F(Selecting, AFileThatCannotBeReadLeavesNothingToMark)

@@ -46,7 +46,7 @@ void SyncFolderOf(const std::filesystem::path& file)
 }
 
 /// Gives a new file the permissions of another. Its owner and group are kept where the system
-/// allows it; without that right the file is ours, and the rights that were a group's are nobody's.
+/// allows it; otherwise the file is ours, and our group has those of the rights that all have.
 std::error_code TakeRights(int file, const struct stat& model)
 {
     mode_t mode = model.st_mode & 0777;
@@ -55,11 +55,9 @@ std::error_code TakeRights(int file, const struct stat& model)
         return LastError();
     const bool isKept = (own.st_uid == model.st_uid && own.st_gid == model.st_gid)
         || ::fchown(file, model.st_uid, model.st_gid) == 0;
-    if (!isKept && errno != EPERM)
-        return LastError();
     if (!isKept && own.st_gid != model.st_gid
         && ::fchown(file, static_cast<uid_t>(-1), model.st_gid) != 0)
-        mode &= ~static_cast<mode_t>(S_IRWXG);
+        mode &= ~static_cast<mode_t>(S_IRWXG) | (mode & S_IRWXO) << 3;
     return ::fchmod(file, mode) == 0 ? std::error_code() : LastError();
 }
 

@@ -26,6 +26,14 @@ struct Owner {
     bool IsKnown() const { return !type.empty() && !creator.empty(); }
 };
 
+/// The number behind the key's type; 0 where there is none.
+int IdOf(const std::string& key)
+{
+    if (key.size() < IconType.size())
+        return 0;
+    return static_cast<int>(std::strtol(key.c_str() + IconType.size(), nullptr, 10));
+}
+
 bool TakesPart(const IconRow& row)
 {
     if (row.ResourceKey.empty())
@@ -80,6 +88,14 @@ Owner OwnerByIndex(int id)
     return owner;
 }
 
+std::uint32_t Packed(const std::string& text)
+{
+    std::uint32_t packed = 0;
+    for (std::size_t i = 0; i < 4; ++i)
+        packed = packed << 8 | static_cast<std::uint8_t>(i < text.size() ? text[i] : ' ');
+    return packed;
+}
+
 /// Sorts by the characters, the first before all others; "." counts 0.
 double CreatorKey(std::uint32_t creator)
 {
@@ -92,25 +108,10 @@ double CreatorKey(std::uint32_t creator)
 
 } // namespace
 
-int IdOf(const std::string& key)
-{
-    if (key.size() < IconType.size())
-        return 0;
-    return static_cast<int>(std::strtol(key.c_str() + IconType.size(), nullptr, 10));
-}
-
-std::uint32_t PackedFour(const std::string& text)
-{
-    std::uint32_t packed = 0;
-    for (std::size_t i = 0; i < 4; ++i)
-        packed = packed << 8 | static_cast<std::uint8_t>(i < text.size() ? text[i] : ' ');
-    return packed;
-}
-
 IconIndex CollectIconIndex()
 {
     IconIndex index;
-    std::unordered_map<std::uint64_t, std::size_t> records;
+    std::unordered_map<std::string, std::size_t> records;
     double lastClass = 0;
     for (const IconRow& row : IconTable) {
         if (!TakesPart(row))
@@ -120,9 +121,9 @@ IconIndex CollectIconIndex()
         const Owner owner = byIndex ? OwnerByIndex(id) : OwnerByCatalog(row);
         if (!owner.IsKnown())
             continue;
-        const std::uint32_t type = PackedFour(owner.type), creator = PackedFour(owner.creator);
-        const auto [record, isNew] =
-            records.try_emplace(OwnerNumber(type, creator), index.values.size());
+        const std::uint32_t type = Packed(owner.type), creator = Packed(owner.creator);
+        const auto [record, isNew] = records.try_emplace(
+            std::to_string(type) + " " + std::to_string(creator), index.values.size());
         if (isNew) {
             // On purpose: any other type keeps the class of the record before it.
             if (owner.type == "appl")
@@ -138,8 +139,12 @@ IconIndex CollectIconIndex()
     return index;
 }
 
-IconIndex SavedIndex()
+void BuildIconTableResource()
 {
+    if (!FileLoaded)
+        return;
+    std::error_code ignored;
+    std::filesystem::remove(platform::NativePath(WorkPath("iTbl.bin")), ignored);
     const IconIndex all = CollectIconIndex();
     IconIndex kept;
     for (std::size_t i = 0; i < all.values.size(); ++i) {
@@ -148,16 +153,6 @@ IconIndex SavedIndex()
         kept.values.push_back(all.values[i]);
         kept.keys.push_back(all.keys[i]);
     }
-    return kept;
-}
-
-void BuildIconTableResource()
-{
-    if (!FileLoaded)
-        return;
-    std::error_code ignored;
-    std::filesystem::remove(platform::NativePath(WorkPath("iTbl.bin")), ignored);
-    const IconIndex kept = SavedIndex();
     if (kept.values.empty())
         return;
     const std::string path = WorkPath("iTbl1000.bin");

@@ -147,7 +147,7 @@ TEST(ReplaceFile, GivesTheRightsOfAGroupToNoOther)
         EXPECT_FALSE(platform::ReplaceFile(folder.File("a"), TextBytes("y")));
     }
 
-    EXPECT_EQ(fs::status(folder.File("a")).permissions(), fs::perms(0604));
+    EXPECT_EQ(fs::status(folder.File("a")).permissions(), fs::perms(0644));
 }
 
 #endif

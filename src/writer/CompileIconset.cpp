@@ -7,7 +7,6 @@
 #include "settings/Settings.h"
 #include "writer/IconIndex.h"
 
-#include <algorithm>
 #include <unordered_set>
 
 namespace vypx {
@@ -64,11 +63,6 @@ SaveFailure::SaveFailure(const std::string& file, const std::string& reason)
 SaveFailure::SaveFailure(const CompileFailure& failure)
     : SaveFailure(failure.file, failure.reason)
 {
-}
-
-std::size_t RowsToSave()
-{
-    return static_cast<std::size_t>(std::count_if(IconTable.begin(), IconTable.end(), Qualifies));
 }
 
 void WriteVersionResource()

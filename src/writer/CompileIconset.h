@@ -26,8 +26,6 @@ void CompileIconset();
 /// First step of it: `tver1000.bin`, the version text without blanks at its end and a zero.
 void WriteVersionResource();
 
-/// How many rows of IconTable are saved.
-std::size_t RowsToSave();
 /// The resources that the open document gives, pictures in the order of IconTable.
 std::vector<ResourceRow> PictureRows();
 /// The transparent colours of BitmapTable, at the same row numbers.

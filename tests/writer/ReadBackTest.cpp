@@ -2,6 +2,8 @@
 
 #include "support/CompileFixture.h"
 
+#include <gmock/gmock.h>
+
 namespace vypx::test {
 
 namespace {
@@ -61,6 +63,36 @@ TEST_F(ReadingBack, IconsThatAreNotSavedDoNotCount)
     Add("Alpha (Small Icon)", 3502, false, false);
 
     EXPECT_EQ(Note(), "");
+}
+
+TEST_F(ReadingBack, ANameInBothCatalogsIsOneIcon)
+{
+    for (const char letter : std::string("ABCDEFGH"))
+        AddApp(letter, 3500);
+    PalmTable = AppTable;
+
+    EXPECT_THAT(Note(), ::testing::StartsWith("Only 7 of its 8 icons"));
+    EXPECT_EQ(IconsOpened(), 7u);
+}
+
+TEST_F(ReadingBack, ManyNamesOfOneApplicationAreManyIcons)
+{
+    AddApp('A', 3500);
+    for (int i = 0; i < 8; ++i)
+        AppTable.push_back({ "Twin " + std::to_string(i), "appl", "APPA", "" });
+
+    EXPECT_THAT(Note(), ::testing::StartsWith("Only 7 of its 9 icons"));
+    EXPECT_EQ(IconsOpened(), 7u);
+}
+
+TEST_F(ReadingBack, AnIconOfTheLauncherIsNoOneElses)
+{
+    for (const char letter : std::string("ABCDEFGH"))
+        AddApp(letter, 3500);
+    VYTable.push_back({ "Start (Large Icon)", "3500", "" });
+
+    EXPECT_EQ(Note(), "");
+    EXPECT_EQ(IconsOpened(), 1u);
 }
 
 TEST_F(ReadingBack, IconsThatTheIndexDoesNotNameAreOneForEachPicture)

@@ -118,6 +118,7 @@ private:
     void DisableSlotCommands();
     void EmptyTables();
     void DocumentBegan();
+    void ForgetNote();
     void OfferNothing();
     void EndLoad();
     void Message(std::string_view text) override;

@@ -107,14 +107,15 @@ void Form1::MakeNewIconset(const QString& name)
         ShowStatus(1, "Windows Filename = ");
         ShowStatus(2, "Palm Database Name = " + Shown(DatabaseName));
         EmptyTables();
+        DocumentBegan();
     } else if (!FileLoaded) {
         // What is left of a closed or a half-read file must never be saved over it.
         FileName.clear();
         Tree.Clear();
         ShowTree();
         EmptyTables();
+        DocumentBegan();
     }
-    DocumentBegan();
     // On purpose: without a name as well.
     FileLoaded = true;
     Enable({ "mnuRemoveLR", "mnuRemoveHR" }, true);
@@ -139,8 +140,7 @@ void Form1::mnuCloseIconset_Click()
                "mnuRemoveLR", "mnuRemoveHR" },
         false);
     FileLoaded = false;
-    if (m_noteIsOfDocument)
-        m_ui->lblNotSaved->setVisible(false);
+    ForgetNote();
     EmptyTables();
     Enable({ "cmdAddIcon", "cmdClrDeleted" }, false);
     Itbl.assign(1, {});

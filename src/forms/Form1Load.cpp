@@ -53,6 +53,7 @@ void Form1::LoadFile()
 /// There is no document.
 void Form1::OfferNothing()
 {
+    ForgetNote();
     Enable({ "cmdAddIcon", "cmdAssignApp", "cmdRemoveIcon", "cmdClrDeleted" }, false);
     OfferRemoval(Removal::Remove);
     if (m_options)
@@ -172,6 +173,12 @@ void Form1::DocumentBegan()
     if (m_depthWindow)
         m_depthWindow->KeepChoices();
     ShowDepth();
+    ForgetNote();
+}
+
+/// A note about a save that failed stays until one succeeds, any other goes with its document.
+void Form1::ForgetNote()
+{
     if (m_noteIsOfDocument)
         m_ui->lblNotSaved->setVisible(false);
 }

@@ -27,6 +27,21 @@ protected:
                 Picture(3501) } }
                          .File()));
     }
+    /// The first icon's picture is that of ten more applications as well.
+    void ShareAmongTenMore()
+    {
+        std::string catalog = "[Alpha]\nType=appl\nCreator={ALPH}\n";
+        const IconRow shared = IconTable[0];
+        for (const char letter : std::string("ABCDEFGHIJ")) {
+            const std::string name = std::string("App ") + letter,
+                              creator = std::string("APP") + letter;
+            catalog += "[" + name + "]\nType=appl\nCreator={" + creator + "}\n";
+            AppTable.push_back({ name, "appl", creator, "" });
+            IconTable.push_back(shared);
+            IconTable.back().IconLabel = name + " (Large Icon)";
+        }
+        WriteText(program.File("AppList.dat"), catalog);
+    }
     std::string File(const std::string& name) { return program.File(name); }
     QString Path(const std::string& name) { return QString::fromStdString(program.File(name)); }
     QLabel& Note() { return Find<QLabel>("lblNotSaved"); }
@@ -47,17 +62,7 @@ TEST_F(Saving, SaveOverwritesTheFileAndKeepsABackup)
 
 TEST_F(Saving, IconsThatTheSavedFileHasNoRoomForAreToldUntilAnotherDocumentBegins)
 {
-    std::string catalog = "[Alpha]\nType=appl\nCreator={ALPH}\n";
-    const IconRow shared = IconTable[0];
-    for (const char letter : std::string("ABCDEFGHIJ")) {
-        const std::string name = std::string("App ") + letter,
-                          creator = std::string("APP") + letter;
-        catalog += "[" + name + "]\nType=appl\nCreator={" + creator + "}\n";
-        AppTable.push_back({ name, "appl", creator, "" });
-        IconTable.push_back(shared);
-        IconTable.back().IconLabel = name + " (Large Icon)";
-    }
-    WriteText(program.File("AppList.dat"), catalog);
+    ShareAmongTenMore();
 
     Entry("mnuSave").trigger();
 
@@ -70,6 +75,25 @@ TEST_F(Saving, IconsThatTheSavedFileHasNoRoomForAreToldUntilAnotherDocumentBegin
     Open(Path("set.prc"));
     EXPECT_EQ(IconTable.size(), 9u);
     EXPECT_FALSE(Note().isVisible());
+}
+
+TEST_F(Saving, TheNoteAboutIconsWithoutRoomGoesWhereNoDocumentIsLeft)
+{
+    for (const bool closes : { true, false }) {
+        OpenSet();
+        ShareAmongTenMore();
+        Entry("mnuSave").trigger();
+        ASSERT_TRUE(Note().isVisible());
+
+        if (closes)
+            Entry("mnuCloseIconset").trigger();
+        else {
+            ask.Answer(QMessageBox::Ok);
+            Open(Written(Bytes(20, 1), "short.prc"));
+        }
+
+        EXPECT_FALSE(Note().isVisible());
+    }
 }
 
 TEST_F(Saving, SaveAsksBeforeItOverwrites)

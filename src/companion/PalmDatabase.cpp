@@ -190,8 +190,7 @@ Bytes Database(std::span<const ResourceRow> resources, const std::string& databa
         if (file.size() >= DataOffsetEnd)
             throw CompileFailure{ outputPath, "no resource can begin behind the first 16 MiB" };
         const Bytes body = compiler.Body(row);
-        if (body.size()
-            >= static_cast<std::size_t>(MaxResourceSize)) // the last one is read 1 longer
+        if (body.size() + 1 > std::size_t{ MaxResourceSize }) // the last one is read 1 longer
             throw CompileFailure{ outputPath, row.key + " would be 10000000 bytes or more" };
         file.insert(file.end(), body.begin(), body.end());
     }

@@ -26,14 +26,6 @@ struct Owner {
     bool IsKnown() const { return !type.empty() && !creator.empty(); }
 };
 
-/// The number behind the key's type; 0 where there is none.
-int IdOf(const std::string& key)
-{
-    if (key.size() < IconType.size())
-        return 0;
-    return static_cast<int>(std::strtol(key.c_str() + IconType.size(), nullptr, 10));
-}
-
 bool TakesPart(const IconRow& row)
 {
     if (row.ResourceKey.empty())
@@ -107,6 +99,13 @@ double CreatorKey(std::uint32_t creator)
 }
 
 } // namespace
+
+int IdOf(const std::string& key)
+{
+    if (key.size() < IconType.size())
+        return 0;
+    return static_cast<int>(std::strtol(key.c_str() + IconType.size(), nullptr, 10));
+}
 
 IconIndex CollectIconIndex()
 {

@@ -2,6 +2,7 @@
 
 #include "companion/PalmDatabase.h"
 
+#include <string>
 #include <vector>
 
 namespace vypx {
@@ -16,6 +17,9 @@ struct IconIndex {
 /// `PalmApp.dat`, unknown icons by Itbl. Only `tAIB` resources with IDs from 3500 to 9999 and
 /// pictures take part.
 IconIndex CollectIconIndex();
+
+/// The number behind the four characters of a resource key's type; 0 where there is none.
+int IdOf(const std::string& key);
 
 /// Writes `iTbl1000.bin` of the working folder; none when no application qualifies. Throws
 /// SaveFailure.

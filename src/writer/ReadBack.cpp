@@ -5,6 +5,7 @@
 #include "document/WorkingFolder.h"
 #include "platform/Platform.h"
 #include "writer/CompileIconset.h"
+#include "writer/IconIndex.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -18,12 +19,6 @@ namespace vypx {
 namespace {
 
 using IconsById = std::unordered_map<int, std::size_t>;
-
-int IdOf(const std::string& key)
-{
-    constexpr std::size_t TypeSize = 4;
-    return key.size() < TypeSize ? 0 : std::atoi(key.c_str() + TypeSize);
-}
 
 /// Names of applications by type and creator, four characters each.
 std::unordered_map<std::string, std::vector<std::string_view>> NamesByOwner()

@@ -108,7 +108,7 @@ void UseFolder()
         test::WriteBytes(Folder().File("big.prc"), BigIconset());
 }
 
-void Open(const char* depth)
+void Open(ColorDepth depth)
 {
     ResetDocument();
     DefaultColorDepth = depth;
@@ -117,7 +117,7 @@ void Open(const char* depth)
         std::abort();
 }
 
-void OpenAt(benchmark::State& state, const char* depth)
+void OpenAt(benchmark::State& state, ColorDepth depth)
 {
     UseFolder();
     for (auto _ : state) {
@@ -128,14 +128,14 @@ void OpenAt(benchmark::State& state, const char* depth)
     }
 }
 
-void OpenAt16(benchmark::State& state) { OpenAt(state, "16-Bit"); }
-void OpenAt8(benchmark::State& state) { OpenAt(state, "8-Bit"); }
+void OpenAt16(benchmark::State& state) { OpenAt(state, ColorDepth::Bits16); }
+void OpenAt8(benchmark::State& state) { OpenAt(state, ColorDepth::Bits8); }
 
 /// Neither here nor above does the deletion of the files of the round before count.
 void WriteTheSameFiles(benchmark::State& state)
 {
     UseFolder();
-    Open("16-Bit");
+    Open(ColorDepth::Bits16);
     std::map<std::string, Bytes> files;
     for (const auto& entry : std::filesystem::directory_iterator(WorkFolder()))
         files[entry.path()] = test::ReadBytes(entry.path());

@@ -76,7 +76,7 @@ const test::TempFolder& Folder()
 void Prepare()
 {
     SetDefaultSettings();
-    DefaultColorDepth = "8-Bit";
+    DefaultColorDepth = ColorDepth::Bits8;
     UsePackbits = true;
     SavingAs = true;
     AppFolder = Folder().Path();

@@ -12,7 +12,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     if (size < 70 || size > 1u << 16)
         return 0;
-    constexpr const char* Depths[] = { "16-Bit", "8-Bit", "4-Bit" };
+    constexpr ColorDepth Depths[] = { ColorDepth::Bits16, ColorDepth::Bits8, ColorDepth::Bits4 };
     DefaultColorDepth = Depths[data[0] % 3];
     AppFolder = "/nowhere";
     SetTempSuffix(0);

@@ -40,7 +40,7 @@ struct Folder {
 void UseSettings(unsigned choice)
 {
     SetDefaultSettings();
-    constexpr const char* Depths[] = { "16-Bit", "8-Bit", "4-Bit" };
+    constexpr ColorDepth Depths[] = { ColorDepth::Bits16, ColorDepth::Bits8, ColorDepth::Bits4 };
     DefaultColorDepth = Depths[choice % 3];
     UsePackbits = (choice & 4) != 0;
     KeepUnknown = (choice & 8) != 0;

@@ -43,7 +43,7 @@ bool UseFolders(const OpenOptions& options)
 void UseSettings(const OpenOptions& options)
 {
     SetDefaultSettings();
-    DefaultColorDepth = options.depth;
+    SetDefaultColorDepth(options.depth);
     HighResOnly = options.only == "high";
     LowResOnly = options.only == "low";
     TemplateMode = options.asTemplate;

@@ -1,27 +1,23 @@
 #include "document/IconStats.h"
 
 #include "document/Document.h"
+#include "document/Labels.h"
 
 namespace vypx {
 
 namespace {
 
-bool SaysItsSize(const IconRow& row)
-{
-    return LabelHolds(row.IconLabel, "(Small Icon)") || LabelHolds(row.IconLabel, "(Large Icon)");
-}
-
 void CountRow(const IconRow& row)
 {
-    StatLarge += LabelHolds(row.IconLabel, "(Large Icon");
-    StatSmall += LabelHolds(row.IconLabel, "(Small Icon");
-    StatLowRes += ImageFileValid(row.LowResFile) && SaysItsSize(row);
-    StatHighRes += ImageFileValid(row.HighResFile) && SaysItsSize(row);
+    StatLarge += CountsAs(SizeClass::Large, row.IconLabel);
+    StatSmall += CountsAs(SizeClass::Small, row.IconLabel);
+    StatLowRes += ImageFileValid(row.LowResFile) && SaysItsSize(row.IconLabel);
+    StatHighRes += ImageFileValid(row.HighResFile) && SaysItsSize(row.IconLabel);
     StatTotal += !row.ResourceKey.empty();
     // On purpose: "NEW" is not empty here, so every such row counts once a load is done. Only
     // rows that no catalog knows have their resource's type in their label.
     StatUnknown +=
-        LabelHolds(row.IconLabel, "tAIB") && (!row.HighResFile.empty() || !row.LowResFile.empty());
+        NamesItsResource(row.IconLabel) && (!row.HighResFile.empty() || !row.LowResFile.empty());
 }
 
 void ColourNode(const IconRow& row)

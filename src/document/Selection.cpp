@@ -23,15 +23,14 @@ std::string ColourText(const BitmapEntry& bitmap)
 /// Two commands that a row offers as a whole.
 void EnableRowCommands(SelectionEffects& effects, bool on)
 {
-    effects.enabled["cmdRemoveIcon"] = on;
-    effects.enabled["cmdAssignApp"] = on;
+    effects.enabled[Command::RemoveIcon] = on;
+    effects.enabled[Command::AssignApp] = on;
 }
 
-void EnableSlotCommands(SelectionEffects& effects, const Slot& slot, bool on)
+void Enable(SelectionEffects& effects, std::span<const Command> commands, bool on)
 {
-    for (const std::string_view command : slot.commands)
-        if (!command.empty())
-            effects.enabled[command] = on;
+    for (const Command command : commands)
+        effects.enabled[command] = on;
 }
 
 void ListShares(const std::string& text, SelectionEffects& effects)
@@ -57,7 +56,7 @@ void ShowPictureOf(
             slot.SetMask(*colour);
         }
         if (slot.decidesRemoval)
-            effects.enabled["cmdRemoveIcon"] = !LabelHolds(row.IconLabel, "Orphan");
+            effects.enabled[Command::RemoveIcon] = !IsOrphanLabel(row.IconLabel);
         slot.hasTransparent = bitmap.hasTransparent != 0;
         shown.showsColour = slot.hasTransparent;
     }
@@ -79,35 +78,32 @@ void FindPictures(const std::string& text, SelectionEffects& effects)
 
 void OfferSlotCommands(const Slot& slot, SlotEffects& shown, SelectionEffects& effects)
 {
-    EnableSlotCommands(effects, slot, slot.loaded);
+    Enable(effects, slot.ofPicture, slot.loaded);
     shown.draw = slot.loaded;
     shown.hidesColour = !slot.loaded;
 }
 
 void OfferImport(const std::string& text, SelectionEffects& effects)
 {
-    const bool sizeIsKnown = LabelHolds(text, "Large") || LabelHolds(text, "Small");
-    for (const std::string_view command : { "cmdPastePicLG", "cmdImportSM", "cmdPastePicSM",
-             "cmdImportLG", "mnuPasteLG", "mnuPasteSM" })
-        effects.enabled[command] = sizeIsKnown;
+    for (const Slot* slot : { &SlotLG, &SlotSM })
+        Enable(effects, slot->ofImport, SizeToImport(text).has_value());
 }
 
-/// "Small" is asked last and wins where a label holds both words.
 std::string SizeLimit(const std::string& text, const Slot& slot)
 {
-    if (LabelHolds(text, "Small"))
-        return std::string(slot.limitOfSmall);
-    if (LabelHolds(text, "Large"))
-        return std::string(slot.limitOfLarge);
-    return {};
+    const std::optional<SizeClass> size = SizeToImport(text);
+    if (!size)
+        return {};
+    const PixelSize limit = slot.LimitOf(*size);
+    return "Max " + std::to_string(limit.width) + " x " + std::to_string(limit.height);
 }
 
 void OfferAssignment(const std::string& text, SelectionEffects& effects)
 {
-    const bool orphan = LabelHolds(text, "Orphan");
+    const bool orphan = IsOrphanLabel(text);
     if (orphan)
-        effects.enabled["cmdAssignApp"] = true;
-    effects.assignCaption = orphan ? "Assign Orphan" : "Change / Share";
+        effects.enabled[Command::AssignApp] = true;
+    effects.assignment = orphan ? Assignment::AssignOrphan : Assignment::ChangeOrShare;
 }
 
 } // namespace
@@ -140,7 +136,7 @@ SelectionEffects SelectNode(const std::string& text, const std::string& rootText
     OfferSlotCommands(SlotSM, effects.sm, effects);
 
     const bool isFirstNode = text == rootText;
-    effects.enabled["cmdChangeDataBaseName"] = isFirstNode;
+    effects.enabled[Command::ChangeDatabaseName] = isFirstNode;
     if (isFirstNode)
         return effects;
     OfferImport(text, effects);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "companion/Rgb.h"
+#include "document/Command.h"
 #include "document/Slot.h"
 
 #include <map>
@@ -16,6 +17,12 @@ enum class Removal {
     Restore, ///< "&Restore Selected", imgRestore
 };
 
+/// What `cmdAssignApp` offers.
+enum class Assignment {
+    ChangeOrShare, ///< "Change / Share"
+    AssignOrphan,  ///< "Assign Orphan"
+};
+
 /// What a selection shows in one panel. Empty: it stays as it is.
 struct SlotEffects {
     bool draw = false;                     ///< the slot has a picture, which is to be drawn
@@ -28,13 +35,13 @@ struct SlotEffects {
 };
 
 /// What a click on a node of the tree does to the main form, decided here and applied by the
-/// window: commands by control name, then the rest.
+/// window: commands, then the rest.
 struct SelectionEffects {
-    bool endsUndo = false;                    ///< another icon than the last one was clicked
-    bool listsShares = false;                 ///< ShareNames is new
-    std::map<std::string_view, bool> enabled; ///< by control name; others stay as they are
+    bool endsUndo = false;           ///< another icon than the last one was clicked
+    bool listsShares = false;        ///< ShareNames is new
+    std::map<Command, bool> enabled; ///< others stay as they are
     std::optional<Removal> removal;
-    std::optional<std::string_view> assignCaption; ///< of cmdAssignApp
+    std::optional<Assignment> assignment;
     SlotEffects lg, sm;
 };
 

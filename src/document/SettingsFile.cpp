@@ -14,14 +14,21 @@ namespace vypx {
 
 namespace {
 
-/// 16-bit, of a window's place or a colour.
+/// 16-bit; what lies beyond the bounds is cut to them.
 struct Number {
     int* variable;
+    int least = INT16_MIN, most = INT16_MAX;
 };
-using Variable = std::variant<bool*, Number, std::string*>;
+Number Component(int& variable) { return { &variable, 0, 255 }; } // of a colour
 
-/// A key of the file, in the order in which it is read and written. Two settings are not here:
-/// `Resolution`, whose text stands for two variables, and what only one direction knows.
+/// Settings whose text stands for something else than itself.
+enum class Word {
+    Depth,
+    Resolution, ///< HighResOnly and LowResOnly
+};
+using Variable = std::variant<bool*, Number, std::string*, Word>;
+
+/// A key of the file, in the order in which it is read and written.
 struct Key {
     const char* section;
     const char* key;
@@ -29,8 +36,6 @@ struct Key {
     Variable variable;
 };
 
-constexpr const char* ResolutionSection = "Resolution";
-constexpr const char* ResolutionKey = "Default Icon Res";
 constexpr const char* HighOnly = "High Res Only";
 constexpr const char* LowOnly = "Low Res Only";
 constexpr const char* BothRes = "Both High and Low Res";
@@ -40,17 +45,17 @@ const std::vector<Key>& Keys()
 {
     static const std::vector<Key> keys{
         { "PreviewBackColor", "Remember", "False", &RememberPreviewColor },
-        { "PreviewBackColor", "Red", "0", Number{ &Rsave } },
-        { "PreviewBackColor", "Green", "0", Number{ &Gsave } },
-        { "PreviewBackColor", "Blue", "255", Number{ &Bsave } },
+        { "PreviewBackColor", "Red", "0", Component(Rsave) },
+        { "PreviewBackColor", "Green", "0", Component(Gsave) },
+        { "PreviewBackColor", "Blue", "255", Component(Bsave) },
         { "Low Res Icons", "AutoCreateLowRes", "True", &AutoCreateLowRes },
         { "Startup Search", "Search for apps at startup", "False", &StartupSearch },
-        { "Default Color Depth", "User Color Depth", "16-Bit", &DefaultColorDepth },
+        { "Default Color Depth", "User Color Depth", "16-Bit", Word::Depth },
         { "Default Color Depth", "Prompt on New or File Open", "True", &PromptColorDepth },
         { "Compile Option", "Use Packbits Compression", "False", &UsePackbits },
         { "Compile Option", "Version String", DefaultVersion, &VersionString },
         { "Splash Screen", "Show splash screen at startup", "True", &ShowSplash },
-        { ResolutionSection, ResolutionKey, BothRes, static_cast<bool*>(nullptr) },
+        { "Resolution", "Default Icon Res", BothRes, Word::Resolution },
         { "Action on file save", "Warn about overwrite", "True", &WarnOverwrite },
         { "Unknown Icons", "Keep Unknown icons when saving", "True", &KeepUnknown },
         { "Backup Files", "Create Backup Iconset File on Save", "True", &CreateBackup },
@@ -91,6 +96,12 @@ void SetBoolean(bool& variable, const std::string& text)
         variable = text == "True";
 }
 
+void SetResolution(const std::string& text)
+{
+    HighResOnly = text == HighOnly;
+    LowResOnly = text == LowOnly;
+}
+
 /// False when the text is no number of 16 bits.
 bool SetVariable(const Key& key, const std::string& text)
 {
@@ -102,15 +113,15 @@ bool SetVariable(const Key& key, const std::string& text)
         **words = text;
         return true;
     }
+    if (const auto* word = std::get_if<Word>(&key.variable)) {
+        *word == Word::Depth ? SetDefaultColorDepth(text) : SetResolution(text);
+        return true;
+    }
+    const auto& range = std::get<Number>(key.variable);
     const std::optional<int> number = Number16(text);
-    *std::get<Number>(key.variable).variable = number.value_or(*Number16(key.defaultText));
+    *range.variable =
+        std::clamp(number.value_or(*Number16(key.defaultText)), range.least, range.most);
     return number.has_value();
-}
-
-void SetResolution(const std::string& text)
-{
-    HighResOnly = text == HighOnly;
-    LowResOnly = text == LowOnly;
 }
 
 std::string ResolutionText()
@@ -130,8 +141,8 @@ const char* BooleanText(bool value) { return value ? "True" : "False"; }
 /// The text of a key; empty when it is not to be written.
 std::optional<std::string> TextOf(const Key& key)
 {
-    if (std::string_view(key.section) == ResolutionSection)
-        return ResolutionText();
+    if (const auto* word = std::get_if<Word>(&key.variable))
+        return *word == Word::Depth ? DefaultColorDepthWord() : ResolutionText();
     if (const auto* boolean = std::get_if<bool*>(&key.variable))
         return BooleanText(**boolean);
     const auto* words = std::get_if<std::string*>(&key.variable);
@@ -207,9 +218,7 @@ std::vector<std::string> ReadSettings()
         ini.Section(key.section);
         ini.key(key.key);
         ini.Default(key.defaultText);
-        if (std::string_view(key.section) == ResolutionSection)
-            SetResolution(ini.Value());
-        else if (!SetVariable(key, ini.Value()))
+        if (!SetVariable(key, ini.Value()))
             bad.push_back(std::string(key.section) + ": " + key.key);
     }
     if (VersionString.empty())

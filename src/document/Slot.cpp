@@ -5,6 +5,21 @@
 
 namespace vypx {
 
+namespace {
+
+constexpr Command OfPictureLG[] = { Command::ExportLG, Command::CopyLG, Command::ImportLG,
+    Command::PasteLG, Command::ChangeColourLG, Command::DeleteLG, Command::MenuPasteLG,
+    Command::CreateLowRes };
+constexpr Command OfImportLG[] = { Command::PasteLG, Command::ImportLG, Command::MenuPasteLG };
+constexpr Command OfUndoLG[] = { Command::UndoLG, Command::MenuUndoLG };
+
+constexpr Command OfPictureSM[] = { Command::ExportSM, Command::CopySM, Command::ImportSM,
+    Command::PasteSM, Command::ChangeColourSM, Command::DeleteSM, Command::MenuPasteSM };
+constexpr Command OfImportSM[] = { Command::PasteSM, Command::ImportSM, Command::MenuPasteSM };
+constexpr Command OfUndoSM[] = { Command::UndoSM, Command::MenuUndoSM };
+
+} // namespace
+
 const Slot SlotLG{
     .fileCell = &IconRow::HighResFile,
     .path = HighResPath,
@@ -14,10 +29,12 @@ const Slot SlotLG{
     .maskG = MaskG_LG,
     .maskB = MaskB_LG,
     .letters = "LG",
-    .commands = { "cmdSaveLG", "cmdCopyClipLG", "cmdImportLG", "cmdPastePicLG", "cmdChangeTC_LG",
-        "cmdDelLG", "mnuPasteLG", "cmdCreateLowRes" },
-    .limitOfLarge = "Max 64 x 44",
-    .limitOfSmall = "Max 30 x 22",
+    .resolution = "High Res",
+    .limitOfLarge = { 64, 44 },
+    .limitOfSmall = { 30, 22 },
+    .ofPicture = OfPictureLG,
+    .ofImport = OfImportLG,
+    .ofUndo = OfUndoLG,
     .decidesRemoval = false,
 };
 
@@ -30,10 +47,12 @@ const Slot SlotSM{
     .maskG = MaskG_SM,
     .maskB = MaskB_SM,
     .letters = "SM",
-    .commands = { "cmdSaveSM", "cmdCopyClipSM", "cmdImportSM", "cmdPastePicSM", "cmdChangeTC_SM",
-        "cmdDelSM", "mnuPasteSM" },
-    .limitOfLarge = "Max 32 x 22",
-    .limitOfSmall = "Max 15 x 11",
+    .resolution = "Low Res",
+    .limitOfLarge = { 32, 22 },
+    .limitOfSmall = { 15, 11 },
+    .ofPicture = OfPictureSM,
+    .ofImport = OfImportSM,
+    .ofUndo = OfUndoSM,
     .decidesRemoval = true,
 };
 

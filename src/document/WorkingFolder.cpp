@@ -1,6 +1,7 @@
 #include "document/WorkingFolder.h"
 
 #include "platform/Platform.h"
+#include "settings/LetterCase.h"
 
 #include <filesystem>
 #include <vector>
@@ -132,15 +133,6 @@ std::string FolderOf(std::string_view path)
         return {};
     const bool endsInColon = path[last] == ':';
     return std::string(path.substr(0, endsInColon || last == 0 ? last + 1 : last));
-}
-
-std::string LowerCase(std::string_view text)
-{
-    std::string lower(text);
-    for (char& letter : lower)
-        if (letter >= 'A' && letter <= 'Z')
-            letter = static_cast<char>(letter - 'A' + 'a');
-    return lower;
 }
 
 } // namespace vypx

@@ -43,7 +43,4 @@ bool DeleteWorkingFiles(std::initializer_list<std::string_view> endings);
 std::string LastComponent(std::string_view path);
 std::string FolderOf(std::string_view path);
 
-/// The text with the letters A to Z in lower case; other bytes stay.
-std::string LowerCase(std::string_view text);
-
 } // namespace vypx

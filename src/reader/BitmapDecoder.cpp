@@ -17,11 +17,8 @@ constexpr std::size_t MarkSize = 16;
 
 int PixelSizeAt(ByteView resource, std::size_t position) { return resource.U8(position + 8); }
 
-/// 16, 8 or 4; the working depth only ever lowers colours.
-int WorkingDepth()
-{
-    return DefaultColorDepth == "4-Bit" ? 4 : DefaultColorDepth == "8-Bit" ? 8 : 16;
-}
+/// The working depth only ever lowers colours.
+int WorkingDepth() { return BitsOf(DefaultColorDepth); }
 
 } // namespace
 

@@ -8,6 +8,7 @@
 #include "reader/Progress.h"
 #include "reader/ResourceList.h"
 #include "reader/WalkResources.h"
+#include "settings/LetterCase.h"
 #include "settings/Settings.h"
 
 #include <algorithm>

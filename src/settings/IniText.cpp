@@ -1,6 +1,7 @@
 #include "settings/IniText.h"
 
 #include "platform/Platform.h"
+#include "settings/LetterCase.h"
 
 #include <algorithm>
 
@@ -33,14 +34,7 @@ std::string OneLine(std::string_view text)
 std::string CleanName(std::string_view name) { return std::string(Trimmed(OneLine(name))); }
 
 /// A name as it is looked up.
-std::string Folded(std::string_view name)
-{
-    std::string folded = CleanName(name);
-    for (char& letter : folded)
-        if (letter >= 'A' && letter <= 'Z')
-            letter = static_cast<char>(letter - 'A' + 'a');
-    return folded;
-}
+std::string Folded(std::string_view name) { return LowerCase(CleanName(name)); }
 
 std::string_view WithoutQuotes(std::string_view value)
 {

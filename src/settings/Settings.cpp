@@ -10,7 +10,7 @@ void SetDefaultSettings()
     Bsave = 255;
     AutoCreateLowRes = true;
     StartupSearch = false;
-    DefaultColorDepth = "16-Bit";
+    DefaultColorDepth = ColorDepth::Bits16;
     PromptColorDepth = true;
     UsePackbits = false;
     VersionString = "3.20";

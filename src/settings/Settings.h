@@ -1,5 +1,7 @@
 #pragma once
 
+#include "settings/ColorDepth.h"
+
 #include <string>
 
 /// The program's settings, read directly by every room. Texts of folders are UTF-8. Before the
@@ -10,7 +12,6 @@ inline bool RememberPreviewColor = false;
 inline int Rsave = 0, Gsave = 0, Bsave = 255; ///< the panels' back colour that was kept, 0 to 255
 inline bool AutoCreateLowRes = false;
 inline bool StartupSearch = false;
-inline std::string DefaultColorDepth = "16-Bit"; ///< "4-Bit", "8-Bit" or "16-Bit"
 inline bool PromptColorDepth = false;
 inline bool UsePackbits = false;
 inline std::string VersionString = "3.20";

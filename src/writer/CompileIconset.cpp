@@ -4,6 +4,7 @@
 #include "document/Slot.h"
 #include "document/WorkingFolder.h"
 #include "platform/Platform.h"
+#include "settings/LetterCase.h"
 #include "settings/Settings.h"
 #include "writer/IconIndex.h"
 
@@ -28,11 +29,6 @@ bool Qualifies(const IconRow& row)
     const bool hasPicture = NamesABmp(row.LowResFile) || NamesABmp(row.HighResFile);
     const bool isKept = KeepUnknown || row.IconKind != KindUnknown;
     return hasPicture && isKept && row.IconState != 0;
-}
-
-int DepthArgument()
-{
-    return DefaultColorDepth == "4-Bit" ? 4 : DefaultColorDepth == "8-Bit" ? 8 : 16;
 }
 
 /// Scratch files of an earlier compile must not get into this one.
@@ -127,8 +123,9 @@ void CompileIconset()
         addFile(IndexKey);
     const std::vector<TransparencyRow> transparency = TransparencyRows();
     BackUp();
-    const auto failure = CompilePRC(resources, transparency, Palette8, Palette4, DepthArgument(),
-        UsePackbits, FileName, DatabaseName, WorkFolder() + platform::PathSeparator);
+    const auto failure =
+        CompilePRC(resources, transparency, Palette8, Palette4, BitsOf(DefaultColorDepth),
+            UsePackbits, FileName, DatabaseName, WorkFolder() + platform::PathSeparator);
     if (failure)
         throw SaveFailure(*failure);
 }

@@ -32,17 +32,17 @@ protected:
     }
     SelectionEffects Select(const std::string& text) { return SelectNode(text, Root); }
 
-    static bool IsOn(const SelectionEffects& effects, const char* command)
+    static bool IsOn(const SelectionEffects& effects, Command command)
     {
         const auto found = effects.enabled.find(command);
-        EXPECT_NE(found, effects.enabled.end()) << command << " is left as it is";
+        EXPECT_NE(found, effects.enabled.end()) << int(command) << " is left as it is";
         return found != effects.enabled.end() && found->second;
     }
     static void ExpectAll(
-        const SelectionEffects& effects, std::initializer_list<const char*> commands, bool on)
+        const SelectionEffects& effects, std::initializer_list<Command> commands, bool on)
     {
-        for (const char* command : commands)
-            EXPECT_EQ(IsOn(effects, command), on) << command;
+        for (const Command command : commands)
+            EXPECT_EQ(IsOn(effects, command), on) << int(command);
     }
 };
 
@@ -54,16 +54,17 @@ TEST_F(Selection, TheRootDisablesEverySlotCommandAndCanBeRenamed)
     const SelectionEffects effects = Select(Root);
 
     ExpectAll(effects,
-        { "cmdRemoveIcon", "cmdAssignApp", "cmdImportLG", "cmdImportSM", "cmdSaveLG", "cmdSaveSM",
-            "cmdCopyClipLG", "cmdCopyClipSM", "cmdPastePicLG", "cmdPastePicSM", "cmdDelLG",
-            "cmdDelSM", "cmdChangeTC_LG", "cmdChangeTC_SM", "cmdCreateLowRes", "mnuPasteLG",
-            "mnuPasteSM" },
+        { Command::RemoveIcon, Command::AssignApp, Command::ImportLG, Command::ImportSM,
+            Command::ExportLG, Command::ExportSM, Command::CopyLG, Command::CopySM,
+            Command::PasteLG, Command::PasteSM, Command::DeleteLG, Command::DeleteSM,
+            Command::ChangeColourLG, Command::ChangeColourSM, Command::CreateLowRes,
+            Command::MenuPasteLG, Command::MenuPasteSM },
         false);
-    EXPECT_TRUE(IsOn(effects, "cmdChangeDataBaseName"));
+    EXPECT_TRUE(IsOn(effects, Command::ChangeDatabaseName));
     EXPECT_EQ(effects.removal, Removal::Remove);
     EXPECT_FALSE(effects.lg.draw || effects.sm.draw);
     EXPECT_TRUE(effects.lg.hidesColour && effects.sm.hidesColour);
-    EXPECT_EQ(effects.assignCaption, std::nullopt);
+    EXPECT_EQ(effects.assignment, std::nullopt);
     EXPECT_EQ(SelectedNode, "A (Large Icon)") << "the root is no icon";
     EXPECT_EQ(HighResPath + LowResPath, "");
 }
@@ -75,19 +76,20 @@ TEST_F(Selection, AFullRowOffersEverything)
     const SelectionEffects effects = Select("A (Large Icon)");
 
     ExpectAll(effects,
-        { "cmdRemoveIcon", "cmdAssignApp", "cmdImportLG", "cmdImportSM", "cmdSaveLG", "cmdSaveSM",
-            "cmdCopyClipLG", "cmdCopyClipSM", "cmdPastePicLG", "cmdPastePicSM", "cmdDelLG",
-            "cmdDelSM", "cmdChangeTC_LG", "cmdChangeTC_SM", "cmdCreateLowRes", "mnuPasteLG",
-            "mnuPasteSM" },
+        { Command::RemoveIcon, Command::AssignApp, Command::ImportLG, Command::ImportSM,
+            Command::ExportLG, Command::ExportSM, Command::CopyLG, Command::CopySM,
+            Command::PasteLG, Command::PasteSM, Command::DeleteLG, Command::DeleteSM,
+            Command::ChangeColourLG, Command::ChangeColourSM, Command::CreateLowRes,
+            Command::MenuPasteLG, Command::MenuPasteSM },
         true);
-    EXPECT_FALSE(IsOn(effects, "cmdChangeDataBaseName"));
+    EXPECT_FALSE(IsOn(effects, Command::ChangeDatabaseName));
     EXPECT_TRUE(effects.lg.draw && effects.sm.draw);
     EXPECT_EQ(HighResPath, WorkPath("a-d144.bmp"));
     EXPECT_EQ(LowResPath, WorkPath("a.bmp"));
     EXPECT_TRUE(LGloaded && SMloaded);
     EXPECT_EQ(effects.lg.sizeLimit, "Max 64 x 44");
     EXPECT_EQ(effects.sm.sizeLimit, "Max 32 x 22");
-    EXPECT_EQ(effects.assignCaption, "Change / Share");
+    EXPECT_EQ(effects.assignment, Assignment::ChangeOrShare);
     EXPECT_EQ(SelectedNode, "A (Large Icon)");
 }
 
@@ -115,11 +117,12 @@ TEST_F(Selection, AnEmptyRowOffersImportAndPasteOnly)
     const SelectionEffects effects = Select("A (Large Icon)");
 
     ExpectAll(effects,
-        { "cmdImportLG", "cmdImportSM", "cmdPastePicLG", "cmdPastePicSM", "mnuPasteLG",
-            "mnuPasteSM" },
+        { Command::ImportLG, Command::ImportSM, Command::PasteLG, Command::PasteSM,
+            Command::MenuPasteLG, Command::MenuPasteSM },
         true);
     ExpectAll(effects,
-        { "cmdSaveLG", "cmdSaveSM", "cmdDelLG", "cmdDelSM", "cmdCreateLowRes", "cmdChangeTC_LG" },
+        { Command::ExportLG, Command::ExportSM, Command::DeleteLG, Command::DeleteSM,
+            Command::CreateLowRes, Command::ChangeColourLG },
         false);
 }
 
@@ -142,10 +145,10 @@ TEST_F(Selection, ALauncherIconWithoutASizeInItsNameOffersNoImport)
     const SelectionEffects effects = Select("Start");
 
     ExpectAll(effects,
-        { "cmdImportLG", "cmdImportSM", "cmdPastePicLG", "cmdPastePicSM", "mnuPasteLG",
-            "mnuPasteSM" },
+        { Command::ImportLG, Command::ImportSM, Command::PasteLG, Command::PasteSM,
+            Command::MenuPasteLG, Command::MenuPasteSM },
         false);
-    EXPECT_TRUE(IsOn(effects, "cmdSaveSM"));
+    EXPECT_TRUE(IsOn(effects, Command::ExportSM));
     EXPECT_EQ(effects.lg.sizeLimit + effects.sm.sizeLimit, "");
 }
 
@@ -155,8 +158,8 @@ TEST_F(Selection, AnOrphanIsAssigned)
 
     const SelectionEffects effects = Select("tAIB1 (Orphan) ");
 
-    EXPECT_EQ(effects.assignCaption, "Assign Orphan");
-    EXPECT_TRUE(IsOn(effects, "cmdAssignApp"));
+    EXPECT_EQ(effects.assignment, Assignment::AssignOrphan);
+    EXPECT_TRUE(IsOn(effects, Command::AssignApp));
     EXPECT_EQ(effects.removal, Removal::Restore);
 }
 
@@ -167,8 +170,8 @@ TEST_F(Selection, OnPurposeOnlyALowResPictureKeepsAnOrphanFromBeingRestored)
     BitmapTable = { { .file = "low.bmp", .hasTransparent = 0 },
         { .file = "high.bmp", .hasTransparent = 0 } };
 
-    EXPECT_FALSE(IsOn(Select("tAIB1 (Orphan) "), "cmdRemoveIcon"));
-    EXPECT_TRUE(IsOn(Select("tAIB2 (Orphan) "), "cmdRemoveIcon"));
+    EXPECT_FALSE(IsOn(Select("tAIB1 (Orphan) "), Command::RemoveIcon));
+    EXPECT_TRUE(IsOn(Select("tAIB2 (Orphan) "), Command::RemoveIcon));
 }
 
 TEST_F(Selection, TheTransparentColourComesFromTheBitmapsTable)

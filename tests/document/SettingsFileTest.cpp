@@ -45,7 +45,7 @@ TEST_F(SettingsFileTest, AFirstRunMarksTheFileAndReadsDefaults)
     EXPECT_TRUE(AutoCreateLowRes && PromptColorDepth && ShowSplash && WarnOverwrite && KeepUnknown
         && CreateBackup && PreviewWinVisible && StatWinVisible && ShareWinVisible && UseLastDirs);
     EXPECT_FALSE(StartupSearch || UsePackbits || HighResOnly || LowResOnly);
-    EXPECT_EQ(DefaultColorDepth, "16-Bit");
+    EXPECT_EQ(DefaultColorDepth, ColorDepth::Bits16);
     EXPECT_EQ(VersionString, "3.20");
     EXPECT_EQ(MainWinWidth, 14000);
     EXPECT_EQ(MainWinHeight, 9800);
@@ -90,7 +90,7 @@ TEST_F(SettingsFileTest, WhatIsSavedIsReadBack)
 {
     AutoCreateLowRes = UsePackbits = StartupSearch = true;
     ShowSplash = WarnOverwrite = KeepUnknown = CreateBackup = PromptColorDepth = false;
-    DefaultColorDepth = "4-Bit";
+    DefaultColorDepth = ColorDepth::Bits4;
     VersionString = "1.0 \xE9";
     LowResOnly = true;
     LastDirIconsetLoad = "/home/caf\xC3\xA9";
@@ -106,7 +106,7 @@ TEST_F(SettingsFileTest, WhatIsSavedIsReadBack)
 
     EXPECT_TRUE(AutoCreateLowRes && UsePackbits && StartupSearch && RememberPreviewColor);
     EXPECT_FALSE(ShowSplash || WarnOverwrite || KeepUnknown || CreateBackup || PromptColorDepth);
-    EXPECT_EQ(DefaultColorDepth, "4-Bit");
+    EXPECT_EQ(DefaultColorDepth, ColorDepth::Bits4);
     EXPECT_EQ(VersionString, "1.0 \xE9");
     EXPECT_TRUE(LowResOnly);
     EXPECT_EQ(LastDirIconsetLoad, "/home/caf\xC3\xA9");
@@ -258,6 +258,39 @@ TEST_F(SettingsFileTest, AFileOfRandomBytesGivesDefaultsAndCanBeSaved)
 
     EXPECT_EQ(Value("Program", "Name"), "VY Pixelworks");
     EXPECT_EQ(Value("Default Color Depth", "User Color Depth"), "16-Bit");
+}
+
+TEST_F(SettingsFileTest, DepthWordsCountInAnyLetterCase)
+{
+    WriteText(SettingsFile(), "[Default Color Depth]\nUser Color Depth=8-BIT\n");
+
+    ReadSettings();
+
+    EXPECT_EQ(DefaultColorDepth, ColorDepth::Bits8);
+    EXPECT_EQ(DefaultColorDepthWord(), "8-Bit");
+}
+
+TEST_F(SettingsFileTest, AnotherDepthWordStaysInTheFile)
+{
+    WriteText(SettingsFile(), "[Default Color Depth]\nUser Color Depth=24-bit\n");
+
+    ReadSettings();
+    Save();
+
+    EXPECT_EQ(DefaultColorDepth, ColorDepth::Other);
+    EXPECT_EQ(BitsOf(DefaultColorDepth), 16) << "files are read and written so";
+    EXPECT_EQ(Value("Default Color Depth", "User Color Depth"), "24-bit");
+}
+
+TEST_F(SettingsFileTest, ColoursAreCutToWhatAComponentCanBe)
+{
+    WriteText(SettingsFile(), "[PreviewBackColor]\nRemember=True\nRed=-1\nGreen=256\nBlue=32767\n");
+
+    EXPECT_THAT(ReadSettings(), IsEmpty());
+
+    EXPECT_EQ(Rsave, 0);
+    EXPECT_EQ(Gsave, 255);
+    EXPECT_EQ(Bsave, 255);
 }
 
 } // namespace

@@ -198,7 +198,7 @@ TEST_F(Decoder, HighDensityIndexesStandAtTheEndOfTheirField)
 
 TEST_F(Decoder, EightBitsAtAWorkingDepthOfFourAreReducedWithTheirColour)
 {
-    DefaultColorDepth = "4-Bit";
+    DefaultColorDepth = ColorDepth::Bits4;
 
     // Index 5 is (255, 0, 255); its nearest grey is 170, sum of squares 43350 against 43605 at 153
     Decode(Low("0001 0001 0002 2000 08 01 0000 05 00 0000", "0505"));
@@ -210,7 +210,7 @@ TEST_F(Decoder, EightBitsAtAWorkingDepthOfFourAreReducedWithTheirColour)
 
 TEST_F(Decoder, FourBitsAtAWorkingDepthOfEightStayAsTheyAre)
 {
-    DefaultColorDepth = "8-Bit";
+    DefaultColorDepth = ColorDepth::Bits8;
 
     Decode(Low("0001 0001 0002 2000 04 01 0000 09 00 0000", "9900"));
 
@@ -227,12 +227,12 @@ TEST_F(Decoder, SixteenBitsAreReducedToTheWorkingDepth)
     const Bytes pink =
         Low("0001 0001 0002 2000 10 02 0000 00 00 0000 050605 00 00 F800F8", "F81F 0000");
 
-    DefaultColorDepth = "8-Bit";
+    DefaultColorDepth = ColorDepth::Bits8;
     Decode(pink);
     EXPECT_EQ(Working("Tbmp1000.bmp").At(0, 0), (Rgb{ 255, 0, 255 }));
     EXPECT_EQ(BitmapTable[0].red, 255) << "248, 0, 248 is nearest to 255, 0, 255";
 
-    DefaultColorDepth = "4-Bit";
+    DefaultColorDepth = ColorDepth::Bits4;
     Decode(pink);
     EXPECT_EQ(Working("Tbmp1000.bmp").At(0, 0), (Rgb{ 170, 170, 170 }));
 }

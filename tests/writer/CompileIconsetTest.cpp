@@ -81,7 +81,7 @@ TEST_F(Compiling, AKeyThatIsMarkedAsADoubleKeepsItsNumber)
 TEST_F(Compiling, TheOptionPacksEveryRecordAtEveryDepth)
 {
     Add("Alpha (Large Icon)", 3500, true, true);
-    for (const char* depth : { "4-Bit", "8-Bit", "16-Bit" })
+    for (const ColorDepth depth : { ColorDepth::Bits4, ColorDepth::Bits8, ColorDepth::Bits16 })
         for (const bool packs : { false, true }) {
             DefaultColorDepth = depth;
             UsePackbits = packs;
@@ -90,10 +90,10 @@ TEST_F(Compiling, TheOptionPacksEveryRecordAtEveryDepth)
 
             const Bytes family = Saved()[0].data;
             const std::size_t mark = ByteView(family).U16(10) * std::size_t{ 4 };
-            EXPECT_EQ((family[6] & 0x80) != 0, packs) << depth;
-            EXPECT_EQ((family[mark + 16 + 6] & 0x80) != 0, packs) << depth;
-            EXPECT_EQ(family[8], std::stoi(depth));
-            EXPECT_EQ(family[mark + 16 + 8], std::stoi(depth));
+            EXPECT_EQ((family[6] & 0x80) != 0, packs) << BitsOf(depth);
+            EXPECT_EQ((family[mark + 16 + 6] & 0x80) != 0, packs) << BitsOf(depth);
+            EXPECT_EQ(family[8], BitsOf(depth));
+            EXPECT_EQ(family[mark + 16 + 8], BitsOf(depth));
         }
 }
 
@@ -268,7 +268,7 @@ TEST_F(Compiling, APictureTooLargeForItsRecordIsAFailureAndTheOldFileStands)
         WorkPath("tAIB3500.bmp") + ": this picture is too large for a Palm bitmap of this depth");
 
     EXPECT_EQ(ReadText(FileName), "old");
-    DefaultColorDepth = "8-Bit";
+    DefaultColorDepth = ColorDepth::Bits8;
     EXPECT_EQ(WhyNot(), "") << "160 KB can be told";
 }
 
@@ -306,7 +306,7 @@ TEST_F(Compiling, ABlackAndWhiteIconKeepsItsMask)
                        .File()),
         LoadResult::Opened);
     FileName = folder.File("out.prc");
-    DefaultColorDepth = "8-Bit";
+    DefaultColorDepth = ColorDepth::Bits8;
 
     CompileIconset();
 

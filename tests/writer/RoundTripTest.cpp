@@ -32,10 +32,10 @@ struct RoundTrip : Compiling {
     /// As the depth keeps it.
     static Rgb Reduced(Rgb colour)
     {
-        if (DefaultColorDepth == "16-Bit")
+        if (DefaultColorDepth == ColorDepth::Bits16)
             return From565(To565(colour));
         const Palette palette =
-            DefaultColorDepth == "8-Bit" ? Palette(Palette8) : Palette(Palette4);
+            DefaultColorDepth == ColorDepth::Bits8 ? Palette(Palette8) : Palette(Palette4);
         return palette[static_cast<std::size_t>(
             NearestIn(palette).IndexOf(colour.red, colour.green, colour.blue))];
     }
@@ -71,7 +71,7 @@ struct RoundTrip : Compiling {
 RC_GTEST_FIXTURE_PROP(RoundTrip, ASavedDocumentOpensWithItsIconsPicturesAndColours, ())
 {
     random.seed(*rc::gen::arbitrary<unsigned>());
-    DefaultColorDepth = *rc::gen::element<std::string>("4-Bit", "8-Bit", "16-Bit");
+    DefaultColorDepth = *rc::gen::element(ColorDepth::Bits4, ColorDepth::Bits8, ColorDepth::Bits16);
     UsePackbits = *rc::gen::arbitrary<bool>();
     const int icons = *rc::gen::inRange(1, 6);
     Itbl.assign(1, {});
@@ -143,7 +143,7 @@ RC_GTEST_FIXTURE_PROP(RoundTrip, ASavedDocumentOpensWithItsIconsPicturesAndColou
 /// name a place within the index: here the record's rows of 8 bytes would, as 0x80000.
 TEST_F(RoundTrip, TheIndexIsReadWholeWhateverTheFirstRecordHolds)
 {
-    DefaultColorDepth = "4-Bit";
+    DefaultColorDepth = ColorDepth::Bits4;
     IconTable = { { "Alpha (Large Icon)", "tAIB3500", "tAIB3500.bmp", "NEW", 1, "APP" } };
     WriteBytes(WorkPath("tAIB3500.bmp"), EncodeBmp24(vypx::Picture(16, 1)));
     VersionString.assign(0x80000 - 150, 'x'); // brings the index to 0x80000 - 6
@@ -179,7 +179,7 @@ TEST_F(RoundTrip, NetpbmReadsEveryRecord)
         WriteBytes(folder.File("record.palm"), record);
         return Reduced(PictureFrom("palmtopnm -quiet " + folder.File("record.palm")));
     };
-    for (const char* depth : { "4-Bit", "8-Bit", "16-Bit" })
+    for (const ColorDepth depth : { ColorDepth::Bits4, ColorDepth::Bits8, ColorDepth::Bits16 })
         for (const bool packed : { false, true }) {
             DefaultColorDepth = depth;
             UsePackbits = packed;
@@ -198,12 +198,12 @@ TEST_F(RoundTrip, NetpbmReadsEveryRecord)
             Bytes high(family.begin() + mark + 16, family.end());
             EXPECT_EQ((low[6] & 0x80) != 0, packed);
             EXPECT_EQ((high[6] & 0x80) != 0, packed);
-            if (packed && DefaultColorDepth == "16-Bit") {
+            if (packed && DefaultColorDepth == ColorDepth::Bits16) {
                 low = WithPlainPixels(low, 24, 2);
                 high = WithPlainPixels(high, 24, 4);
             }
-            EXPECT_EQ(read(low), Reduced(pictures["tAIB3500.bmp"])) << depth << packed;
-            EXPECT_EQ(read(high), Reduced(pictures["tAIB3500-d144.bmp"])) << depth << packed;
+            EXPECT_EQ(read(low), Reduced(pictures["tAIB3500.bmp"])) << BitsOf(depth) << packed;
+            EXPECT_EQ(read(high), Reduced(pictures["tAIB3500-d144.bmp"])) << BitsOf(depth) << packed;
         }
 }
 

@@ -32,6 +32,21 @@ for room in */; do
     fi
 done
 
+# Upstairs: a room of src/forms/ knows what all windows share, and itself; the main form knows all.
+declare -A upstairs=(
+    [common]="common"
+    [imaging]="imaging common"
+    [settings]="settings common"
+    [main]="main imaging settings common"
+)
+while IFS=: read -r file line text; do
+    room=${file#forms/}
+    room=${room%%/*}
+    other=$(sed -E 's/.*"forms\/([^"\/]+)\/.*/\1/' <<<"$text")
+    [[ " ${upstairs[$room]:-} " == *" $other "* ]] ||
+        { echo "src/$file:$line: forms/$room must not include $other"; bad=1; }
+done < <(grep -rnE '^#include "forms/' forms --include='*.h' --include='*.cpp' || true)
+
 # tsort names the circles among headers.
 edges=$(grep -rnoE '^#include "[a-z]+/[A-Za-z0-9_]+\.h"' --include='*.h' . |
     sed -E 's/^\.\/([^:]+):[0-9]+:#include "([^"]+)"/\1 \2/')

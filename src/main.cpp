@@ -1,5 +1,5 @@
-#include "forms/Ask.h"
-#include "forms/MDIForm1.h"
+#include "forms/common/Ask.h"
+#include "forms/main/MDIForm1.h"
 
 #include <QApplication>
 #include <QStandardPaths>

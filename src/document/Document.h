@@ -21,6 +21,24 @@
 ///   changed       also IconsetChanged true
 namespace vypx {
 
+/// Whether the document differs from what was last read or saved. Set like a boolean; it counts how
+/// often a change was said, so that somebody who asked about the changes learns of later ones.
+class ChangeMark {
+public:
+    ChangeMark& operator=(bool changed)
+    {
+        m_changed = changed;
+        m_times += changed ? 1 : 0;
+        return *this;
+    }
+    operator bool() const { return m_changed; }
+    unsigned Times() const { return m_times; }
+
+private:
+    bool m_changed = false;
+    unsigned m_times = 0;
+};
+
 /// One row of `BitmapTable`: a decoded bitmap. A transparent colour belongs to a file, not to an
 /// icon. Cells are empty as long as nobody wrote them.
 struct BitmapEntry {
@@ -66,7 +84,7 @@ inline std::string Parent;       ///< database name as read: key and text of the
 inline std::string DatabaseName; ///< database name of the document, 31 characters at most
 inline std::string FileName;     ///< path of the open iconset; empty for a new one not yet saved
 inline bool FileLoaded = false;
-inline bool IconsetChanged = false; ///< the document differs from what was last read or saved
+inline ChangeMark IconsetChanged;
 inline bool TemplateMode = false;   ///< LoadFile reads a template; lives for one call
 inline bool SkipOpenDialog = false; ///< FileName is set already; lives for one call of LoadFile
 inline bool DroppedFile = false;    ///< DroppedFileName replaces the file dialog

@@ -46,7 +46,8 @@ std::vector<std::string> PiecesOf(std::string_view list)
 }
 
 /// From index 1 on.
-void Deliver(std::vector<std::string> names, std::vector<std::string>& list, std::int32_t& count)
+void ListFromOne(
+    std::vector<std::string> names, std::vector<std::string>& list, std::int32_t& count)
 {
     count = static_cast<std::int32_t>(names.size());
     list.assign(1, {});
@@ -120,14 +121,14 @@ std::string cInifile::Sections() const
 
 void cInifile::EnumerateCurrentSection(std::vector<std::string>& sKey, std::int32_t& iCount) const
 {
-    Deliver(PiecesOf(INISection()), sKey, iCount);
+    ListFromOne(PiecesOf(INISection()), sKey, iCount);
 }
 
 void cInifile::EnumerateAllSections(std::vector<std::string>& sSections, std::int32_t& iCount) const
 {
     std::vector<std::string> names = PiecesOf(Sections());
     std::erase(names, std::string());
-    Deliver(std::move(names), sSections, iCount);
+    ListFromOne(std::move(names), sSections, iCount);
 }
 
 void cInifile::SaveFormPosition(const Placement& frmThis)

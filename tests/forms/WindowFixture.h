@@ -3,9 +3,9 @@
 #include "document/Catalogs.h"
 #include "document/Document.h"
 #include "document/WorkingFolder.h"
-#include "forms/Form1.h"
-#include "forms/IconTreeView.h"
-#include "forms/MDIForm1.h"
+#include "forms/main/Form1.h"
+#include "forms/main/IconTreeView.h"
+#include "forms/main/MDIForm1.h"
 #include "settings/Settings.h"
 #include "support/Files.h"
 #include "support/Iconsets.h"
@@ -14,6 +14,8 @@
 
 #include <QAction>
 #include <QCoreApplication>
+#include <QGroupBox>
+#include <QLabel>
 #include <QTest>
 #include <memory>
 
@@ -52,6 +54,13 @@ protected:
         return *found;
     }
     QAction& Entry(const QString& name) { return Find<QAction>(name); }
+    /// Whether the button or menu entry of that name is enabled.
+    bool CanUse(const QString& name)
+    {
+        if (const auto* control = frame->findChild<QWidget*>(name))
+            return control->isEnabled();
+        return Entry(name).isEnabled();
+    }
     IconTreeView& Nodes() { return Find<IconTreeView>("TreeView1"); }
     QString Status(int panel)
     {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/Ask.h"
+#include "forms/common/Ask.h"
 
 #include <deque>
 #include <functional>

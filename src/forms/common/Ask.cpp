@@ -1,0 +1,104 @@
+#include "forms/common/Ask.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+
+namespace vypx {
+
+QMessageBox::StandardButton ScreenAsk::Show(QWidget* parent, const Box& box)
+{
+    QMessageBox shown(box.icon, box.title, QString(), box.buttons, parent);
+    shown.setTextFormat(Qt::PlainText);
+    shown.setText(box.text);
+    return static_cast<QMessageBox::StandardButton>(shown.exec());
+}
+
+namespace {
+
+std::optional<QString> Chosen(
+    QFileDialog& dialog, const QString& folder, const QStringList& filters)
+{
+    dialog.setNameFilters(filters);
+    dialog.setDirectory(folder.isEmpty() ? QDir::currentPath() : folder);
+    const bool accepted = dialog.exec() == QDialog::Accepted;
+    // After a question of its own some window managers leave no window active.
+    if (QWidget* const parent = dialog.parentWidget())
+        parent->window()->activateWindow();
+    if (!accepted)
+        return std::nullopt;
+    return dialog.selectedFiles().value(0);
+}
+
+/// One line that is cut in its middle where it is too long for its width, which it never widens.
+class CutLabel : public QLabel {
+public:
+    explicit CutLabel(QWidget* parent)
+        : QLabel(parent)
+    {
+        setTextFormat(Qt::PlainText);
+        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    }
+
+    void Show(const QString& text)
+    {
+        m_whole = text;
+        setText(fontMetrics().elidedText(text, Qt::ElideMiddle, width()));
+    }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override
+    {
+        QLabel::resizeEvent(event);
+        Show(m_whole);
+    }
+
+private:
+    QString m_whole;
+};
+
+/// Below the fields of a dialog that saves: the name of the file that will be written, with the
+/// ending that a name without one gets.
+void ShowNameToBeWritten(QFileDialog& dialog)
+{
+    auto* const layout = qobject_cast<QGridLayout*>(dialog.layout());
+    const auto* const edit = dialog.findChild<QLineEdit*>("fileNameEdit");
+    if (!layout || !edit)
+        return;
+    auto* const note = new CutLabel(&dialog);
+    note->setObjectName("lblNameToBeWritten");
+    layout->addWidget(note, layout->rowCount(), 0, 1, -1);
+    QObject::connect(edit, &QLineEdit::textChanged, note, [&dialog, note](const QString& typed) {
+        const QFileInfo file(dialog.selectedFiles().value(0));
+        const bool isName = !typed.isEmpty() && !file.isDir();
+        note->Show(isName ? QObject::tr("Will be written as %1").arg(file.fileName()) : QString());
+    });
+}
+
+} // namespace
+
+QString ScreenAsk::OpenFile(QWidget* parent, const OpenQuestion& question)
+{
+    QFileDialog dialog(parent, question.title);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setOption(QFileDialog::ReadOnly); // it chooses a file; it renames and deletes none
+    return Chosen(dialog, question.folder, question.filters).value_or(QString());
+}
+
+std::optional<QString> ScreenAsk::SaveFile(QWidget* parent, const SaveQuestion& question)
+{
+    QFileDialog dialog(parent, question.title);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(question.defaultEnding);
+    // Dialogs of some desktops ask about the name without the ending that it is then given.
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    ShowNameToBeWritten(dialog);
+    return Chosen(dialog, question.folder, question.filters);
+}
+
+} // namespace vypx

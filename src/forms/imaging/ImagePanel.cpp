@@ -1,0 +1,179 @@
+#include "forms/imaging/ImagePanel.h"
+
+#include "document/Document.h"
+#include "document/WorkingFolder.h"
+#include "forms/common/DropTarget.h"
+#include "forms/common/Look.h"
+#include "forms/common/Text.h"
+#include "forms/imaging/PictureFile.h"
+#include "ui_ImagePanel.h"
+
+#include <QEvent>
+#include <algorithm>
+
+namespace vypx {
+
+namespace {
+
+/// Of the bitmaps with that path the last one says whether it declares a transparent colour.
+bool DeclaresTransparent(const std::string& path)
+{
+    bool declares = false;
+    for (const BitmapEntry& bitmap : BitmapTable)
+        if (!bitmap.file.empty() && bitmap.hasTransparent && WorkPath(bitmap.file) == path)
+            declares = *bitmap.hasTransparent == 1;
+    return declares;
+}
+
+} // namespace
+
+ImagePanel::ImagePanel(const vypx::Slot& slot, PictureBox& imageBuffer, QWidget* parent)
+    : QGroupBox(parent)
+    , m_ui(std::make_unique<Ui::ImagePanel>())
+    , m_slot(slot)
+    , m_imageBuffer(imageBuffer)
+{
+    m_ui->setupUi(this);
+    NameBySlot();
+    m_ui->picXXfrm->installEventFilter(this);
+    for (QWidget* target :
+        std::initializer_list<QWidget*>{ this, m_ui->frameTC_XX, m_ui->picXXfrm, m_ui->picXX })
+        TakeDrops(*target, [this](const QMimeData& files) { emit FilesDropped(files); });
+}
+
+ImagePanel::~ImagePanel() = default;
+
+/// The slot's letters stand for "XX" in names, its resolution for "%1" and "%2" in texts.
+void ImagePanel::NameBySlot()
+{
+    const QString letters = FromLatin1(m_slot.letters), words = FromLatin1(m_slot.resolution);
+    const QString adjective = words.toLower().replace(' ', '-'); // "high-res"
+    const auto named = [&](const QString& text) {
+        return QString(text).replace("%1", words).replace("%2", adjective);
+    };
+    // The two panels stand level, though one has a row of commands more.
+    const int lastRow =
+        m_ui->cmdCreateLowRes->sizeHint().height() + m_ui->commandsXXLayout->verticalSpacing();
+    m_ui->commandsXXLayout->setRowMinimumHeight(3, lastRow);
+    const auto& commands = m_slot.ofPicture;
+    if (std::find(commands.begin(), commands.end(), Command::CreateLowRes) == commands.end())
+        delete m_ui->cmdCreateLowRes;
+    setObjectName("frame" + letters);
+    setTitle(words);
+    for (QWidget* control : findChildren<QWidget*>()) {
+        control->setObjectName(control->objectName().replace("XX", letters));
+        control->setToolTip(named(control->toolTip()));
+        control->setAccessibleName(named(control->accessibleName()));
+    }
+}
+
+void ImagePanel::Draw()
+{
+    m_slot.hasTransparent = false;
+    m_ui->lbl_XXsize->clear();
+    if (!m_slot.loaded || m_slot.path.empty() || !FileExists(m_slot.path))
+        return;
+    m_ui->lbl_XXsize->setText(SizeText(m_slot.path));
+    m_slot.hasTransparent = DeclaresTransparent(m_slot.path);
+    ClearPicture();
+
+    const QImage picture(PathText(m_slot.path));
+    m_imageBuffer.SetPicture(picture);
+    m_ui->picXX->resize(picture.size());
+    CentrePicture();
+    ShowColour(m_slot.hasTransparent);
+    const bool masks = TransparentUse && m_slot.hasTransparent;
+    m_ui->picXX->SetPicture(masks ? Masked(picture, m_slot.Mask()) : picture);
+}
+
+void ImagePanel::Show(const SlotEffects& effects)
+{
+    ClearPicture();
+    m_ui->lbl_XXsize->clear();
+    m_ui->lblXX_Size->setText(FromLatin1(effects.sizeLimit));
+    if (effects.colourText)
+        m_ui->lblC_RGB_XX->setText(FromLatin1(*effects.colourText));
+    if (effects.swatch)
+        m_ui->picColSwatchXX->SetBackColour(ScreenColour(*effects.swatch));
+    if (effects.showsColour)
+        ShowColour(*effects.showsColour);
+    if (effects.draw)
+        Draw();
+    if (effects.hidesColour)
+        HideColour();
+}
+
+void ImagePanel::ClearPicture()
+{
+    m_ui->picXX->SetPicture({});
+    m_ui->picXX->resize(0, 0);
+    m_ui->picXXfrm->SetPicture({});
+}
+
+void ImagePanel::ClearSizeLimit() { m_ui->lblXX_Size->clear(); }
+
+void ImagePanel::ClearTexts()
+{
+    m_ui->lbl_XXsize->clear();
+    m_ui->lblC_RGB_XX->clear();
+    m_ui->picColSwatchXX->setVisible(false);
+}
+
+void ImagePanel::Clear()
+{
+    ClearPicture();
+    ClearSizeLimit();
+    ClearTexts();
+    HideColour();
+}
+
+void ImagePanel::PaintBackground(const QColor& colour)
+{
+    m_ui->picXXfrm->SetBackColour(colour);
+    m_ui->picXX->SetBackColour(colour);
+    m_ui->picColSwatchXX->SetBackColour(ScreenColour(ChromeColour));
+    ReserveColourWidth();
+}
+
+/// The colour's swatch and text, or the words that there is none.
+void ImagePanel::ShowColour(bool hasTransparent)
+{
+    m_ui->picColSwatchXX->setVisible(hasTransparent);
+    m_ui->lblC_RGB_XX->setVisible(hasTransparent);
+    m_ui->lblNoTransparentXX->setVisible(!hasTransparent);
+}
+
+void ImagePanel::HideColour()
+{
+    m_ui->picColSwatchXX->setVisible(false);
+    m_ui->lblC_RGB_XX->setVisible(false);
+    m_ui->lblNoTransparentXX->setVisible(false);
+}
+
+/// Keeps room for the longest text of a colour, so that no selection moves the panels.
+void ImagePanel::ReserveColourWidth()
+{
+    const QFontMetrics metrics = m_ui->lblC_RGB_XX->fontMetrics();
+    m_ui->lblC_RGB_XX->setMinimumWidth(metrics.horizontalAdvance("255, 255, 255"));
+    ShowColour(true);
+    m_ui->frameTC_XX->setMinimumWidth(m_ui->frameTC_XX->minimumSizeHint().width());
+    HideColour();
+}
+
+/// On purpose: two separate halvings, which may put the picture one pixel off the middle.
+void ImagePanel::CentrePicture()
+{
+    const PictureBox &box = *m_ui->picXXfrm, &picture = *m_ui->picXX;
+    m_ui->picXX->move(
+        box.width() / 2 - picture.width() / 2, box.height() / 2 - picture.height() / 2);
+}
+
+/// The box grows with the window; its picture stays in the middle.
+bool ImagePanel::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Resize)
+        CentrePicture();
+    return QGroupBox::eventFilter(watched, event);
+}
+
+} // namespace vypx

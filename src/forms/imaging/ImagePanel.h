@@ -1,0 +1,64 @@
+#pragma once
+
+#include "document/Selection.h"
+#include "forms/imaging/PictureBox.h"
+
+#include <QGroupBox>
+#include <memory>
+
+class QMimeData;
+
+namespace Ui {
+class ImagePanel;
+}
+
+namespace vypx {
+
+/// One of the two panels, `frameLG` or `frameSM`: shows the picture of one slot of the selected
+/// icon on the background colour, tells its size and transparent colour, and has the commands for
+/// it. Its controls are named by the slot's letters, as in `picLG`. It knows nothing of the other
+/// panel.
+class ImagePanel : public QGroupBox {
+    Q_OBJECT
+
+public:
+    /// `imageBuffer` (ImageBUF) is the hidden box through which pictures are loaded.
+    ImagePanel(const Slot& slot, PictureBox& imageBuffer, QWidget* parent = nullptr);
+    ~ImagePanel() override;
+
+    const vypx::Slot& Shows() const { return m_slot; }
+
+    /// Shows the picture that the slot's fields of the document name; clears the size text if
+    /// there is none.
+    void Draw();
+    /// What a selection brings: texts, swatch, picture.
+    void Show(const SlotEffects& effects);
+
+    void ClearPicture();
+    void ClearSizeLimit();
+    /// The size text, the colour's text and its swatch, as when a load begins.
+    void ClearTexts();
+    /// Nothing of a picture or of an icon is left.
+    void Clear();
+
+    /// Background of the picture and of its box; the chrome colour in the swatch.
+    void PaintBackground(const QColor& colour);
+
+signals:
+    /// Files were dropped on the panel.
+    void FilesDropped(const QMimeData& files);
+
+private:
+    void NameBySlot();
+    void ShowColour(bool hasTransparent);
+    void HideColour();
+    void ReserveColourWidth();
+    void CentrePicture();
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+    std::unique_ptr<Ui::ImagePanel> m_ui;
+    const vypx::Slot& m_slot;
+    PictureBox& m_imageBuffer;
+};
+
+} // namespace vypx

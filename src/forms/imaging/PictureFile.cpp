@@ -1,0 +1,36 @@
+#include "forms/imaging/PictureFile.h"
+
+#include "forms/common/Look.h"
+#include "platform/Platform.h"
+
+namespace vypx {
+
+QString SizeText(const std::string& path)
+{
+    constexpr std::size_t WidthOffset = 18, HeightOffset = 22;
+    const auto file = platform::ReadWholeFile(path);
+    if (!file || file->size() < HeightOffset + 4)
+        return {};
+    const auto number = [&](std::size_t offset) {
+        const std::uint8_t* const byte = file->data() + offset;
+        return static_cast<std::int32_t>(static_cast<std::uint32_t>(byte[0])
+            | static_cast<std::uint32_t>(byte[1]) << 8 | static_cast<std::uint32_t>(byte[2]) << 16
+            | static_cast<std::uint32_t>(byte[3]) << 24);
+    };
+    return QString("%1 x %2 pixels").arg(number(WidthOffset)).arg(number(HeightOffset));
+}
+
+QImage Masked(const QImage& picture, Rgb mask)
+{
+    QImage masked = picture.convertToFormat(QImage::Format_ARGB32);
+    const QRgb hole = ScreenColour(mask).rgb();
+    for (int y = 0; y < masked.height(); ++y) {
+        auto* const row = reinterpret_cast<QRgb*>(masked.scanLine(y));
+        for (int x = 0; x < masked.width(); ++x)
+            if ((row[x] | 0xFF000000u) == hole)
+                row[x] = 0;
+    }
+    return masked;
+}
+
+} // namespace vypx

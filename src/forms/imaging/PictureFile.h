@@ -1,0 +1,18 @@
+#pragma once
+
+#include "companion/Rgb.h"
+
+#include <QImage>
+#include <QString>
+#include <string>
+
+namespace vypx {
+
+/// Width and height fields of a BMP file as a text, "64 x 44 pixels"; empty for a file that is too
+/// short for them.
+QString SizeText(const std::string& path);
+
+/// The picture with every pixel of exactly the mask's colour let through.
+QImage Masked(const QImage& picture, Rgb mask);
+
+} // namespace vypx

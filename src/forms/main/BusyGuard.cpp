@@ -1,0 +1,71 @@
+#include "forms/main/BusyGuard.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <utility>
+
+namespace vypx {
+
+namespace {
+
+bool IsDrop(QEvent::Type type)
+{
+    return type == QEvent::DragEnter || type == QEvent::DragMove || type == QEvent::Drop;
+}
+
+bool IsUserInput(QEvent::Type type)
+{
+    switch (type) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::Shortcut:
+    case QEvent::ShortcutOverride:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::Wheel:
+    case QEvent::ContextMenu:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+        return true;
+    default:
+        return IsDrop(type);
+    }
+}
+
+} // namespace
+
+BusyGuard::BusyGuard() { qApp->installEventFilter(this); }
+
+void BusyGuard::Run(const std::function<void()>& work)
+{
+    ++m_depth;
+    try {
+        work();
+    } catch (...) {
+        --m_depth;
+        throw;
+    }
+    if (--m_depth > 0)
+        return;
+    if (const auto act = std::exchange(m_whenIdle, {}))
+        act();
+}
+
+void BusyGuard::WhenIdle(std::function<void()> act)
+{
+    if (IsBusy())
+        m_whenIdle = std::move(act);
+    else
+        act();
+}
+
+bool BusyGuard::eventFilter(QObject*, QEvent* event)
+{
+    const QEvent::Type type = event->type();
+    return IsBusy() && IsUserInput(type) && (IsDrop(type) || !QApplication::activeModalWidget());
+}
+
+} // namespace vypx

@@ -1,0 +1,86 @@
+#include "forms/main/CommandTable.h"
+
+#include <vector>
+
+namespace vypx {
+
+namespace {
+
+constexpr bool Built = true, NotBuiltYet = false;
+
+std::vector<CommandRow> Rows()
+{
+    using enum Command;
+    const QKeySequence none;
+    // clang-format off
+    return {
+        { New, "mnuNew", "&New Iconset", QKeySequence::New, Built, When::Always },
+        { Open, "mnuOpen", "&Open IconSet", QKeySequence::Open, Built, When::Always },
+        { CloseIconset, "mnuCloseIconset", "&Close Iconset", QKeySequence::Close, Built, When::Document },
+        { Save, "mnuSave", "&Save", QKeySequence::Save, Built, When::Document },
+        { SaveAs, "mnuSaveAs", "S&ave As", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), Built, When::Document },
+        { SaveAndInstall, "mnuSaveandInstall", "Save and &Install", none, NotBuiltYet, When::Document },
+        { LoadTemplate, "mnuLoadTemplate", "&Load Template", none, NotBuiltYet, When::Always },
+        { ExportTemplate, "mnuExportTemplate", "&Export Template", none, NotBuiltYet, When::Document },
+        // No key: it asks nothing, and Ctrl+Q is beside Ctrl+W.
+        { Exit, "mnuExit", "&Exit", none, Built, When::Always },
+        { ShowPreviewOptions, "mnuShowPrevOpt", "Show Preview Options", none, NotBuiltYet, When::Always },
+        { ShowIconStats, "mnuShowIconStats", "Show Icon Stats", none, NotBuiltYet, When::Always },
+        { ShowShared, "mnuShowShared", "Show Shared Icons", none, NotBuiltYet, When::Always },
+        { ShowBoth, "mnuShowBoth", "Show &Both High and Low Res Icons", none, Built, When::Always, true },
+        { HideLowRes, "mnuHideLowRes", "Show Only &High Res Icons", none, Built, When::Always, true },
+        { HideHighRes, "mnuHideHighRes", "Show Only &Low Res Icons", none, Built, When::Always, true },
+        { RemoveLowRes, "mnuRemoveLR", "Remove All Low Res Images", none, NotBuiltYet, When::Document },
+        { RemoveHighRes, "mnuRemoveHR", "Remove All High Res Images", none, NotBuiltYet, When::Document },
+        { Options, "mnuOptions", "&Program Options", none, Built, When::Always },
+        { Tips, "mnuTips", "&Tip of the Day", none, NotBuiltYet, When::Always },
+        { Manual, "mnuManual", "&Show VY Pixelworks Help", none, NotBuiltYet, When::Always },
+        { About, "mnuAbout", "About VY Pixelworks", none, NotBuiltYet, When::Always },
+        { ArrangeWindows, "mnuArrangeWin", "&Arrange Windows", none, NotBuiltYet, When::Always },
+        { AddIcon, "cmdAddIcon", "Add Icon", none, NotBuiltYet, When::Document },
+        { AssignApp, "cmdAssignApp", "Change / Share", none, NotBuiltYet, When::Icon },
+        { RemoveIcon, "cmdRemoveIcon", "&Remove Selected", none, Built, When::Icon },
+        { ClearDeleted, "cmdClrDeleted", "Clear &Deleted", none, Built, When::Icon },
+        { ChangeDatabaseName, "cmdChangeDataBaseName", "Change Palm Iconset Name", none, Built, When::Root },
+        { EditAppList, "cmdEditAppList", "Edit App List", none, NotBuiltYet, When::Always },
+        { PanelLG, "frameLG", "", none, Built, When::Always },
+        { ImportLG, "cmdImportLG", "&Import...", none, NotBuiltYet, When::Icon },
+        { ExportLG, "cmdSaveLG", "E&xport...", none, NotBuiltYet, When::Icon },
+        { CopyLG, "cmdCopyClipLG", "&Copy", none, NotBuiltYet, When::Icon },
+        { PasteLG, "cmdPastePicLG", "&Paste", none, NotBuiltYet, When::Icon },
+        { DeleteLG, "cmdDelLG", "De&lete", none, NotBuiltYet, When::Icon },
+        { UndoLG, "cmdUndoLG", "&Undo", none, NotBuiltYet, When::Icon },
+        { ChangeColourLG, "cmdChangeTC_LG", "Chan&ge...", none, NotBuiltYet, When::Icon },
+        { CreateLowRes, "cmdCreateLowRes", "Create Low Res", none, NotBuiltYet, When::Icon },
+        { MenuUndoLG, "mnuUndo_LG", "Undo", none, NotBuiltYet, When::Icon },
+        { MenuCopyLG, "mnuCopyLG", "Copy", none, NotBuiltYet, When::Icon },
+        { MenuPasteLG, "mnuPasteLG", "Paste", none, NotBuiltYet, When::Icon },
+        { PanelSM, "frameSM", "", none, Built, When::Always },
+        { ImportSM, "cmdImportSM", "I&mport...", none, NotBuiltYet, When::Icon },
+        { ExportSM, "cmdSaveSM", "Exp&ort...", none, NotBuiltYet, When::Icon },
+        { CopySM, "cmdCopyClipSM", "Cop&y", none, NotBuiltYet, When::Icon },
+        { PasteSM, "cmdPastePicSM", "P&aste", none, NotBuiltYet, When::Icon },
+        { DeleteSM, "cmdDelSM", "Dele&te", none, NotBuiltYet, When::Icon },
+        { UndoSM, "cmdUndoSM", "U&ndo", none, NotBuiltYet, When::Icon },
+        { ChangeColourSM, "cmdChangeTC_SM", "Change...", none, NotBuiltYet, When::Icon },
+        { MenuUndoSM, "mnuUndo_SM", "Undo", none, NotBuiltYet, When::Icon },
+        { MenuCopySM, "mnuCopySM", "Copy", none, NotBuiltYet, When::Icon },
+        { MenuPasteSM, "mnuPasteSM", "Paste", none, NotBuiltYet, When::Icon },
+    };
+    // clang-format on
+}
+
+} // namespace
+
+std::span<const CommandRow> CommandRows()
+{
+    static const std::vector<CommandRow> rows = Rows();
+    return rows;
+}
+
+const CommandRow& RowOf(Command command)
+{
+    return CommandRows()[static_cast<std::size_t>(command)];
+}
+
+} // namespace vypx

@@ -1,0 +1,295 @@
+#include "forms/main/Documents.h"
+
+#include "document/Document.h"
+#include "document/IconStats.h"
+#include "document/WorkingFolder.h"
+#include "forms/common/Text.h"
+#include "forms/main/frmNewIconset.h"
+#include "forms/settings/frmSelectCDepth.h"
+#include "settings/Settings.h"
+
+#include <utility>
+
+namespace vypx {
+
+Documents::Documents(const View& view, Ask& ask, BusyGuard& busy, LoadWatcher& watcher,
+    IconCommands& icons, SettingsWindows& settings)
+    : m_view(view)
+    , m_ask(ask)
+    , m_busy(busy)
+    , m_watcher(watcher)
+    , m_icons(icons)
+    , m_settings(settings)
+{
+    view.commands.Connect(Command::New, this, &Documents::New);
+    view.commands.Connect(Command::Open, this, &Documents::Open);
+    view.commands.Connect(Command::CloseIconset, this, &Documents::Close);
+    connect(&settings, &SettingsWindows::DepthDone, this, &Documents::GoOn);
+    connect(&watcher, &LoadWatcher::DocumentOpened, this, &Documents::DocumentOpened);
+    connect(&watcher, &LoadWatcher::Cleared, &icons, &IconCommands::ShowTree);
+    connect(&watcher, &LoadWatcher::Counted, &icons, &IconCommands::ShowCount);
+}
+
+/// The question before a changed document is left. On purpose: Yes never saves.
+bool Documents::MayLeave(Leaving command)
+{
+    const bool opens = command == Leaving::ForOpen;
+    const bool asks = IconsetChanged && (opens ? StatHighRes != 0 || StatLowRes != 0 : FileLoaded);
+    auto answer = QMessageBox::No;
+    if (asks)
+        answer = m_ask.Show(&m_view.form,
+            { .text = "The current iconset may have been changed.\n\nSave the current iconset?",
+                .title = "Save Changes?",
+                .icon = QMessageBox::Information,
+                .buttons = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel });
+    if (opens && answer == QMessageBox::Yes)
+        m_ask.Show(&m_view.form, { .text = "Not in this version :-( " });
+    m_changesWhenAsked = IconsetChanged.Times();
+    return answer == QMessageBox::No;
+}
+
+bool Documents::ChangedSinceAsked() const { return IconsetChanged.Times() != m_changesWhenAsked; }
+
+void Documents::New()
+{
+    if (!MayLeave(Leaving::ForNew))
+        return;
+    m_view.commands.Enable(
+        { Command::AddIcon, Command::RemoveIcon, Command::AssignApp, Command::ClearDeleted },
+        false);
+    PendingOpen = false;
+    PendingNew = true;
+    if (PromptColorDepth)
+        m_settings.AskForDepth();
+    else
+        ShowNewIconset();
+    for (ImagePanel* panel : m_view.panels)
+        panel->ClearPicture();
+    m_icons.UpdateIconStats();
+}
+
+void Documents::Open()
+{
+    m_view.commands.Enable(Command::ChangeDatabaseName, false);
+    const bool wasPendingNew = std::exchange(PendingNew, false);
+    for (ImagePanel* panel : m_view.panels)
+        panel->ClearSizeLimit();
+    if (!MayLeave(Leaving::ForOpen)) {
+        // The depth window that stands open for another command still leads there.
+        PendingNew = wasPendingNew && m_settings.AsksForDepth();
+        return;
+    }
+    PendingOpen = true;
+    if (PromptColorDepth)
+        m_settings.AskForDepth();
+    else
+        LoadFile();
+}
+
+/// The depth is chosen: on to what was asked for.
+void Documents::GoOn()
+{
+    if (PendingNew)
+        ShowNewIconset();
+    if (!PendingOpen)
+        return;
+    if (ChangedSinceAsked() && !MayLeave(Leaving::ForOpen))
+        GiveUp();
+    else
+        LoadFile();
+}
+
+/// No document came of the command: the open one keeps its depth and resolution.
+void Documents::GiveUp()
+{
+    if (FileLoaded)
+        m_settings.TakeBackChoices();
+    else
+        m_settings.KeepChoices();
+}
+
+void Documents::ShowNewIconset()
+{
+    if (!m_newIconset) {
+        m_newIconset = new frmNewIconset(&m_view.form);
+        connect(m_newIconset, &frmNewIconset::Done, this, &Documents::MakeNewIconset);
+        connect(m_newIconset, &frmNewIconset::GivenUp, this, &Documents::GiveUp);
+    }
+    BringUp(*m_newIconset);
+}
+
+void Documents::MakeNewIconset(const QString& name)
+{
+    if (ChangedSinceAsked() && !MayLeave(Leaving::ForNew)) {
+        GiveUp();
+        return;
+    }
+    if (!name.isEmpty()) {
+        Parent = DatabaseName = ToLatin1(name);
+        Tree.Clear();
+        Tree.SetRoot(Parent);
+        m_icons.ShowTree();
+        FileLoaded = true;
+        m_view.commands.Enable(When::Document, true);
+        m_view.commands.Enable({ Command::PanelLG, Command::PanelSM }, true);
+        FileName.clear();
+        m_view.status.ShowFileName(FileName);
+        m_view.status.ShowDatabaseName(DatabaseName);
+        EmptyTables();
+        DocumentBegan();
+    } else if (!FileLoaded) {
+        // What is left of a closed or a half-read file must never be saved over it.
+        FileName.clear();
+        Tree.Clear();
+        m_icons.ShowTree();
+        EmptyTables();
+        DocumentBegan();
+    }
+    // On purpose: without a name as well.
+    FileLoaded = true;
+    m_view.commands.Enable({ Command::RemoveLowRes, Command::RemoveHighRes }, true);
+    m_icons.UpdateIconStats(); // or a save would judge the new iconset by the icons of the old one
+}
+
+void Documents::Close()
+{
+    if (IconsetChanged) {
+        const auto answer = m_ask.Show(&m_view.form,
+            { .text =
+                    "The current iconset has been modified.\n\nAre you sure you want to close it?",
+                .title = "Current Iconset Was Changed!",
+                .icon = QMessageBox::Warning,
+                .buttons = QMessageBox::Ok | QMessageBox::Cancel });
+        if (answer != QMessageBox::Ok)
+            return;
+    }
+    EndDocument();
+}
+
+/// There is no document any more; the status bar keeps its texts.
+void Documents::EndDocument()
+{
+    Tree.Clear();
+    m_icons.ShowTree();
+    m_view.commands.Enable(When::Document, false);
+    m_view.commands.Enable(Command::ClearDeleted, false);
+    FileLoaded = false;
+    m_view.notes.DocumentEnded();
+    EmptyTables();
+    Itbl.assign(1, {});
+    FileCashe.assign(1, 0);
+    IconsetChanged = false;
+    m_icons.UpdateIconStats();
+}
+
+/// There are no icons any more, no pictures on show and no commands for them.
+void Documents::EmptyTables()
+{
+    IconTable.assign(1, {});
+    BitmapTable.assign(1, {});
+    BitmapRow = 0;
+    ShareNames.assign(1, {});
+    ClearSlots();
+    for (ImagePanel* panel : m_view.panels)
+        panel->Clear();
+    m_icons.OfferNothing();
+}
+
+void Documents::LoadFile()
+{
+    if (m_busy.IsBusy())
+        return;
+    for (ImagePanel* panel : m_view.panels)
+        panel->ClearPicture();
+    m_icons.DisableSlotCommands();
+    const std::optional<std::string> path = ChooseIconset();
+    if (!path) {
+        LeaveFailedLoad();
+        m_watcher.End();
+        m_view.status.ShowTitle();
+        GiveUp();
+        return;
+    }
+    m_busy.Run([&] {
+        const LoadResult result = Load(*path);
+        if (result == LoadResult::Failed)
+            NoDocumentAfter(*path);
+        if (result == LoadResult::Recovered) {
+            m_view.notes.DocumentEnded();
+            m_view.commands.Enable({ Command::AddIcon, Command::ClearDeleted }, false);
+            m_icons.OfferNothing();
+        }
+        if (result != LoadResult::WrongFileType)
+            m_icons.ShowTree();
+        if (result != LoadResult::Opened)
+            GiveUp();
+        m_watcher.End();
+        const QString more = m_watcher.WhatWasNotShown();
+        if (!more.isEmpty())
+            m_view.notes.Tell(Notes::Kind::Load, more);
+        m_icons.ShowCount();
+        m_view.tree.setFocus(); // which passed to another control while the tree was hidden
+    });
+}
+
+/// What goes wrong beyond what a bad file can do ends the load as well.
+LoadResult Documents::Load(const std::string& path)
+{
+    m_watcher.Begin();
+    try {
+        return vypx::LoadFile(path, m_watcher);
+    } catch (const std::exception&) {
+        FileLoaded = false;
+        LeaveFailedLoad();
+        return LoadResult::Failed;
+    }
+}
+
+/// A load failed without words.
+void Documents::NoDocumentAfter(const std::string& path)
+{
+    EndDocument();
+    m_view.status.Clear();
+    m_view.notes.Tell(
+        Notes::Kind::Load, tr("%1 could not be read.").arg(PathText(LastComponent(path))));
+}
+
+std::optional<std::string> Documents::ChooseIconset()
+{
+    if (SkipOpenDialog)
+        return FileName;
+    if (DroppedFile)
+        return DroppedFileName;
+    OpenQuestion question{
+        .title = TemplateMode ? tr("Load Template") : tr("Open Iconset"),
+        .folder = {},
+        .filters = { TemplateMode ? "VYPX Template File (*.vpt)" : "Vantry Iconset (*.prc *.pdb)" },
+    };
+    if (UseLastDirs && DirExists(LastDirIconsetLoad))
+        question.folder = PathText(LastDirIconsetLoad);
+    const QString chosen = m_ask.OpenFile(&m_view.form, question);
+    if (chosen.isEmpty())
+        return std::nullopt;
+    return chosen.toStdString();
+}
+
+/// One was opened or made: with the depth that was chosen last, wherever.
+void Documents::DocumentBegan()
+{
+    m_settings.KeepChoices();
+    m_settings.ShowDepth();
+    m_view.notes.DocumentEnded();
+}
+
+void Documents::DocumentOpened()
+{
+    DocumentBegan();
+    if (m_newIconset)
+        m_newIconset->close(); // it was asked for in the place of another document
+    m_icons.OfferNothing();    // until an icon of it is clicked
+    m_view.commands.Enable({ Command::PanelLG, Command::PanelSM }, true);
+    m_icons.ShowTree();
+    m_view.commands.Enable(When::Document, true);
+}
+
+} // namespace vypx

@@ -1,0 +1,131 @@
+#include "forms/main/Form1.h"
+
+#include "document/Slot.h"
+#include "forms/common/DropTarget.h"
+#include "forms/main/Documents.h"
+#include "forms/main/FormKeys.h"
+#include "forms/main/Saving.h"
+#include "forms/main/Session.h"
+#include "ui_Form1.h"
+
+#include <QCloseEvent>
+
+/// The pictures lie in a library, where nothing else would pull them in.
+static void InitArt() { Q_INIT_RESOURCE(art); }
+
+namespace vypx {
+
+/// What does the work, in the order in which it is made: each knows those before it.
+struct Form1::Parts {
+    Panels panels;
+    Commands commands;
+    Notes notes;
+    StatusTexts status;
+    ViewEntries views;
+    SavedSettings settings;
+    BusyGuard busy;
+    SettingsWindows windows;
+    IconCommands icons;
+    LoadWatcher watcher;
+    Documents documents;
+    Saving saving;
+    Session session;
+    FormKeys keys;
+
+    Parts(QWidget& frame, Form1& form, Ui::Form1& ui, Ask& ask)
+        : panels{ new ImagePanel(SlotLG, *ui.ImageBUF, &form),
+            new ImagePanel(SlotSM, *ui.ImageBUF, &form) }
+        , commands(frame, form)
+        , notes(*ui.lblNotSaved, *ui.lblNote)
+        , status(*ui.StatusBar1, frame)
+        , views(panels, commands)
+        , settings(frame, ask)
+        , windows(form, commands, views, *ui.lblTargetCD)
+        , icons({ *ui.TreeView1, panels, commands, status, notes, *ui.lblSearchingApp }, ask)
+        , watcher({ form, *ui.TreeView1, panels, status, *ui.lblWorking, *ui.ProgressBar1 }, ask)
+        , documents({ form, *ui.TreeView1, panels, commands, status, notes }, ask, busy, watcher,
+              icons, windows)
+        , saving({ form, commands, status, notes }, ask, icons, settings)
+        , session({ frame, form, panels, commands, views, notes, *ui.lblWorking }, ask, busy,
+              settings, windows)
+        , keys(form, *ui.TreeView1, [this] { icons.RemoveSelected(); })
+    {
+    }
+};
+
+Form1::Form1(QWidget& frame, Ask& ask)
+    : m_ui(std::make_unique<Ui::Form1>())
+{
+    InitArt();
+    m_ui->setupUi(this);
+    m_parts = std::make_unique<Parts>(frame, *this, *m_ui, ask);
+    Parts& parts = *m_parts;
+    for (ImagePanel* panel : parts.panels) {
+        m_ui->panelRowLayout->addWidget(panel);
+        connect(panel, &ImagePanel::FilesDropped, this, &Form1::TakeDrop);
+    }
+    connect(&parts.icons, &IconCommands::Counted, &parts.windows, &SettingsWindows::ShowDepthLock);
+    connect(
+        &parts.watcher, &LoadWatcher::Began, this, [&parts] { parts.views.ShowPanelsByOption(); });
+    connect(&parts.watcher, &LoadWatcher::FolderChosen, this, [&parts] { parts.settings.Save(); });
+    connect(&parts.windows, &SettingsWindows::OptionsDone, this, [&parts] {
+        if (!parts.session.HasEnded()) // an exit saves them itself
+            parts.settings.Save();
+    });
+    ShowKeyImages();
+    TurnOnDrops();
+}
+
+Form1::~Form1() = default;
+
+void Form1::ShowKeyImages()
+{
+    for (const int image : { ImageVY, ImagePalm, ImageApp, ImageUnknown, ImageDelete })
+        findChild<QLabel*>(QString("imgKey%1").arg(image))
+            ->setPixmap(m_ui->TreeView1->Image(image).pixmap(16, 16));
+}
+
+/// The panels turn theirs on by themselves.
+void Form1::TurnOnDrops()
+{
+    for (QWidget* target : std::initializer_list<QWidget*>{
+             this, m_ui->frameKey, m_ui->TreeView1, m_ui->TreeView1->viewport() })
+        TakeDrops(*target, [this](const QMimeData& files) { TakeDrop(files); });
+}
+
+void Form1::StartUp(const QString& programFolder, const QString& userFolder)
+{
+    m_parts->session.StartUp(programFolder, userFolder);
+    m_ui->TreeView1->setFocus();
+}
+
+void Form1::ExitProgram() { m_parts->session.Exit(); }
+
+bool Form1::MayClose()
+{
+    ExitProgram();
+    return m_parts->session.HasEnded();
+}
+
+void Form1::closeEvent(QCloseEvent* event) { event->setAccepted(MayClose()); }
+
+void Form1::mnuNew_Click() { m_parts->documents.New(); }
+void Form1::mnuOpen_Click() { m_parts->documents.Open(); }
+void Form1::mnuCloseIconset_Click() { m_parts->documents.Close(); }
+void Form1::mnuExit_Click() { ExitProgram(); }
+void Form1::LoadFile() { m_parts->documents.LoadFile(); }
+void Form1::SaveIconset() { m_parts->saving.SaveIconset(); }
+void Form1::mnuSaveAs_Click() { m_parts->saving.SaveAs(); }
+
+void Form1::TreeView1_NodeClick(const QTreeWidgetItem& node) { m_parts->icons.NodeClick(node); }
+void Form1::RemoveSelected() { m_parts->icons.RemoveSelected(); }
+void Form1::ClearDeletedIcons() { m_parts->icons.ClearDeletedIcons(); }
+void Form1::RebuildTree() { m_parts->icons.RebuildTree(); }
+void Form1::UpdateIconStats() { m_parts->icons.UpdateIconStats(); }
+
+void Form1::DrawLG() { m_parts->panels[0]->Draw(); }
+void Form1::DrawSM() { m_parts->panels[1]->Draw(); }
+
+void Form1::TakeDrop(const QMimeData&) { }
+
+} // namespace vypx

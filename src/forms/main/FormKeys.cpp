@@ -1,0 +1,106 @@
+#include "forms/main/FormKeys.h"
+
+#include <QAbstractButton>
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTextEdit>
+
+namespace vypx {
+
+namespace {
+
+constexpr Qt::KeyboardModifiers CommandModifiers =
+    Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+
+bool IsEditor(const QObject& object)
+{
+    return qobject_cast<const QLineEdit*>(&object) || qobject_cast<const QTextEdit*>(&object)
+        || qobject_cast<const QPlainTextEdit*>(&object)
+        || qobject_cast<const QAbstractSpinBox*>(&object)
+        || qobject_cast<const QComboBox*>(&object);
+}
+
+} // namespace
+
+void HeldKey::Released(const QKeyEvent& release)
+{
+    m_key = release.key();
+    m_released = release.timestamp();
+}
+
+bool HeldKey::IsRepeat(const QKeyEvent& press) const
+{
+    constexpr quint64 SameMoment = 2; // milliseconds
+    const bool isKnown = m_released != 0 && press.key() == m_key;
+    return press.isAutoRepeat() || (isKnown && press.timestamp() - m_released <= SameMoment);
+}
+
+FormKeys::FormKeys(QWidget& form, QWidget& tree, std::function<void()> remove)
+    : m_form(form)
+    , m_tree(tree)
+    , m_remove(std::move(remove))
+{
+    qApp->installEventFilter(this);
+}
+
+bool FormKeys::IsInForm(const QObject& object) const
+{
+    const auto* const widget = qobject_cast<const QWidget*>(&object);
+    return widget && (widget == &m_form || m_form.isAncestorOf(widget));
+}
+
+bool FormKeys::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::ShortcutOverride: // comes before every press
+        m_isRepeat = m_held.IsRepeat(static_cast<QKeyEvent&>(*event));
+        return false;
+    case QEvent::KeyRelease:
+        m_held.Released(static_cast<QKeyEvent&>(*event));
+        return false;
+    case QEvent::Shortcut:
+        return !static_cast<QShortcutEvent*>(event)->isAmbiguous() && TakesMnemonic(*watched);
+    case QEvent::KeyPress:
+        return IsInForm(*watched) && !IsEditor(*watched)
+            && TakesRemoveKey(*watched, static_cast<QKeyEvent&>(*event));
+    default:
+        return false;
+    }
+}
+
+/// By itself a button would wait for a tenth of a second, and meanwhile another icon could be
+/// selected.
+bool FormKeys::TakesMnemonic(QObject& watched) const
+{
+    auto* const button = qobject_cast<QAbstractButton*>(&watched);
+    if (!button || !IsInForm(watched))
+        return false;
+    if (!m_isRepeat)
+        button->click();
+    return true;
+}
+
+bool FormKeys::TakesRemoveKey(QObject& watched, const QKeyEvent& press)
+{
+    if (press.modifiers() & CommandModifiers)
+        return false;
+    const bool isTyped = !press.text().isEmpty() && press.text()[0].isPrint();
+    const bool isR = press.key() == Qt::Key_R;
+    if (&watched == &m_tree && isTyped) {
+        const bool searches = m_sinceLetter.isValid()
+            && !m_sinceLetter.hasExpired(QApplication::keyboardInputInterval());
+        if (!isR || searches) {
+            m_sinceLetter.start();
+            return false;
+        }
+    }
+    if (isR && !m_held.IsRepeat(press))
+        m_remove();
+    return isR;
+}
+
+} // namespace vypx

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <functional>
+
+class QKeyEvent;
+class QWidget;
+
+namespace vypx {
+
+/// Whether presses of a key come from holding it down. Desktops mark such presses, but under X11
+/// not reliably: there a press at the very moment of the key's own release is one as well.
+class HeldKey {
+public:
+    void Released(const QKeyEvent& release);
+    bool IsRepeat(const QKeyEvent& press) const;
+
+private:
+    int m_key = 0;
+    quint64 m_released = 0; // milliseconds of the event; 0: not known
+};
+
+/// The keys of the main form. Plain R marks the selected icon: from anywhere in the form that
+/// isn't written into, once however long it is held down, but not amid a search by typing in the
+/// tree, which the letter belongs to then. A button's mnemonic acts at once, on the icon that is
+/// selected when it is pressed.
+class FormKeys : public QObject {
+public:
+    /// `remove` is the command of the key R.
+    FormKeys(QWidget& form, QWidget& tree, std::function<void()> remove);
+
+private:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    bool TakesMnemonic(QObject& watched) const;
+    bool TakesRemoveKey(QObject& watched, const QKeyEvent& press);
+    bool IsInForm(const QObject& object) const;
+
+    QWidget& m_form;
+    QWidget& m_tree;
+    std::function<void()> m_remove;
+    HeldKey m_held;
+    bool m_isRepeat = false;     // the press that is on its way
+    QElapsedTimer m_sinceLetter; // the last one that the tree searched for
+};
+
+} // namespace vypx

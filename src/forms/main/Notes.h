@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QLabel>
+#include <QString>
+#include <map>
+
+namespace vypx {
+
+/// The main form's place for notes, which interrupt nobody. A save that failed has a line of its
+/// own, which stays until a save succeeds; all others share a second one, below each other.
+class Notes {
+public:
+    /// What a note is about; a new one takes the place of the one before of its kind.
+    enum class Kind {
+        Load,    ///< goes with its document
+        Save,    ///< of one that succeeded; goes with its document
+        Name,    ///< characters that a name can't hold; goes with its document
+        Catalog, ///< goes with the next reading of the catalogs
+    };
+
+    Notes(QLabel& notSaved, QLabel& others);
+
+    void SaveFailed(const QString& why);
+    void SaveSucceeded();
+
+    /// An empty text takes the kind's note away.
+    void Tell(Kind kind, const QString& text);
+    /// The document has ended, or another one has begun.
+    void DocumentEnded();
+
+private:
+    void Show();
+
+    QLabel& m_notSaved;
+    QLabel& m_others;
+    std::map<Kind, QString> m_texts;
+};
+
+} // namespace vypx

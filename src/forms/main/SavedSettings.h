@@ -1,0 +1,30 @@
+#pragma once
+
+#include "forms/common/Ask.h"
+
+#include <QWidget>
+
+namespace vypx {
+
+/// The settings file as the windows use it: tells what can't be read or written, and adds the
+/// frame's size.
+class SavedSettings {
+public:
+    SavedSettings(QWidget& frame, Ask& ask)
+        : m_frame(frame)
+        , m_ask(ask)
+    {
+    }
+
+    void Load();
+    void Save();
+    void SaveRunCount(int count);
+
+private:
+    void Tell(const QString& text);
+
+    QWidget& m_frame;
+    Ask& m_ask;
+};
+
+} // namespace vypx

@@ -1,0 +1,157 @@
+#include "forms/main/Saving.h"
+
+#include "document/Document.h"
+#include "document/WorkingFolder.h"
+#include "forms/common/Text.h"
+#include "settings/Settings.h"
+#include "writer/CompileIconset.h"
+#include "writer/ReadBack.h"
+#include "writer/SaveChecks.h"
+
+namespace vypx {
+
+namespace {
+
+constexpr const char* NoImages = "Can't save. The iconset doesn't contain any images.";
+
+} // namespace
+
+Saving::Saving(const View& view, Ask& ask, IconCommands& icons, SavedSettings& settings)
+    : m_view(view)
+    , m_ask(ask)
+    , m_icons(icons)
+    , m_settings(settings)
+{
+    view.commands.Connect(Command::Save, this, &Saving::SaveIconset);
+    view.commands.Connect(Command::SaveAs, this, &Saving::SaveAs);
+}
+
+void Saving::Message(std::string_view text)
+{
+    m_ask.Show(&m_view.form, { .text = FromLatin1(text) });
+}
+
+void Saving::SaveIconset()
+{
+    if (!PassesChecks())
+        return;
+    if (FileName.empty())
+        SaveNewIconset();
+    else
+        SaveToKnownName();
+    m_view.status.ShowTitle();
+}
+
+bool Saving::PassesChecks()
+{
+    m_icons.FinishName();
+    const std::optional<std::string_view> why = WhyNotSaved();
+    if (why)
+        Message(*why);
+    return !why;
+}
+
+void Saving::SaveToKnownName()
+{
+    if (NamedFileExists(FileName) && WarnOverwrite) {
+        const auto answer = m_ask.Show(&m_view.form,
+            { .text = "About to overwrite the existing file.\nAre you sure?",
+                .title = "Overwrite file?",
+                .icon = QMessageBox::Warning,
+                .buttons = QMessageBox::Yes | QMessageBox::No });
+        if (answer != QMessageBox::Yes)
+            return;
+    }
+    if (!HasNormalImages()) {
+        Message(NoImages);
+        return;
+    }
+    SavingAs = false;
+    if (Compile())
+        IconsetChanged = false;
+}
+
+/// On purpose: unlike Save As, this takes the document for unchanged before it is written, and goes
+/// on without a name.
+void Saving::SaveNewIconset()
+{
+    if (!HasNormalImages()) {
+        Message(NoImages);
+        return;
+    }
+    SavingAs = true;
+    const std::optional<std::string> path = ChooseTarget();
+    if (!path)
+        return;
+    FileName = *path;
+    if (FileName.empty())
+        Message("Can't save. Filename not specified.");
+    TakeTargetFolder();
+    IconsetChanged = false;
+    SavingAs = true;
+    if (Compile())
+        SavingAs = false;
+}
+
+void Saving::SaveAs()
+{
+    if (!PassesChecks())
+        return;
+    SavingAs = true;
+    const std::optional<std::string> path = ChooseTarget();
+    if (!path)
+        return;
+    FileName = *path;
+    TakeTargetFolder();
+    SavingAs = true;
+    if (!Compile())
+        return;
+    IconsetChanged = false;
+    SavingAs = false;
+    m_view.status.ShowTitle();
+}
+
+/// Empty when the dialog was cancelled.
+std::optional<std::string> Saving::ChooseTarget()
+{
+    SaveQuestion question{
+        .title = tr("Save Iconset"),
+        .folder = {},
+        .filters = { "Vantry Iconset (*.prc *.pdb)" },
+        // On purpose: the template's ending on this dialog too.
+        .defaultEnding = "vpt",
+    };
+    if (UseLastDirs && DirExists(LastDirIconsetSave))
+        question.folder = PathText(LastDirIconsetSave);
+    else if (DirExists(FolderOf(FileName)))
+        question.folder = PathText(FolderOf(FileName));
+    const std::optional<QString> chosen = m_ask.SaveFile(&m_view.form, question);
+    if (!chosen)
+        return std::nullopt;
+    return chosen->toStdString();
+}
+
+void Saving::TakeTargetFolder()
+{
+    LastDirIconsetSave = FolderOf(FileName);
+    m_settings.Save();
+    m_view.status.ShowFileName(FileName);
+    m_view.status.ShowTitle();
+}
+
+/// Writes the iconset. A failure shows no box but a note that stays until a save succeeds; the old
+/// file stands.
+bool Saving::Compile()
+{
+    try {
+        CompileIconset();
+        m_view.notes.SaveSucceeded();
+        m_view.notes.Tell(Notes::Kind::Save, FromLatin1(IconsWithoutRoom()));
+        return true;
+    } catch (const std::exception& failure) {
+        m_view.notes.SaveFailed(QString::fromStdString(failure.what()));
+        return false;
+    }
+}
+
+} // namespace vypx

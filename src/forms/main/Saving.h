@@ -1,0 +1,49 @@
+#pragma once
+
+#include "forms/common/Ask.h"
+#include "forms/main/Commands.h"
+#include "forms/main/IconCommands.h"
+#include "forms/main/Notes.h"
+#include "forms/main/SavedSettings.h"
+#include "forms/main/StatusTexts.h"
+
+#include <QObject>
+#include <optional>
+#include <string>
+
+namespace vypx {
+
+/// The save commands: they ask, choose the file and tell what came of it.
+class Saving : public QObject {
+    Q_OBJECT
+
+public:
+    struct View {
+        QWidget& form;
+        Commands& commands;
+        StatusTexts& status;
+        Notes& notes;
+    };
+
+    Saving(const View& view, Ask& ask, IconCommands& icons, SavedSettings& settings);
+
+    /// Checks that the document can be saved, and saves it under its name or a new one.
+    void SaveIconset();
+    void SaveAs();
+
+private:
+    void Message(std::string_view text);
+    bool PassesChecks();
+    void SaveToKnownName();
+    void SaveNewIconset();
+    std::optional<std::string> ChooseTarget();
+    void TakeTargetFolder();
+    bool Compile();
+
+    View m_view;
+    Ask& m_ask;
+    IconCommands& m_icons;
+    SavedSettings& m_settings;
+};
+
+} // namespace vypx

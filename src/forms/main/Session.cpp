@@ -1,0 +1,115 @@
+#include "forms/main/Session.h"
+
+#include "catalogs/CatalogFiles.h"
+#include "document/AppFolders.h"
+#include "document/Document.h"
+#include "document/RunCount.h"
+#include "document/SettingsFile.h"
+#include "document/WorkingFolder.h"
+#include "forms/common/Look.h"
+#include "forms/common/Text.h"
+#include "settings/Settings.h"
+
+#include <QApplication>
+#include <algorithm>
+
+namespace vypx {
+
+namespace {
+
+/// A frame below this, as a settings file can ask for, could not be found on the screen.
+constexpr int LeastSide = 200;
+
+} // namespace
+
+Session::Session(
+    const View& view, Ask& ask, BusyGuard& busy, SavedSettings& settings, SettingsWindows& windows)
+    : m_view(view)
+    , m_ask(ask)
+    , m_busy(busy)
+    , m_settings(settings)
+    , m_windows(windows)
+{
+    view.commands.Connect(Command::Exit, &view.form, [this] { Exit(); });
+}
+
+void Session::StartUp(const QString& programFolder, const QString& userFolder)
+{
+    AppFolder = ResolveAppFolder(programFolder.toStdString(), userFolder.toStdString());
+    RememberPreviewColor = false;
+    TransparentUse = true;
+    MakeFolder(AppFolder + BelowFolder("temp"));
+    m_settings.Load();
+    TakeWorkingFolder();
+    ChooseColours();
+    m_windows.ShowDepth();
+    PaintColours();
+    m_view.commands.Enable(When::Document, false);
+    IconTable.assign(1, {});
+    BitmapTable.assign(1, {});
+    ReadCatalogs(
+        [this](std::string_view text) { m_ask.Show(&m_view.form, { .text = FromLatin1(text) }); });
+    ShowInFrame();
+    m_view.views.ShowByOption();
+    m_view.commands.Enable({ Command::MenuPasteLG, Command::MenuPasteSM }, false);
+}
+
+/// The first copy works in "temp"; a further one in "temp" and its number, which is one above the
+/// count that the settings file holds.
+void Session::TakeWorkingFolder()
+{
+    m_copies.Enter(AppFolder);
+    InstanceNumber = m_copies.AnotherRan() ? ReadRunCount() + 1 : 0;
+    SetTempSuffix(InstanceNumber);
+    m_settings.SaveRunCount(InstanceNumber);
+    MakeFolder(WorkFolder());
+}
+
+void Session::ChooseColours()
+{
+    R = RememberPreviewColor ? Rsave : 0;
+    G = RememberPreviewColor ? Gsave : 0;
+    B = RememberPreviewColor ? Bsave : 255;
+}
+
+void Session::PaintColours()
+{
+    PaintChrome(m_view.form);
+    m_view.working.setAutoFillBackground(true);
+    for (ImagePanel* panel : m_view.panels)
+        panel->PaintBackground(QColor(R, G, B));
+}
+
+void Session::ShowInFrame()
+{
+    m_view.frame.resize(std::max(PixelsFromTwips(MainWinWidth), LeastSide),
+        std::max(PixelsFromTwips(MainWinHeight), LeastSide));
+    m_view.frame.show();
+    m_view.form.parentWidget()->show();
+}
+
+void Session::Exit()
+{
+    m_busy.WhenIdle([this] { End(); });
+}
+
+/// On purpose: there is no question about unsaved changes.
+void Session::End()
+{
+    if (m_hasEnded)
+        return;
+    m_hasEnded = true;
+    m_windows.CloseAll(); // what they take back or take over is to be saved
+    // On purpose: the first copy never changes the count, and one that is not the last to leave
+    // may hand its number to a later one.
+    if (InstanceNumber >= 1)
+        m_settings.SaveRunCount(InstanceNumber - 1);
+    m_settings.Save();
+    SettingsSaved = true;
+    DeleteWorkingFiles({ ".bak", ".bmp", ".bin" });
+    m_copies.Leave();
+    for (QWidget* window : QApplication::topLevelWidgets())
+        window->close();
+}
+
+} // namespace vypx

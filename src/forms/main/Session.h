@@ -1,0 +1,60 @@
+#pragma once
+
+#include "document/RunningCopies.h"
+#include "forms/common/Ask.h"
+#include "forms/imaging/Panels.h"
+#include "forms/main/BusyGuard.h"
+#include "forms/main/Commands.h"
+#include "forms/main/Notes.h"
+#include "forms/main/SavedSettings.h"
+#include "forms/main/SettingsWindows.h"
+#include "forms/main/ViewEntries.h"
+
+#include <QLabel>
+#include <QWidget>
+
+namespace vypx {
+
+/// The program from its start to its end: folders, settings, catalogs, the working folder, and
+/// what is written and deleted at the exit.
+class Session {
+public:
+    /// `working` is lblWorking.
+    struct View {
+        QWidget& frame;
+        QWidget& form;
+        Panels panels;
+        Commands& commands;
+        ViewEntries& views;
+        Notes& notes;
+        QLabel& working;
+    };
+
+    Session(const View& view, Ask& ask, BusyGuard& busy, SavedSettings& settings,
+        SettingsWindows& windows);
+
+    /// From the first step to the idle main window. Folders are the platform's own paths. Throws
+    /// std::filesystem::filesystem_error when a working folder can't be made.
+    void StartUp(const QString& programFolder, const QString& userFolder);
+
+    /// Leaves the program: at once, without a question about changes; during long work at its end.
+    void Exit();
+    bool HasEnded() const { return m_hasEnded; }
+
+private:
+    void TakeWorkingFolder();
+    void ChooseColours();
+    void PaintColours();
+    void ShowInFrame();
+    void End();
+
+    View m_view;
+    Ask& m_ask;
+    BusyGuard& m_busy;
+    SavedSettings& m_settings;
+    SettingsWindows& m_windows;
+    RunningCopies m_copies;
+    bool m_hasEnded = false;
+};
+
+} // namespace vypx

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "forms/main/Commands.h"
+#include "forms/main/ViewEntries.h"
+#include "settings/DepthChoices.h"
+
+#include <QLabel>
+#include <QObject>
+#include <QPointer>
+
+namespace vypx {
+
+class frmProgOptions;
+class frmSelectCDepth;
+
+/// The windows in which colour depth, resolution and the other options are chosen. What one of
+/// them chooses, the other and the main form show.
+class SettingsWindows : public QObject {
+    Q_OBJECT
+
+public:
+    /// `depthLabel` is lblTargetCD.
+    SettingsWindows(QWidget& form, Commands& commands, ViewEntries& views, QLabel& depthLabel);
+
+    void ShowOptions();
+    /// Asks for depth and resolution of a document that is to be opened or made.
+    void AskForDepth();
+    bool AsksForDepth() const;
+
+    /// A document began with what was chosen, or there is none whose depth could differ from it.
+    void KeepChoices() { m_choices.Keep(); }
+    /// No document came of them: the open one keeps its depth and resolution.
+    void TakeBackChoices();
+
+    void ShowDepth();
+    /// An iconset was opened or closed: the colour depth can only be changed without one.
+    void ShowDepthLock();
+    void CloseAll();
+
+signals:
+    /// The depth is chosen: on to the document.
+    void DepthDone();
+    /// The options window was closed: the settings are to be saved.
+    void OptionsDone();
+
+private:
+    void ShowChoices();
+
+    QWidget& m_form;
+    ViewEntries& m_views;
+    QLabel& m_depthLabel;
+    DepthChoices m_choices;
+    QPointer<frmProgOptions> m_options;
+    QPointer<frmSelectCDepth> m_depthWindow;
+};
+
+/// Brings a window that does not block to the front.
+void BringUp(QWidget& window);
+
+} // namespace vypx

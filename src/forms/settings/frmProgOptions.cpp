@@ -1,0 +1,166 @@
+#include "forms/settings/frmProgOptions.h"
+
+#include "document/Document.h"
+#include "forms/common/Look.h"
+#include "forms/common/Text.h"
+#include "forms/settings/DepthControls.h"
+#include "forms/settings/UserStore.h"
+#include "settings/Settings.h"
+#include "ui_frmProgOptions.h"
+
+#include <QScreen>
+#include <QStyle>
+#include <algorithm>
+
+namespace vypx {
+
+namespace {
+
+constexpr int OpenAt = 300; // twips from the left and the top
+
+/// As large as the options need, but never beyond the screen's free area: what has no room then
+/// scrolls, and the row with the button stays in sight.
+QSize SizeOnScreen(const QDialog& window, const QWidget& options, const QScrollArea& area)
+{
+    constexpr int FrameOfWindow = 40; // pixels, with its title
+    const int bar = area.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const QSize chrome = window.sizeHint() - area.sizeHint();
+    const QSize free = window.screen()->availableGeometry().size();
+    const int left = PixelsFromTwips(OpenAt);
+    const QSize most(free.width() - left - 4, free.height() - left - FrameOfWindow);
+    const int width = std::min(options.sizeHint().width() + chrome.width() + bar, most.width());
+    const int height = options.layout()->heightForWidth(width - chrome.width() - bar);
+    return { width, std::min(height + chrome.height(), most.height()) };
+}
+
+} // namespace
+
+frmProgOptions::frmProgOptions(QWidget* parent)
+    : QDialog(parent)
+    , m_ui(std::make_unique<Ui::frmProgOptions>())
+{
+    m_ui->setupUi(this);
+    setAttribute(Qt::WA_DeleteOnClose);
+    PaintChrome(*this);
+    move(PixelsFromTwips(OpenAt), PixelsFromTwips(OpenAt));
+    for (QLineEdit* edit : { m_ui->txtPalmUserID, m_ui->txtVstring })
+        edit->setValidator(Latin1Validator(*edit));
+    ShowSettings();
+    resize(SizeOnScreen(*this, *m_ui->allOptions, *m_ui->scrollOptions));
+    ConnectBoxes();
+    ConnectDepths();
+    ConnectResolutions();
+    connect(
+        m_ui->cmdDoneOptions, &QPushButton::clicked, this, &frmProgOptions::cmdDoneOptions_Click);
+}
+
+frmProgOptions::~frmProgOptions() = default;
+
+void frmProgOptions::ShowSettings()
+{
+    m_ui->txtPalmUserID->setText(FromLatin1(PalmUserID));
+    m_ui->txtVstring->setText(FromLatin1(VersionString));
+    m_ui->chkRemeberDirs->setChecked(UseLastDirs);
+    m_ui->chkCreateLowRes->setChecked(AutoCreateLowRes);
+    m_ui->chkCreateBak->setChecked(CreateBackup);
+    m_ui->chkKeepUnknown->setChecked(KeepUnknown);
+    m_ui->chkWarnOverwrite->setChecked(WarnOverwrite);
+    m_ui->chkShowSplash->setChecked(ShowSplash);
+    m_ui->chkShowTips->setChecked(ShowTipsAtStartup());
+    m_ui->chkStartupSearch->setChecked(StartupSearch);
+    m_ui->chkRememberBackColor->setChecked(RememberPreviewColor);
+    m_ui->chkPromptForCDepth->setChecked(PromptColorDepth);
+    (UsePackbits ? m_ui->optPalm40 : m_ui->optPalm35)->setChecked(true);
+    ShowChoices();
+    ShowDepthLock();
+}
+
+void frmProgOptions::ShowChoices()
+{
+    CheckResolution(*m_ui);
+    CheckDepth(*m_ui);
+}
+
+void frmProgOptions::ShowDepthLock()
+{
+    m_ui->lblCantChange->setVisible(FileLoaded);
+    for (QWidget* control : std::initializer_list<QWidget*>{ m_ui->opt16Bit, m_ui->opt8Bit,
+             m_ui->opt4Bit, m_ui->chkPromptForCDepth, m_ui->frameCD })
+        control->setEnabled(!FileLoaded);
+    ShowWarning();
+}
+
+void frmProgOptions::ShowWarning()
+{
+    ShowDepthWarning(*m_ui, !m_ui->opt16Bit->isChecked() && !FileLoaded);
+}
+
+void frmProgOptions::ConnectBoxes()
+{
+    const auto setsVariable = [this](QAbstractButton* box, bool& variable) {
+        connect(box, &QAbstractButton::toggled, this, [&variable](bool on) { variable = on; });
+    };
+    setsVariable(m_ui->chkRemeberDirs, UseLastDirs);
+    setsVariable(m_ui->chkCreateLowRes, AutoCreateLowRes);
+    setsVariable(m_ui->chkCreateBak, CreateBackup);
+    setsVariable(m_ui->chkKeepUnknown, KeepUnknown);
+    setsVariable(m_ui->chkWarnOverwrite, WarnOverwrite);
+    setsVariable(m_ui->chkShowSplash, ShowSplash);
+    setsVariable(m_ui->chkStartupSearch, StartupSearch);
+    setsVariable(m_ui->chkRememberBackColor, RememberPreviewColor);
+    setsVariable(m_ui->chkPromptForCDepth, PromptColorDepth);
+    setsVariable(m_ui->optPalm40, UsePackbits);
+    connect(m_ui->chkShowTips, &QAbstractButton::toggled, this, &SaveShowTipsAtStartup);
+}
+
+void frmProgOptions::ConnectDepths()
+{
+    const auto setsDepth = [this](QAbstractButton* option, ColorDepth depth) {
+        connect(option, &QAbstractButton::toggled, this, [this, depth](bool on) {
+            ShowWarning();
+            if (!on || DefaultColorDepth == depth)
+                return;
+            DefaultColorDepth = depth;
+            emit DepthChosen();
+        });
+    };
+    setsDepth(m_ui->opt4Bit, ColorDepth::Bits4);
+    setsDepth(m_ui->opt8Bit, ColorDepth::Bits8);
+    setsDepth(m_ui->opt16Bit, ColorDepth::Bits16);
+}
+
+void frmProgOptions::ConnectResolutions()
+{
+    const auto setsResolution = [this](QAbstractButton* option, bool highOnly, bool lowOnly) {
+        connect(option, &QAbstractButton::toggled, this, [this, highOnly, lowOnly](bool on) {
+            if (!on || (HighResOnly == highOnly && LowResOnly == lowOnly))
+                return;
+            HighResOnly = highOnly;
+            LowResOnly = lowOnly;
+            emit ResolutionChosen();
+        });
+    };
+    setsResolution(m_ui->optBothRes, false, false);
+    setsResolution(m_ui->optHighResOnly, true, false);
+    setsResolution(m_ui->optLowResOnly, false, true);
+}
+
+void frmProgOptions::TakeTexts()
+{
+    QString version = m_ui->txtVstring->text();
+    while (version.endsWith(' '))
+        version.chop(1);
+    VersionString = version.isEmpty() ? "3.20" : ToLatin1(version);
+    PalmUserID = ToLatin1(m_ui->txtPalmUserID->text().trimmed());
+    emit Done();
+}
+
+void frmProgOptions::cmdDoneOptions_Click() { close(); }
+
+void frmProgOptions::reject()
+{
+    TakeTexts();
+    QDialog::reject();
+}
+
+} // namespace vypx

@@ -115,13 +115,12 @@ Bytes Finish(Bytes record, const Picture& picture, const RecordForm& form, bool 
     if (form.packed)
         packed = PackedPixels(picture, form, sizeField);
     const bool isPacked = packed.has_value();
-    const bool direct = sizeField == 2 && form.depth == 16;
     Put16(record, 0, picture.Width());
     Put16(record, 2, picture.Height());
     Put16(record, 4, rowBytes);
     Put16(record, 6,
         (isPacked ? Compressed : 0) | (transparent ? HasTransparent : 0)
-            | (direct ? DirectColour : 0));
+            | (form.depth == 16 ? DirectColour : 0));
     Put8(record, 8, form.depth);
     Put8(record, 13, isPacked ? PackBitsType : NoCompression);
     const Bytes pixels = packed ? *std::move(packed) : PlainPixels(picture, form);

@@ -28,7 +28,7 @@
 ///                2 with itself and pixels        24       pixels, or a size field of 4 with itself
 ///                                                         and pixels
 ///
-/// flags: 0x8000 compressed, 0x2000 transparent, 0x0400 direct colour (low density at 16 bits).
+/// flags: 0x8000 compressed, 0x2000 transparent, 0x0400 direct colour (all records at 16 bits).
 /// compressionType: 2 PackBits, 0xFF none. A record is padded to 4 bytes.
 namespace vypx {
 

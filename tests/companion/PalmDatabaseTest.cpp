@@ -61,7 +61,7 @@ TEST(PalmRecord, HighDensityAt8And16Bits)
     EXPECT_EQ(EncodeHighDensity(TwoPixels(), Form(8), Rgb{ 255, 0, 255 }),
         Hex("0002 0001 0002 2000 08 03 18 00 00 FF 0090 00000005 00000000 0005 0000"));
     EXPECT_EQ(EncodeHighDensity(TwoPixels(), Form(16), Rgb{ 255, 0, 255 }),
-        Hex("0002 0001 0004 2000 10 03 18 01 00 FF 0090 0000F81F 00000000 FFFF F81F"));
+        Hex("0002 0001 0004 2400 10 03 18 01 00 FF 0090 0000F81F 00000000 FFFF F81F"));
 }
 
 TEST(PalmRecord, HighDensityAt4Bits)
@@ -79,7 +79,7 @@ TEST(PalmRecord, PackedPixelsAt16BitsArePairs)
     EXPECT_EQ(EncodeLowDensity(flat, Form(16, true), std::nullopt, false),
         Hex("0004 0001 0008 8400 10 02 0000 00 02 0000 050605 00 00 000000 0005 FDF81F 000000"));
     EXPECT_EQ(EncodeHighDensity(flat, Form(16, true), std::nullopt),
-        Hex("0004 0001 0008 8000 10 03 18 01 00 02 0090 00000000 00000000 00000007 FDF81F 00"));
+        Hex("0004 0001 0008 8400 10 03 18 01 00 02 0090 00000000 00000000 00000007 FDF81F 00"));
 }
 
 TEST(PalmRecord, ARowOfMoreBytesThanItsFieldTellsIsRefused)

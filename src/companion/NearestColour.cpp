@@ -65,6 +65,55 @@ bool IsBeatenEverywhere(const Rgb& colour, const Rgb& rival, bool rivalIsLower, 
 
 } // namespace
 
+/// For each value that a component of a 5-6-5 colour can have: its squared difference to that of
+/// every entry of the palette, times 256. Three of them and the index add up to a number that is
+/// least for the nearest entry, of several for the first one. Every row is as long as the largest
+/// palette, since a loop of a fixed length is what compilers turn into vectors.
+struct NearestColour::Squares565 {
+    using Row = std::array<std::int32_t, 256>;
+
+    std::array<Row, 32> red, blue;
+    std::array<Row, 64> green;
+
+    explicit Squares565(const std::vector<Rgb>& palette)
+    {
+        Fill(red, palette, &Rgb::red, Widened5);
+        Fill(green, palette, &Rgb::green, Widened6);
+        Fill(blue, palette, &Rgb::blue, Widened5);
+        for (Row& row : red)
+            for (std::size_t i = 0; i < row.size(); ++i)
+                row[i] += static_cast<std::int32_t>(i);
+    }
+
+    int Nearest(std::uint16_t colour) const
+    {
+        const Row& r = red[colour >> 11];
+        const Row& g = green[colour >> 5 & 0x3F];
+        const Row& b = blue[colour & 0x1F];
+        std::int32_t least = INT32_MAX;
+        for (std::size_t i = 0; i < r.size(); ++i)
+            least = std::min(least, r[i] + g[i] + b[i]);
+        return least & 0xFF;
+    }
+
+private:
+    /// Behind a shorter palette stands its last entry: it never wins over itself.
+    template <typename Rows, typename Widen>
+    static void Fill(
+        Rows& rows, const std::vector<Rgb>& palette, int Rgb::*component, const Widen& widened)
+    {
+        for (std::size_t value = 0; value < rows.size(); ++value) {
+            const int wide = widened(static_cast<int>(value));
+            for (std::size_t i = 0; i < rows[value].size(); ++i) {
+                const Rgb& entry = palette[std::min(i, palette.size() - 1)];
+                rows[value][i] = SquareOf(entry.*component - wide) * 256;
+            }
+        }
+    }
+};
+
+NearestColour::~NearestColour() = default;
+
 NearestColour::NearestColour(Palette palette)
     : m_palette(palette.begin(), palette.end())
     , m_cells(CellsToASide * CellsToASide * CellsToASide)
@@ -107,8 +156,9 @@ void NearestColour::MakeCell(std::size_t cell)
 
 int NearestColour::Learn565(std::uint16_t colour)
 {
-    const Rgb wide = From565(colour);
-    const int index = IndexOf(wide.red, wide.green, wide.blue);
+    if (!m_squares)
+        m_squares = std::make_unique<const Squares565>(m_palette);
+    const int index = m_squares->Nearest(colour);
     m_by565[colour] = static_cast<std::uint16_t>(index + 1);
     return index;
 }

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 namespace vypx {
@@ -13,11 +14,13 @@ namespace vypx {
 ///
 /// The colour space is cut into 32768 cells of 8 x 8 x 8 colours. A cell keeps the few entries
 /// that are nearest to some colour in it, so that a look-up compares those only. Cells are made
-/// when a colour of theirs is first asked for.
+/// when a colour of theirs is first asked for. 5-6-5 colours are too few in each cell to pay for
+/// it: those are looked for in the whole palette, and the answer is kept.
 class NearestColour {
 public:
     /// 1 to 256 colours.
     explicit NearestColour(Palette palette);
+    ~NearestColour();
 
     /// Index of the colour nearest to one with components from 0 to 255.
     int IndexOf(int red, int green, int blue)
@@ -80,11 +83,14 @@ private:
     void MakeCell(std::size_t cell);
     int Learn565(std::uint16_t colour);
 
+    struct Squares565;
+
     std::vector<Rgb> m_palette;
     std::vector<Cell> m_cells;
     std::vector<Entry> m_entries;
     std::array<std::uint32_t, 1 << RecentBits> m_recent; // a colour's 24 bits, then its index
     std::vector<std::uint16_t> m_by565;                  // index + 1; 0: not worked out yet
+    std::unique_ptr<const Squares565> m_squares;         // made with the first of them
 };
 
 /// The table for a palette of these colours; made once for each palette and kept.

@@ -107,6 +107,31 @@ TEST(NearestColour, KnowsEvery565ColourByItsWidenedOne)
             << value;
 }
 
+RC_GTEST_PROP(NearestColour, KnowsThe565ColoursOfAnyPalette, ())
+{
+    // Of few different colours, so that there are ties.
+    std::vector<Rgb> palette;
+    const int count = *rc::gen::inRange(1, 257);
+    for (int i = 0; i < count; ++i)
+        palette.push_back({ *Component() & 0xE0, *Component() & 0xC0, *Component() & 0x80 });
+    NearestColour nearest(palette);
+
+    for (int value = 0; value < 65536; value += 331)
+        RC_ASSERT(nearest.IndexOf565(static_cast<std::uint16_t>(value))
+            == SearchNearest(palette, From565(value)));
+}
+
+TEST(NearestColour, Of565ColoursATieGoesToTheLowerIndex)
+{
+    // Green 130 lies between 126 and 134; the last entry is farther away than both.
+    const std::vector<Rgb> palette{ { 0, 134, 0 }, { 0, 126, 0 }, { 0, 126, 0 }, { 255, 0, 0 } };
+    NearestColour nearest(palette);
+
+    EXPECT_EQ(nearest.IndexOf565(To565({ 0, 130, 0 })), 0);
+    EXPECT_EQ(nearest.IndexOf565(To565({ 0, 125, 0 })), 1);
+    EXPECT_EQ(nearest.IndexOf565(To565({ 255, 0, 0 })), 3);
+}
+
 TEST(Widening, IsRoundedAndNarrowingGoesBack)
 {
     for (int v = 0; v < 32; ++v) {

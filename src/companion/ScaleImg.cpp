@@ -25,11 +25,9 @@ std::vector<Share> SharesOf(int source, int target)
             const double centre = (i + 0.5) * source / target - 0.5;
             const double held = std::clamp(centre, 0.0, static_cast<double>(source - 1));
             share.first = static_cast<int>(held);
-            share.last = std::min(share.first + 1, source - 1);
             share.lastWeight = static_cast<float>(held - share.first);
             share.firstWeight = 1 - share.lastWeight;
-            if (share.first == share.last)
-                share.firstWeight = 1;
+            share.last = share.lastWeight > 0 ? share.first + 1 : share.first;
             continue;
         }
         const double scale = static_cast<double>(source) / target;

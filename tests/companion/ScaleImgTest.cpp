@@ -62,6 +62,65 @@ TEST(ScaleImg, GrowingIsSmoothAndHoldsTheEdges)
     EXPECT_EQ(FirstRow(Scaled(source, 4, 1)), (std::vector<int>{ 0, 50, 150, 200 }));
 }
 
+TEST(ScaleImg, GrowingEndsInTheLastPixelOfEachRowAndColumn)
+{
+    // Centres of the source at -1/4, 1/4, 3/4, 5/4, 7/4 and 9/4 along both axes.
+    const Picture source = Greys(3, 3, { 0, 40, 200, 0, 40, 200, 100, 140, 240 });
+
+    const Picture target = Scaled(source, 6, 6);
+
+    EXPECT_EQ(FirstRow(target), (std::vector<int>{ 0, 10, 30, 80, 160, 200 }));
+    const int lastColumn[] = { 200, 200, 200, 210, 230, 240 };
+    for (int y = 0; y < 6; ++y)
+        EXPECT_EQ(target.At(5, y).red, lastColumn[y]) << y;
+}
+
+/// What lies right of the part and below it is another picture's.
+TEST(ScaleImg, APartIsScaledWithoutItsSurroundings)
+{
+    const Picture source = Greys(3, 3, { 10, 30, 255, 10, 30, 255, 255, 255, 255 });
+    Picture grown(4, 4), shrunk(1, 1), wider(4, 1);
+
+    ScaleImg(source, grown, 2, 2, 4, 4);
+    ScaleImg(source, shrunk, 2, 2, 1, 1);
+    ScaleImg(source, wider, 2, 2, 4, 1);
+
+    for (int y = 0; y < 4; ++y) {
+        const int row[] = { 10, 15, 25, 30 };
+        for (int x = 0; x < 4; ++x)
+            EXPECT_EQ(grown.At(x, y).green, row[x]) << x << ' ' << y;
+    }
+    EXPECT_EQ(shrunk.At(0, 0).green, 20);
+    EXPECT_EQ(FirstRow(wider), (std::vector<int>{ 10, 15, 25, 30 }));
+}
+
+TEST(ScaleImg, OnlyThePartOfTheTargetIsWritten)
+{
+    const Picture source = Greys(1, 1, { 9 });
+    Picture target = Greys(3, 3, { 1, 1, 1, 1, 1, 1, 1, 1, 1 });
+
+    ScaleImg(source, target, 1, 1, 2, 2);
+
+    EXPECT_EQ(target, Greys(3, 3, { 9, 9, 1, 9, 9, 1, 1, 1, 1 }));
+}
+
+/// Five pixels into two: each takes two and a half, the middle one goes to both by halves.
+TEST(ScaleImg, ShrinkingWeighsAllPixelsBetweenTheOuterOnes)
+{
+    const Picture row = Greys(5, 1, { 10, 20, 40, 60, 80 });
+    const Picture column = Greys(1, 5, { 10, 20, 40, 60, 80 });
+
+    EXPECT_EQ(FirstRow(Scaled(row, 2, 1)), (std::vector<int>{ 20, 64 }));
+    EXPECT_EQ(Scaled(column, 1, 2).At(0, 0).blue, 20);
+    EXPECT_EQ(Scaled(column, 1, 2).At(0, 1).blue, 64);
+}
+
+TEST(ScaleImg, HalvesAreRoundedUp)
+{
+    EXPECT_EQ(FirstRow(Scaled(Greys(2, 1, { 4, 5 }), 1, 1)), (std::vector<int>{ 5 }));
+    EXPECT_EQ(FirstRow(Scaled(Greys(4, 1, { 4, 4, 4, 5 }), 1, 1)), (std::vector<int>{ 4 }));
+}
+
 TEST(ScaleImg, OnePixelFillsEverything)
 {
     Picture source(1, 1);
@@ -101,8 +160,13 @@ TEST(ScaleImg, SizesThatThePicturesDoNotHaveDoNothing)
     Picture target(2, 2);
 
     ScaleImg(source, target, 3, 1, 1, 1);
+    ScaleImg(source, target, 2, 2, 1, 1);
     ScaleImg(source, target, 2, 1, 3, 1);
+    ScaleImg(source, target, 2, 1, 1, 3);
     ScaleImg(source, target, 0, 1, 1, 1);
+    ScaleImg(source, target, 2, 0, 1, 1);
+    ScaleImg(source, target, 2, 1, 0, 1);
+    ScaleImg(source, target, 2, 1, 1, 0);
     ScaleImg(source, target, 2, 1, 1, -1);
 
     EXPECT_EQ(target, Picture(2, 2));

@@ -17,6 +17,40 @@ TEST_F(Document, BeginsWithOneEmptyRow)
     EXPECT_FALSE(Tree.HasRoot());
 }
 
+TEST_F(Document, AResetForgetsAllOfTheOldDocument)
+{
+    IconTable.assign(2, { "A", "tAIB1", "a.bmp", "NEW", 1, "VY" });
+    BitmapTable.assign(2, { .file = "a.bmp", .hasTransparent = 1 });
+    Itbl.assign(2, {});
+    Tree.SetRoot("Set");
+    Tree.Add({ .key = "A" });
+    Parent = DatabaseName = FileName = SelectedNode = LastClickedText = "x";
+    HighResPath = LowResPath = "x";
+    FileLoaded = IconsetChanged = true;
+    LGloaded = SMloaded = LGhasTransparent = SMhasTransparent = true;
+    MaskR_LG = MaskG_LG = MaskB_LG = MaskR_SM = MaskG_SM = MaskB_SM = 1;
+    TransparentUse = false;
+    R = G = B = 1;
+    ShareNames.assign(2, "A");
+
+    ResetDocument();
+
+    EXPECT_EQ(IconTable, std::vector<IconRow>(1));
+    EXPECT_EQ(BitmapTable, std::vector<BitmapEntry>(1));
+    EXPECT_TRUE(Itbl.empty());
+    EXPECT_FALSE(Tree.HasRoot());
+    EXPECT_TRUE(Tree.Nodes().empty());
+    for (const std::string* text : { &Parent, &DatabaseName, &FileName, &SelectedNode,
+             &LastClickedText, &HighResPath, &LowResPath })
+        EXPECT_EQ(*text, "");
+    EXPECT_FALSE(FileLoaded || IconsetChanged);
+    EXPECT_FALSE(LGloaded || SMloaded || LGhasTransparent || SMhasTransparent);
+    EXPECT_EQ(MaskR_LG + MaskG_LG + MaskB_LG + MaskR_SM + MaskG_SM + MaskB_SM, 0);
+    EXPECT_TRUE(TransparentUse) << "pictures are masked again";
+    EXPECT_EQ((Rgb{ R, G, B }), Blue);
+    EXPECT_TRUE(ShareNames.empty());
+}
+
 TEST_F(Document, FindsTheFirstRowOfALabel)
 {
     IconTable.assign(3, {});

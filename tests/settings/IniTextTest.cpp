@@ -65,6 +65,94 @@ TEST(IniText, AValueMayHoldEqualsSigns)
     EXPECT_EQ(IniText("[A]\nx=a=b\n").Value("A", "x"), "a=b");
 }
 
+TEST(IniText, OnePairOfQuotesAroundAValueDoesNotCount)
+{
+    const IniText text("[A]\na=\"x\"\nb='x'\nc=\"\"\nd=''\ne=\"\"x\"\"\nf= \" x \" \n");
+
+    EXPECT_EQ(text.Value("A", "a"), "x");
+    EXPECT_EQ(text.Value("A", "b"), "x");
+    EXPECT_EQ(text.Value("A", "c"), "") << "quotes around nothing";
+    EXPECT_EQ(text.Value("A", "d"), "");
+    EXPECT_EQ(text.Value("A", "e"), "\"x\"");
+    EXPECT_EQ(text.Value("A", "f"), " x ");
+}
+
+TEST(IniText, QuotesThatAreNoPairStay)
+{
+    const IniText text("[A]\na=\"\nb='\nc=\"x'\nd='x\"\ne=\"x\nf=xyx\n");
+
+    EXPECT_EQ(text.Value("A", "a"), "\"");
+    EXPECT_EQ(text.Value("A", "b"), "'");
+    EXPECT_EQ(text.Value("A", "c"), "\"x'");
+    EXPECT_EQ(text.Value("A", "d"), "'x\"");
+    EXPECT_EQ(text.Value("A", "e"), "\"x");
+    EXPECT_EQ(text.Value("A", "f"), "xyx");
+}
+
+TEST(IniText, NamesMatchInAnyCaseFromAToZAndInNoOtherLetter)
+{
+    const IniText text("[AZ az]\nZebra=1\nALPHA=2\na@b=3\na[b=4\n\xC4=5\n");
+
+    EXPECT_EQ(text.Value("az AZ", "zEBRA"), "1");
+    EXPECT_EQ(text.Value("az AZ", "alpha"), "2");
+    EXPECT_EQ(text.Value("AZ AZ", "A@B"), "3");
+    EXPECT_EQ(text.Value("AZ AZ", "a`b"), std::nullopt);
+    EXPECT_EQ(text.Value("AZ AZ", "A[B"), "4");
+    EXPECT_EQ(text.Value("AZ AZ", "a{b"), std::nullopt);
+    EXPECT_EQ(text.Value("AZ AZ", "\xE4"), std::nullopt);
+}
+
+TEST(IniText, LinesThatAreNeitherAreNoNames)
+{
+    const IniText text("[A]\n=1\n =2\n[B\nwords\n;[C]\n[D]\n");
+
+    EXPECT_THAT(text.SectionNames(), ElementsAre("A", "D"));
+    EXPECT_THAT(text.KeyNames("A"), ElementsAre());
+    EXPECT_THAT(text.KeyNames("B"), ElementsAre()) << "there is no such section";
+    EXPECT_EQ(text.Value("B", "x"), std::nullopt);
+    EXPECT_EQ(text.Value("A", ""), std::nullopt);
+}
+
+TEST(IniText, BlanksAroundNamesAndValuesDoNotCount)
+{
+    const IniText text("\t[ A ] \n \tx \t=\v 1 2\f \n");
+
+    EXPECT_EQ(text.Value(" A", "x "), "1 2");
+    EXPECT_THAT(text.KeyNames("A"), ElementsAre("x"));
+}
+
+TEST(IniText, ANewKeyEndsItsSectionBeforeTheBlankLines)
+{
+    IniText text("[A]\r\nx=1\r\n\r\n \r\n[B]\r\n\r\n[C]");
+
+    EXPECT_TRUE(text.SetValue("a", "y", "2"));
+    EXPECT_TRUE(text.SetValue("B", "z", "3"));
+    EXPECT_TRUE(text.SetValue("C", "w", "4"));
+
+    EXPECT_EQ(text.Bytes(), "[A]\r\nx=1\r\ny=2\r\n\r\n \r\n[B]\r\nz=3\r\n\r\n[C]\r\nw=4\r\n");
+}
+
+TEST(IniText, AValueIsReplacedInPlaceAndItsNameStaysAsWritten)
+{
+    IniText text("[A]\n Key = 1 \nz=0");
+
+    EXPECT_TRUE(text.SetValue("A", "kEY", "2"));
+    EXPECT_TRUE(text.SetValue("A", "Z", "9"));
+
+    EXPECT_EQ(text.Bytes(), "[A]\n Key =2\nz=9");
+    EXPECT_EQ(text.Value("A", "key"), "2");
+}
+
+TEST(IniText, ANewSectionEndsTheFile)
+{
+    IniText text("[A]\r\nx=1");
+
+    EXPECT_TRUE(text.SetValue(" B ", " y ", "2"));
+
+    EXPECT_EQ(text.Bytes(), "[A]\r\nx=1\r\n[B]\r\ny=2\r\n");
+    EXPECT_EQ(text.Value("b", "Y"), "2") << "it is found at once";
+}
+
 TEST(IniText, ALineBreakInAValueOrNameBecomesABlank)
 {
     IniText text;
@@ -84,6 +172,9 @@ TEST(IniText, NamesThatCouldNotBeReadBackAreRefused)
     EXPECT_FALSE(text.SetValue("A", "a=b", "1"));
     EXPECT_FALSE(text.SetValue("A", "[x", "1"));
     EXPECT_FALSE(text.SetValue("A", ";x", "1"));
+    EXPECT_FALSE(text.SetValue("A", " ", "1"));
+    EXPECT_FALSE(text.SetValue("\n", "x", "1"));
+    EXPECT_FALSE(text.SetValue("A", "\xEF\xBB\xBFx", "1"));
     EXPECT_EQ(text.Bytes(), "[A]\n");
 }
 
@@ -95,6 +186,21 @@ TEST(IniText, DeletingTakesAllOfAName)
     EXPECT_EQ(text.Bytes(), "[A]\ny=3\n[B]\n[a]\nz=4\n");
     text.DeleteSection("A");
     EXPECT_EQ(text.Bytes(), "[B]\n");
+}
+
+TEST(IniText, DeletingWhatIsNotThereChangesNothing)
+{
+    const std::string bytes = "top\n[A]\nx=1\n;x=2\n";
+    IniText text(bytes);
+
+    text.DeleteKey("B", "x");
+    text.DeleteKey("A", "y");
+    text.DeleteSection("B");
+
+    EXPECT_EQ(text.Bytes(), bytes);
+    text.DeleteKey("A", "X");
+    EXPECT_EQ(text.Bytes(), "top\n[A]\n;x=2\n");
+    EXPECT_EQ(text.Value("A", "x"), std::nullopt);
 }
 
 RC_GTEST_PROP(IniText, AnyBytesAreKeptAndAWriteIsReadBack, (const std::string& bytes))

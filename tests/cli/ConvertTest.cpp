@@ -227,5 +227,14 @@ TEST_P(ConvertWithFaults, LeaveTheOldFileOrTheNewOneWhole)
 INSTANTIATE_TEST_SUITE_P(Kinds, ConvertWithFaults,
     ::testing::Values("space", "io", "short", "before", "within", "after"));
 
+TEST_F(Convert, LettersThatPalmOsHasNotBecomeQuestionMarks)
+{
+    EXPECT_EQ(Run({ "--version-string", "\xC3\xA9\xE2\x82\xAC\xC3" }).exitCode, 0);
+
+    const Bytes file = ReadBytes(folder.File("out.prc"));
+    const Bytes expected = Hex("E9 3F 3F 00");
+    EXPECT_NE(std::search(file.begin(), file.end(), expected.begin(), expected.end()), file.end());
+}
+
 } // namespace
 } // namespace vypx::test

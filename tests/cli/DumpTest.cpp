@@ -158,6 +158,22 @@ TEST_F(Dump, AWorkFolderWithAFileInItIsWrongUseAndStaysAsItWas)
     EXPECT_EQ(ReadText(folder.File("work/mine.bmp")), "mine");
 }
 
+TEST_F(Dump, AWorkFolderThatCannotBeMadeIsWrongUse)
+{
+    WriteText(folder.File("work"), "a file");
+    const ToolRun taken = DumpOf(Written(TwoIcons().File()));
+    EXPECT_EQ(taken.exitCode, 2);
+    EXPECT_EQ(taken.errors,
+        "pixelworks-cli: the work folder is not empty: " + folder.File("work") + "\n");
+
+    const ToolRun below = RunTool({ "dump", folder.File("set.prc"), "--app-folder", folder.Path(),
+        "--work", folder.File("work/below") });
+    EXPECT_EQ(below.exitCode, 2);
+    EXPECT_EQ(below.errors,
+        "pixelworks-cli: can't make the work folder: " + folder.File("work/below") + "\n");
+    EXPECT_EQ(ReadText(folder.File("work")), "a file");
+}
+
 TEST_F(Dump, AnEmptyWorkFolderServes)
 {
     std::filesystem::create_directory(folder.File("work"));

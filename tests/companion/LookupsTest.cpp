@@ -72,5 +72,18 @@ TEST(ChkShared, NeverGrowsTheTableOfNames)
     EXPECT_EQ(names, (Names{ "", "Fern (Large Icon)" }));
 }
 
+TEST(ChkShared, OfNothingOrOfARowThatIsNotThereIsEmpty)
+{
+    for (const char* label : { "", "Nobody", "Bare one" }) {
+        Names names(3, "stale");
+        ChkShared(Rows, names, label);
+        EXPECT_EQ(names, Names(3)) << label;
+    }
+    const std::vector<IconRow> unnamed{ { .ResourceKey = "tAIB1" }, { "A", "tAIB1" } };
+    Names names(3, "stale");
+    ChkShared(unnamed, names, "");
+    EXPECT_EQ(names, Names(3));
+}
+
 } // namespace
 } // namespace vypx

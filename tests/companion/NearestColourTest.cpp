@@ -132,6 +132,13 @@ TEST(NearestColour, Of565ColoursATieGoesToTheLowerIndex)
     EXPECT_EQ(nearest.IndexOf565(To565({ 255, 0, 0 })), 3);
 }
 
+TEST(NearestColour, APaletteHas1To256Colours)
+{
+    EXPECT_THROW(NearestColour{ Palette() }, std::invalid_argument);
+    EXPECT_THROW(NearestColour{ std::vector<Rgb>(257) }, std::invalid_argument);
+    EXPECT_EQ(NearestColour(std::vector<Rgb>(256)).IndexOf(1, 2, 3), 0);
+}
+
 TEST(Widening, IsRoundedAndNarrowingGoesBack)
 {
     for (int v = 0; v < 32; ++v) {

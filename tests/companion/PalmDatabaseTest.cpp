@@ -302,6 +302,45 @@ TEST_F(Database, AFailureLeavesTheOldFile)
     EXPECT_EQ(ReadText(out), "old");
 }
 
+TEST_F(Database, WithoutAFileNameNothingIsWritten)
+{
+    const auto failure =
+        CompilePRC({ { Version } }, {}, Palette8, Palette4, 8, false, "", "N", folder.Path() + "/");
+
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->reason, "there is no file name");
+    EXPECT_EQ(failure->file, "");
+}
+
+TEST_F(Database, AnIdIsTheNumberBehindTheType)
+{
+    const auto id = [&](const std::string& key) {
+        EXPECT_FALSE(Compile({ { "a.bmp", "", key } }));
+        return ByteView(Out()).U16(82);
+    };
+
+    EXPECT_EQ(id("tAIB3500"), 3500);
+    EXPECT_EQ(id("tAIB3500(Dup)"), 3500);
+    EXPECT_EQ(id("Tbmp65535"), 65535);
+    EXPECT_EQ(id("Tbmp0019"), 19);
+    EXPECT_EQ(id("Tbmp"), 0);
+    EXPECT_EQ(id("Tbmp/9"), 0) << "the character before 0";
+    EXPECT_EQ(id("Tbmp1:9"), 1) << "the character behind 9";
+}
+
+TEST_F(Database, AColourWithoutAllOfItsNumbersIsNone)
+{
+    for (const TransparencyRow& row : { TransparencyRow{ "a.bmp", "1", "255", "", "255" },
+             TransparencyRow{ "a.bmp", "1", "255", "0", "" },
+             TransparencyRow{ "a.bmp", "1", "255", "-1", "255" },
+             TransparencyRow{ "a.bmp", "1", "255", "0", "256" } }) {
+        const std::vector<TransparencyRow> rows{ row };
+        EXPECT_FALSE(CompilePRC({ { { "a.bmp", "", "Tbmp1" } } }, rows, Palette8, Palette4, 8,
+            false, out, "Name", folder.Path() + "/"));
+        EXPECT_EQ(Out()[98 + 6], 0) << row.red << row.green << row.blue;
+    }
+}
+
 TEST(WriteItbl, SortsByClassAndThenByCreatorWithTheLargeIdFirst)
 {
     const TempFolder folder;

@@ -206,6 +206,25 @@ TEST_F(SettingsFileTest, BothResolutionsAtOnceBecomeLowRes)
     EXPECT_EQ(Value("Resolution", "Default Icon Res"), "Low Res Only");
 }
 
+TEST_F(SettingsFileTest, EachResolutionHasItsWords)
+{
+    const auto saved = [&](bool high, bool low) {
+        HighResOnly = high;
+        LowResOnly = low;
+        SettingsSaved = false;
+        Save();
+        HighResOnly = LowResOnly = !high && !low;
+        ReadSettings();
+        EXPECT_EQ(HighResOnly, high);
+        EXPECT_EQ(LowResOnly, low);
+        return Value("Resolution", "Default Icon Res");
+    };
+
+    EXPECT_EQ(saved(true, false), "High Res Only");
+    EXPECT_EQ(saved(false, true), "Low Res Only");
+    EXPECT_EQ(saved(false, false), "Both High and Low Res");
+}
+
 TEST_F(SettingsFileTest, TheColourInUseIsWhatIsSaved)
 {
     R = 10;

@@ -66,5 +66,39 @@ TEST_F(WorkingFolder, AFolderInTheWayOfOneToMakeFails)
     EXPECT_THROW(MakeFolder(folder.File("file") + "/below"), std::filesystem::filesystem_error);
 }
 
+TEST_F(WorkingFolder, AFileIsNoFolder)
+{
+    WriteText(WorkPath("file"), "");
+
+    EXPECT_FALSE(DirExists(WorkPath("file")));
+    EXPECT_FALSE(DirExists(WorkPath("gone")));
+    EXPECT_TRUE(DirExists(WorkFolder()));
+}
+
+TEST_F(WorkingFolder, AFileInTheRootLiesInTheRoot)
+{
+    EXPECT_EQ(FolderOf("/file.prc"), "/");
+    EXPECT_EQ(FolderOf("/a/file.prc"), "/a");
+    EXPECT_EQ(FolderOf("file.prc"), "");
+    EXPECT_EQ(LastComponent("/file.prc"), "file.prc");
+    EXPECT_EQ(LastComponent("/a/"), "");
+}
+
+TEST_F(WorkingFolder, AWildcardMayStandForNothingAndTryAgain)
+{
+    WriteText(WorkPath("aabab.bmp"), "");
+
+    EXPECT_TRUE(FileExists(WorkPath("a*ab.b*mp*")));
+    EXPECT_TRUE(FileExists(WorkPath("AABAB.*")));
+    EXPECT_FALSE(FileExists(WorkPath("a*aba.bmp")));
+    EXPECT_FALSE(FileExists(WorkPath("?abab.bmp?")));
+    EXPECT_FALSE(FileExists(folder.File("gone/*.bmp")));
+}
+
+TEST_F(WorkingFolder, OnlyAToZHaveALowerCase)
+{
+    EXPECT_EQ(LowerCase("AZ@[az`{09\xC4"), "az@[az`{09\xC4");
+}
+
 } // namespace
 } // namespace vypx::test

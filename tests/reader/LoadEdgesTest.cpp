@@ -136,5 +136,82 @@ TEST_F(LoadEdges, AnIndexOfBrokenLengthIsToldAndNamesNobody)
     EXPECT_THAT(listener.messages, ElementsAre("Error reading iTbl"));
 }
 
+/// A record's rows end where the buffer ends: five columns behind the padded row.
+TEST_F(LoadEdges, PixelsThatOverrunTheirRowFailTheLoad)
+{
+    const auto open = [&](const std::string& record) {
+        return Open(
+            Iconset{ .resources = { { .type = "Tbmp", .id = 1, .data = Hex(record) } } }.File());
+    };
+    // width height rowBytes flags size version next index form, then the size field
+    const std::string eight = "0004 0001 0004 8000 08 01 0000 00",
+                      sixteen = "0002 0001 0004 8000 10 01 0000 00", more = " 05060500 00000000";
+
+    EXPECT_EQ(open(eight + "02 0000 0000 03 01020304 00"), LoadResult::Opened);
+    EXPECT_EQ(open(eight + "02 0000 0000 0A 0102030405060708090A0B"), LoadResult::Failed);
+    EXPECT_EQ(open(eight + "02 0000 0000 F6 01 0000"), LoadResult::Failed);
+    EXPECT_EQ(open(eight + "01 0000 0000 0A 01 0000"), LoadResult::Failed) << "a run of 10";
+    EXPECT_EQ(open(eight + "01 0000 0000 09 01 0000"), LoadResult::Opened) << "a run of 9";
+    EXPECT_EQ(open(sixteen + "02 0000" + more + "0000 FF 0102 0000"), LoadResult::Opened);
+    EXPECT_EQ(open(sixteen + "02 0000" + more + "0000 FC 0102 0000"), LoadResult::Failed);
+    EXPECT_EQ(
+        open(sixteen + "02 0000" + more + "0000 04 01020304050607080910 00"), LoadResult::Failed);
+    EXPECT_FALSE(FileLoaded);
+}
+
+/// Of 32,768 records, as many as a number of 16 bits with a sign does not tell.
+TEST_F(LoadEdges, AnIndexOfTooManyRecordsEndsTheWalkWithoutWords)
+{
+    const auto open = [&](std::size_t records) {
+        const Resource index{ .type = "iTbl", .id = 1000, .data = Bytes(records * 16, 'x') };
+        EXPECT_EQ(Open(Iconset{ .resources = { index, Icon(3500) } }.File()), LoadResult::Opened);
+        EXPECT_THAT(listener.messages, IsEmpty());
+    };
+
+    open(32767);
+    EXPECT_THAT(Labels(), ElementsAre("tAIB3500 (Orphan) "));
+    open(32768);
+    EXPECT_THAT(Labels(), IsEmpty());
+}
+
+/// Type and creator have four characters each in the index, so shorter ones are nobody's.
+TEST_F(LoadEdges, ACatalogEntryOfAnotherLengthOwnsNothing)
+{
+    AppTable = { {}, { "Short", "appl", "ALP", "" }, { "Long", "appl", "ALPHA", "" },
+        { "Type", "app", "lALPH", "" }, { "", "appl", "ALPH", "" } };
+
+    Open(Iconset{ .resources = { Index({ IndexRecord("appl", "ALPH", 3500, 0) }), Icon(3500) } }
+             .File());
+
+    EXPECT_THAT(Labels(), ElementsAre("tAIB3500 (ALPH - Large) "));
+}
+
+TEST_F(LoadEdges, APathWithoutRoomForAnEndingIsOfTheWrongType)
+{
+    WriteText(folder.File("p"), "");
+    EXPECT_EQ(Open({}, "p"), LoadResult::WrongFileType);
+    EXPECT_THAT(listener.messages, ElementsAre("Incorrect file type."));
+}
+
+/// Behind the last low-density record the walk of the resource ends, whatever stands there.
+TEST_F(LoadEdges, OnlyTheMarkLeadsBeyondTheLowDensityRecords)
+{
+    // The first leads to the second, which is the last one; a third stands behind it all the same.
+    const Bytes family = Join({ LowRecord(1, false), LowRecord(8), LowRecord(4) });
+    const Bytes marks =
+        Join({ LowRecord(8, false), Separator(), HighRecord(8), Separator(), HighRecord(4) });
+
+    EXPECT_EQ(Open(Iconset{ .resources = { { .type = "tAIB", .id = 3500, .data = family },
+                                { .type = "tAIB", .id = 3501, .data = marks }, Icon(3502) } }
+                       .File()),
+        LoadResult::Opened);
+
+    EXPECT_THAT(LowFiles(), ElementsAre("tAIB3500.bmp", "tAIB3501.bmp", "tAIB3502.bmp"));
+    EXPECT_EQ(IconTable[0].HighResFile, "NEW");
+    EXPECT_EQ(IconTable[1].HighResFile, "tAIB3501-d144.bmp");
+    EXPECT_EQ(BitmapTable[0].depth, 8);
+    EXPECT_EQ(BitmapTable[2].depth, 8) << "the first behind the first mark";
+}
+
 } // namespace
 } // namespace vypx::test

@@ -314,6 +314,44 @@ TEST_F(Inifile, SectionNamesBeyond8192CharactersAreCutOff)
     EXPECT_EQ(names.back(), "last89") << "cut off where the buffer ended";
 }
 
+TEST_F(Inifile, AListCutBetweenTwoNamesEndsWithTheLastWholeOne)
+{
+    // 8190 characters are 1023 names of 7 and a NUL, then one of 5 and its NUL.
+    std::string text;
+    for (int i = 0; i < 1023; ++i)
+        text += "[name" + std::to_string(100 + i % 900) + "]\n";
+    WriteText(file, text + "[lasts]\n[more]\n");
+
+    const std::vector<std::string> names = Sections();
+
+    EXPECT_EQ(names.size(), 1024u);
+    EXPECT_EQ(names.back(), "lasts");
+}
+
+TEST_F(Inifile, WithoutAPathThereIsNothing)
+{
+    ini.path("");
+    ini.Default("d");
+
+    EXPECT_EQ(Read("A", "x"), "d");
+    Write("A", "x", "1");
+    EXPECT_FALSE(ini.Success());
+    EXPECT_THAT(Sections(), IsEmpty());
+}
+
+TEST_F(Inifile, ANameThatCannotBeWrittenIsAFailureAndTheFileStays)
+{
+    WriteText(file, "[A]\nx=1\n");
+    Write("A", "y", "2");
+    EXPECT_TRUE(ini.Success());
+
+    Write("A", "a=b", "3");
+
+    EXPECT_FALSE(ini.Success());
+    EXPECT_EQ(ini.LastReturnCode(), 0);
+    EXPECT_EQ(ReadText(file), "[A]\nx=1\ny=2\n");
+}
+
 TEST_F(Inifile, NumbersFromText)
 {
     EXPECT_EQ(cInifile::CLngDefault("FAIL", 7), 7);
@@ -327,6 +365,9 @@ TEST_F(Inifile, NumbersFromText)
     EXPECT_EQ(cInifile::CLngDefault("2147483647", 7), 2147483647);
     EXPECT_EQ(cInifile::CLngDefault("2147483648", 7), 7);
     EXPECT_EQ(cInifile::CLngDefault("-2147483648", 7), INT32_MIN);
+    EXPECT_EQ(cInifile::CLngDefault("-2147483649", 7), 7);
+    EXPECT_EQ(cInifile::CLngDefault("\t8\t", 7), 8);
+    EXPECT_EQ(cInifile::CLngDefault("-2.5", 7), -2);
     for (const char* text : { "", " ", "12x", "1 2", "inf", "nan", "+-1", "--1", "0x10" })
         EXPECT_EQ(cInifile::CLngDefault(text, 7), 7) << text;
 }
@@ -431,6 +472,57 @@ TEST_F(Inifile, AMaximisedFormOfASizeThatIsNoNumberIsReadByTheFallbacks)
     EXPECT_EQ(window.height, before.height);
     EXPECT_EQ(window.state, WindowState::Maximised);
     EXPECT_EQ(ini.key() + ini.Default(), "kd");
+}
+
+TEST_F(Inifile, AWindowThatIsHighEnoughButTooNarrowStaysToo)
+{
+    WriteText(file, "[Form]\nLeft=100\nTop=100\nWidth=500\nHeight=90000\n");
+    ini.Section("Form");
+    Placement window = OnAScreen();
+
+    ini.LoadFormPosition(window, 100, 20000);
+
+    EXPECT_EQ(window.left, OnAScreen().left);
+    EXPECT_EQ(window.height, OnAScreen().height);
+}
+
+TEST_F(Inifile, APlaceThatNoNumberTellsIsAFailure)
+{
+    WriteText(file, "[Form]\nLeft=100\nMaximised=1\n");
+    Write("Form", "Top", "100");
+    ASSERT_TRUE(ini.Success());
+    ini.key("k");
+    ini.Default("d");
+    // The margin of four pixels is beyond 32 bits in one of the directions.
+    for (std::int32_t Placement::*pixel :
+        { &Placement::twipsPerPixelX, &Placement::twipsPerPixelY }) {
+        Placement window = OnAScreen();
+        window.*pixel = 1'000'000'000;
+        const Placement before = window;
+
+        ini.LoadFormPosition(window, 100, 100);
+
+        EXPECT_EQ(window.left, before.left);
+        EXPECT_EQ(window.top, before.top);
+        EXPECT_EQ(window.width, before.width);
+        EXPECT_EQ(window.state, WindowState::Normal);
+        EXPECT_EQ(ini.LastReturnCode(), 0);
+        EXPECT_EQ(ini.key() + ini.Default(), "kd");
+    }
+}
+
+TEST_F(Inifile, AWindowThatTouchesTheMarginsIsNotMoved)
+{
+    WriteText(file, "[Form]\nLeft=60\nTop=60\nWidth=14880\nHeight=11880\n");
+    ini.Section("Form");
+    Placement window = OnAScreen();
+
+    ini.LoadFormPosition(window, 14880, 11880);
+
+    EXPECT_EQ(window.left, 60);
+    EXPECT_EQ(window.width, 15000 - 120);
+    EXPECT_EQ(window.top, 60);
+    EXPECT_EQ(window.height, 12000 - 120);
 }
 
 /// Names and values that can stand in a file as they are.

@@ -32,6 +32,10 @@ TEST_F(SaveChecks, SpeakInTheirOrder)
     set(2, 1, 0, 0, 0, 1);
     EXPECT_EQ(
         WhyNotSaved(), "Error! Iconset must contain at least on normal icon that has images.");
+    set(1, 0, 1, 0, 0, 0);
+    EXPECT_EQ(WhyNotSaved(), "Error! Iconset doesn't contain any images.");
+    set(1, 0, 1, 1, 0, 0);
+    EXPECT_EQ(WhyNotSaved(), std::nullopt);
     set(1, 1, 0, 0, 1, 0);
     EXPECT_EQ(WhyNotSaved(), std::nullopt);
 }

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <nlohmann/json.hpp>
+#include <utility>
 
 namespace vypx {
 
@@ -21,14 +22,13 @@ json Icons()
     for (const IconRow& row : IconTable) {
         if (row.IconLabel.empty())
             continue;
-        icons.push_back({
-            { "label", Utf8FromLatin1(row.IconLabel) },
-            { "resourceKey", Utf8FromLatin1(row.ResourceKey) },
-            { "lowResFile", Utf8FromLatin1(row.LowResFile) },
-            { "highResFile", Utf8FromLatin1(row.HighResFile) },
-            { "state", Number(row.IconState) },
-            { "kind", row.IconKind },
-        });
+        json& icon = icons.emplace_back();
+        icon["label"] = Utf8FromLatin1(row.IconLabel);
+        icon["resourceKey"] = Utf8FromLatin1(row.ResourceKey);
+        icon["lowResFile"] = Utf8FromLatin1(row.LowResFile);
+        icon["highResFile"] = Utf8FromLatin1(row.HighResFile);
+        icon["state"] = Number(row.IconState);
+        icon["kind"] = row.IconKind;
     }
     return icons;
 }
@@ -39,14 +39,15 @@ json Bitmaps()
     const std::size_t made = std::min(static_cast<std::size_t>(BitmapRow), BitmapTable.size());
     for (std::size_t row = 0; row < made; ++row) {
         const BitmapEntry& bitmap = BitmapTable[row];
-        bitmaps.push_back({
-            { "file", bitmap.file.empty() ? json(nullptr) : json(Utf8FromLatin1(bitmap.file)) },
-            { "hasTransparent", Number(bitmap.hasTransparent) },
-            { "index", Number(bitmap.index) },
-            { "red", Number(bitmap.red) },
-            { "green", Number(bitmap.green) },
-            { "blue", Number(bitmap.blue) },
-        });
+        json& entry = bitmaps.emplace_back();
+        entry["file"] = nullptr;
+        if (!bitmap.file.empty())
+            entry["file"] = Utf8FromLatin1(bitmap.file);
+        entry["hasTransparent"] = Number(bitmap.hasTransparent);
+        entry["index"] = Number(bitmap.index);
+        entry["red"] = Number(bitmap.red);
+        entry["green"] = Number(bitmap.green);
+        entry["blue"] = Number(bitmap.blue);
     }
     return bitmaps;
 }
@@ -54,13 +55,13 @@ json Bitmaps()
 json Index()
 {
     json records = json::array();
-    for (std::size_t row = 1; row < Itbl.size(); ++row)
-        records.push_back({
-            { "type", Utf8FromLatin1(Itbl[row].type) },
-            { "creator", Utf8FromLatin1(Itbl[row].creator) },
-            { "large", Itbl[row].largeId },
-            { "small", Itbl[row].smallId },
-        });
+    for (std::size_t row = 1; row < Itbl.size(); ++row) {
+        json& record = records.emplace_back();
+        record["type"] = Utf8FromLatin1(Itbl[row].type);
+        record["creator"] = Utf8FromLatin1(Itbl[row].creator);
+        record["large"] = Itbl[row].largeId;
+        record["small"] = Itbl[row].smallId;
+    }
     return records;
 }
 
@@ -78,25 +79,25 @@ json Nodes()
     std::sort(sorted.begin(), sorted.end(),
         [](const IconNode& one, const IconNode& other) { return one.key < other.key; });
     json nodes = json::array();
-    for (const IconNode& node : sorted)
-        nodes.push_back({
-            { "key", Utf8FromLatin1(node.key) },
-            { "image", node.image },
-            { "colour", HexColour(node.colour) },
-        });
+    for (const IconNode& node : sorted) {
+        json& entry = nodes.emplace_back();
+        entry["key"] = Utf8FromLatin1(node.key);
+        entry["image"] = node.image;
+        entry["colour"] = HexColour(node.colour);
+    }
     return nodes;
 }
 
 json Stats()
 {
-    return {
-        { "total", StatTotal },
-        { "large", StatLarge },
-        { "small", StatSmall },
-        { "highRes", StatHighRes },
-        { "lowRes", StatLowRes },
-        { "unknown", StatUnknown },
-    };
+    json stats;
+    stats["total"] = StatTotal;
+    stats["large"] = StatLarge;
+    stats["small"] = StatSmall;
+    stats["highRes"] = StatHighRes;
+    stats["lowRes"] = StatLowRes;
+    stats["unknown"] = StatUnknown;
+    return stats;
 }
 
 } // namespace
@@ -121,16 +122,16 @@ json DocumentJson(const std::vector<std::string>& messages)
     json texts = json::array();
     for (const std::string& message : messages)
         texts.push_back(Utf8FromLatin1(message));
-    return {
-        { "loaded", FileLoaded },
-        { "databaseName", Utf8FromLatin1(DatabaseName) },
-        { "messages", texts },
-        { "icons", Icons() },
-        { "bitmaps", Bitmaps() },
-        { "iconTable", Index() },
-        { "tree", Nodes() },
-        { "stats", Stats() },
-    };
+    json document;
+    document["loaded"] = FileLoaded;
+    document["databaseName"] = Utf8FromLatin1(DatabaseName);
+    document["messages"] = std::move(texts);
+    document["icons"] = Icons();
+    document["bitmaps"] = Bitmaps();
+    document["iconTable"] = Index();
+    document["tree"] = Nodes();
+    document["stats"] = Stats();
+    return document;
 }
 
 } // namespace vypx

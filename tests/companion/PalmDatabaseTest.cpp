@@ -312,6 +312,18 @@ TEST_F(Database, WithoutAFileNameNothingIsWritten)
     EXPECT_EQ(failure->file, "");
 }
 
+TEST_F(Database, APictureMayBearTheKeysName)
+{
+    WriteBytes(folder.File("tAIB3500"), EncodeBmp24(TwoPixels()));
+    const Bytes record = EncodeLowDensity(TwoPixels(), Form(8), std::nullopt, false);
+
+    EXPECT_FALSE(Compile({ { "tAIB3500", "", "tAIB3500" } }));
+    const Bytes file = Out();
+    EXPECT_EQ(Bytes(file.begin() + 98, file.end()), record);
+    EXPECT_FALSE(Compile({ { "", "tAIB3500", "tAIB3500" } }));
+    EXPECT_EQ(Out().at(98 + 8), 0xFF);
+}
+
 TEST_F(Database, AnIdIsTheNumberBehindTheType)
 {
     const auto id = [&](const std::string& key) {

@@ -326,5 +326,33 @@ TEST_F(Selection, ClearingEverythingLeavesTheRootAndOneEmptyRow)
     EXPECT_EQ(Tree.Root(), Root);
 }
 
+/// Rows without a label stand in the table between a load's steps; they are nobody's.
+TEST_F(Selection, RowsWithoutALabelAreNeverMeant)
+{
+    Add("Alpha (Large Icon)", "tAIB3500", "a.bmp", "NEW");
+    IconTable.push_back({ "", "tAIB3501", "b.bmp", "b-d144.bmp", 0, "APP" });
+
+    const SelectionEffects effects = Select("");
+
+    EXPECT_NE(effects.removal, Removal::Restore);
+    EXPECT_FALSE(effects.lg.draw || effects.sm.draw);
+    EXPECT_FALSE(HasMarkedRows());
+    RebuildIconTree();
+    EXPECT_THAT(NodeKeys(), ElementsAre("Alpha (Large Icon)"));
+}
+
+TEST_F(Selection, ARowWithoutANodeCanBeMarkedAllTheSame)
+{
+    IconTable.push_back({ "Alpha (Large Icon)", "tAIB3500", "a.bmp", "NEW", 1, "APP" });
+    SelectedNode = "Alpha (Large Icon)";
+
+    EXPECT_EQ(ToggleRemoval(), Removal::Restore);
+
+    EXPECT_EQ(IconTable.back().IconState, 0);
+    EXPECT_TRUE(HasMarkedRows());
+    RebuildIconTree();
+    EXPECT_THAT(NodeKeys(), ElementsAre());
+}
+
 } // namespace
 } // namespace vypx::test

@@ -1,5 +1,7 @@
 #include "settings/Inifile.h"
 
+#include "platform/Platform.h"
+#include "support/CommonUser.h"
 #include "support/Files.h"
 #include "support/TempFolder.h"
 
@@ -129,6 +131,63 @@ TEST_F(Inifile, SuccessTellsOfTheLastWriteOnly)
     EXPECT_FALSE(ini.Success());
     EXPECT_EQ(ini.LastReturnCode(), 0);
 }
+
+TEST_F(Inifile, AWriteOfWhatStandsThereLeavesTheFileAlone)
+{
+    WriteText(file, "[A]\nx=1\n");
+    const auto before = platform::IdentityOf(file);
+
+    Write("A", "x", "1");
+
+    EXPECT_TRUE(ini.Success());
+    EXPECT_EQ(platform::IdentityOf(file), before);
+}
+
+#ifndef _WIN32
+TEST_F(Inifile, AWriteOfWhatStandsThereFailsWhereAnyWriteWould)
+{
+    WriteText(file, "[A]\nx=1\n");
+    std::filesystem::permissions(folder.Path(), std::filesystem::perms(0777));
+    std::filesystem::permissions(file, std::filesystem::perms(0444));
+    {
+        const CommonUser common;
+        Write("A", "x", "1");
+        EXPECT_FALSE(ini.Success()) << "a file that can't be written";
+    }
+    std::filesystem::permissions(file, std::filesystem::perms(0666));
+    std::filesystem::permissions(folder.Path(), std::filesystem::perms(0555));
+    {
+        const CommonUser common;
+        Write("A", "x", "1");
+        EXPECT_FALSE(ini.Success()) << "a folder that can't be written";
+    }
+    std::filesystem::permissions(folder.Path(), std::filesystem::perms(0777));
+    {
+        const CommonUser common;
+        Write("A", "x", "1");
+        EXPECT_TRUE(ini.Success());
+    }
+}
+
+TEST_F(Inifile, ALinkIsFollowedAndStaysAndOneToItselfCannotBeWritten)
+{
+    WriteText(folder.File("real.ini"), "[A]\nx=1\n");
+    std::filesystem::create_symlink("real.ini", file);
+
+    Write("A", "x", "2");
+
+    EXPECT_TRUE(ini.Success());
+    EXPECT_TRUE(std::filesystem::is_symlink(file));
+    EXPECT_EQ(ReadText(folder.File("real.ini")), "[A]\nx=2\n");
+
+    std::filesystem::remove(file);
+    std::filesystem::create_symlink(file, file);
+    Write("A", "x", "3");
+
+    EXPECT_FALSE(ini.Success());
+    EXPECT_TRUE(std::filesystem::is_symlink(file));
+}
+#endif
 
 TEST_F(Inifile, AFolderInTheFilesPlaceCannotBeWritten)
 {

@@ -233,8 +233,10 @@ std::optional<CompileFailure> CompilePRC(std::span<const ResourceRow> resources,
         if (outputPath.empty())
             return CompileFailure{ {}, "there is no file name" };
         const Bytes file = Database(resources, databaseName, outputPath, compiler);
-        if (const std::error_code error = platform::ReplaceFile(outputPath, file))
-            return CompileFailure{ outputPath, error.message() };
+        if (const std::error_code error = platform::ReplaceFile(outputPath, file)) {
+            const platform::Refusal refusal = platform::ExplainRefusal(outputPath, error);
+            return CompileFailure{ refusal.path, refusal.reason };
+        }
         return std::nullopt;
     } catch (const CompileFailure& failure) {
         return failure;

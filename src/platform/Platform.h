@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <optional>
@@ -27,8 +28,8 @@ std::string Utf8Path(const std::filesystem::path& path);
 struct FileIdentity {
     std::uint64_t volume = 0, file = 0;
     std::uint64_t size = 0;    ///< bytes
-    std::int64_t modified = 0; ///< nanoseconds; the system's own epoch
-    std::int64_t changed = 0;  ///< nanoseconds; time of the last change of the file's own record
+    std::int64_t modified = 0; ///< nanoseconds since 1970
+    std::int64_t changed = 0;  ///< the same; time of the last change of the file's own record
 
     friend bool operator==(const FileIdentity&, const FileIdentity&) = default;
 };
@@ -36,30 +37,42 @@ struct FileIdentity {
 /// Empty when there is no such file.
 std::optional<FileIdentity> IdentityOf(const std::string& path);
 
+/// A time of a Windows file, in units of 100 ns since the beginning of 1601, as nanoseconds since
+/// the beginning of 1970. What 64 bits can't hold (before 1677, after 2262) is cut to their ends.
+std::int64_t NanosecondsFromFileTime(std::uint64_t ticks);
+
 /// The whole of a regular file; empty when it can't be read or has more than `limit` bytes.
 /// Folders, pipes and devices are not read.
 std::optional<std::vector<std::uint8_t>> ReadWholeFile(
     const std::string& path, std::uintmax_t limit = UINT32_MAX);
 
-/// Replaces or creates the file `path` by `bytes` in one step: written beside it under a name that
-/// ends in ".vypx-new", synced, given the old file's permissions, renamed over it. A symbolic link
-/// is followed first and stays a link. After a failure, which the result names, the old file
-/// stands as it was and nothing is left beside it. A leftover of a killed writer is no obstacle.
-/// With `like`, an existing file, the permissions are that file's, as a copy has them, and the
-/// right to write it again (on Windows those of the folder or the old file).
+/// Replaces or creates the file `path` by `bytes` in one step: written beside it under a name of
+/// its own that ends in ".vypx-new", synced, given the old file's permissions, renamed over it. A
+/// symbolic link is followed first and stays a link. After a failure, which the result names, the
+/// old file stands as it was and nothing is left beside it. With `like`, an existing file, the
+/// permissions are that file's, as a copy has them, and the right to write it again (on Windows
+/// those of the folder or the old file). At no time can more users read the new bytes than the
+/// file whose permissions they get.
+///
+/// Any number of processes may replace one file at once: each succeeds, and the file has the whole
+/// bytes of one of them, in the end those of the last. What a killed one left goes at the next
+/// call for that file.
 std::error_code ReplaceFile(
     const std::string& path, std::span<const std::uint8_t> bytes, const std::string& like = {});
 
-/// Where ReplaceFile writes first: beside `target`, under its name and ".vypx-new". A long name is
-/// cut, so that no name has more than 255 units of the system's.
-std::filesystem::path PassingFile(const std::filesystem::path& target);
+/// A failed ReplaceFile in words for the user.
+struct Refusal {
+    std::string path;   ///< the file, or its folder where it is the folder that refuses
+    std::string reason; ///< without a full stop
+};
+Refusal ExplainRefusal(const std::string& path, std::error_code error);
 
 /// Whether files can be made in an existing folder, found out by making one.
 bool FolderIsWritable(const std::string& folder);
 
 /// A lock on a file that lives as long as this object and never longer than the process: the
 /// system frees it after a crash as well. Other processes and other objects of this process are
-/// kept out alike. The file stays empty.
+/// kept out alike. The file stays empty. One that is deleted meanwhile locks nobody out any more.
 class FileLock {
 public:
     FileLock() = default;
@@ -77,6 +90,8 @@ public:
 
     /// Makes the file if it is missing. Gives up what this object held before.
     Answer TryLock(const std::string& path);
+    /// The same, but waits at most that long for another one to go.
+    Answer Lock(const std::string& path, std::chrono::milliseconds patience);
     bool Held() const;
     void Unlock();
 

@@ -1,7 +1,8 @@
 #include "platform/Platform.h"
 
-#include <algorithm>
 #include <fstream>
+#include <limits>
+#include <thread>
 #include <utility>
 
 namespace vypx::platform {
@@ -42,14 +43,38 @@ std::optional<std::vector<std::uint8_t>> ReadWholeFile(
     return bytes;
 }
 
-fs::path PassingFile(const fs::path& target)
+Refusal ExplainRefusal(const std::string& path, std::error_code error)
 {
-    const fs::path::string_type name = target.filename().native();
-    const fs::path::string_type ending = fs::path(".vypx-new").native();
-    std::size_t kept = std::min(name.size(), 255 - ending.size());
-    while (kept < name.size() && kept > 0 && (name[kept] & 0xC0) == 0x80) // no half a character
-        --kept;
-    return target.parent_path() / (name.substr(0, kept) + ending);
+    if (error == std::errc::is_a_directory)
+        return { path, "there is a folder of this name" };
+    const bool mayBeTheFolder = error == std::errc::permission_denied
+        || error == std::errc::operation_not_permitted || error == std::errc::not_a_directory
+        || error == std::errc::no_such_file_or_directory
+        || error == std::errc::read_only_file_system;
+    if (!mayBeTheFolder)
+        return { path, error.message() };
+    std::error_code unknown;
+    const fs::path file = NativePath(path);
+    // Behind a link it is another folder than the one that the path names.
+    const bool isLink = fs::is_symlink(file, unknown);
+    fs::path folder = (isLink ? fs::weakly_canonical(file, unknown) : file).parent_path();
+    if (folder.empty())
+        folder = fs::current_path(unknown);
+    const bool fileRefuses =
+        fs::exists(file, unknown) && !std::ofstream(file, std::ios::binary | std::ios::app);
+    if (fileRefuses || FolderIsWritable(Utf8Path(folder)))
+        return { path, error.message() };
+    return { Utf8Path(folder), error.message() };
+}
+
+std::int64_t NanosecondsFromFileTime(std::uint64_t ticks)
+{
+    constexpr std::int64_t TicksTo1970 = 116'444'736'000'000'000;
+    constexpr std::int64_t Most = std::numeric_limits<std::int64_t>::max() / 100;
+    if (ticks > static_cast<std::uint64_t>(TicksTo1970 + Most))
+        return std::numeric_limits<std::int64_t>::max();
+    const std::int64_t since1970 = static_cast<std::int64_t>(ticks) - TicksTo1970;
+    return since1970 < -Most ? std::numeric_limits<std::int64_t>::min() : since1970 * 100;
 }
 
 bool FolderIsWritable(const std::string& folder)
@@ -74,6 +99,17 @@ FileLock& FileLock::operator=(FileLock&& other) noexcept
 }
 
 FileLock::~FileLock() { Unlock(); }
+
+FileLock::Answer FileLock::Lock(const std::string& path, std::chrono::milliseconds patience)
+{
+    const auto end = std::chrono::steady_clock::now() + patience;
+    Answer answer = TryLock(path);
+    while (answer == Answer::HeldByAnother && std::chrono::steady_clock::now() < end) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        answer = TryLock(path);
+    }
+    return answer;
+}
 
 bool FileLock::Held() const { return m_handle != -1; }
 

@@ -1,5 +1,6 @@
 #ifndef _WIN32
 
+#include "platform/PassingFile.h"
 #include "platform/Platform.h"
 
 #include <cerrno>
@@ -18,6 +19,15 @@ std::error_code LastError() { return { errno, std::generic_category() }; }
 std::int64_t Nanoseconds(const timespec& time)
 {
     return static_cast<std::int64_t>(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
+}
+
+/// Whether the open file is the one that stands at `path`, and not one that was deleted meanwhile.
+bool StandsAt(int file, const char* path)
+{
+    struct stat open {
+    }, there{};
+    return ::fstat(file, &open) == 0 && ::stat(path, &there) == 0 && open.st_dev == there.st_dev
+        && open.st_ino == there.st_ino;
 }
 
 bool WriteAll(int file, std::span<const std::uint8_t> bytes)
@@ -61,25 +71,70 @@ std::error_code TakeRights(int file, const struct stat& model)
     return ::fchmod(file, mode) == 0 ? std::error_code() : LastError();
 }
 
-/// Writes, syncs and closes the passing file. The first failure is the one that is told.
-std::error_code WritePassingFile(
-    const std::string& name, std::span<const std::uint8_t> bytes, const struct stat* model)
+/// Takes away what killed writers left. A passing file that can be locked has no writer any more.
+void RemoveDeadPassingFiles(const std::filesystem::path& target)
 {
-    ::unlink(name.c_str());
-    const int file = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    if (file < 0)
-        return LastError();
-    std::error_code error;
-    if (!WriteAll(file, bytes))
-        error = LastError();
-    if (!error && model)
-        error = TakeRights(file, *model);
-    if (!error && ::fsync(file) != 0)
-        error = LastError();
-    if (::close(file) != 0 && !error)
-        error = LastError();
-    return error;
+    for (const std::filesystem::path& name : PassingFilesOf(target)) {
+        const int file = ::open(name.c_str(), O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
+        if (file < 0)
+            continue;
+        if (::flock(file, LOCK_EX | LOCK_NB) == 0 && StandsAt(file, name.c_str()))
+            ::unlink(name.c_str());
+        ::close(file);
+    }
 }
+
+/// A file beside its target that no other writer takes for a dead one, as it is locked.
+struct PassingFile {
+    std::string name;
+    int file = -1;
+
+    std::error_code Open(const std::filesystem::path& target, mode_t mode)
+    {
+        constexpr int Tries = 100;
+        for (int i = 0; i < Tries; ++i) {
+            name = NewPassingFile(target).string();
+            file = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+            if (file < 0 && errno != EEXIST)
+                return LastError();
+            if (file < 0)
+                continue;
+            // Where files can't be locked, another writer can't do it either.
+            const bool isOurs = ::flock(file, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+            if (isOurs && StandsAt(file, name.c_str()))
+                return {};
+            ::unlink(name.c_str()); // taken for a dead one before it was locked
+            ::close(file);
+        }
+        return std::make_error_code(std::errc::resource_unavailable_try_again);
+    }
+
+    /// Writes, syncs and closes it and gives it its target's name; it stays locked until then. The
+    /// first failure is the one that is told.
+    std::error_code Become(const std::filesystem::path& target, std::span<const std::uint8_t> bytes,
+        const struct stat* model)
+    {
+        std::error_code error;
+        if (!WriteAll(file, bytes))
+            error = LastError();
+        if (!error && model)
+            error = TakeRights(file, *model);
+        if (!error && ::fsync(file) != 0)
+            error = LastError();
+        const int lock = ::fcntl(file, F_DUPFD_CLOEXEC, 0);
+        if (lock < 0 && !error)
+            error = LastError();
+        if (::close(file) != 0 && !error)
+            error = LastError();
+        if (!error && std::rename(name.c_str(), target.c_str()) != 0)
+            error = LastError();
+        if (error)
+            ::unlink(name.c_str());
+        if (lock >= 0)
+            ::close(lock);
+        return error;
+    }
+};
 
 } // namespace
 
@@ -118,6 +173,8 @@ std::error_code ReplaceFile(
 
     struct stat old { };
     const bool replaces = ::stat(target.c_str(), &old) == 0;
+    if (replaces && S_ISDIR(old.st_mode))
+        return std::make_error_code(std::errc::is_a_directory);
     if (replaces && !S_ISREG(old.st_mode))
         return std::make_error_code(std::errc::invalid_argument);
     // A file that its user made read-only is not to be replaced behind that user's back.
@@ -129,13 +186,14 @@ std::error_code ReplaceFile(
     if (isCopy)
         model.st_mode |= S_IWUSR; // or it could not be replaced by the next one
     const bool hasModel = isCopy || replaces;
-    const std::string passing = PassingFile(target).string();
-    error = WritePassingFile(passing, bytes, hasModel ? &model : nullptr);
-    if (!error && std::rename(passing.c_str(), target.c_str()) != 0)
-        error = LastError();
-    if (error)
-        ::unlink(passing.c_str());
-    else
+
+    RemoveDeadPassingFiles(target);
+    PassingFile passing;
+    // Until it has the model's rights, nobody else can read it.
+    error = passing.Open(target, hasModel ? 0600 : 0666);
+    if (!error)
+        error = passing.Become(target, bytes, hasModel ? &model : nullptr);
+    if (!error)
         SyncFolderOf(target);
     return error;
 }
@@ -143,16 +201,23 @@ std::error_code ReplaceFile(
 FileLock::Answer FileLock::TryLock(const std::string& path)
 {
     Unlock();
-    const int file = ::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
-    if (file < 0)
-        return Answer::Failed;
-    if (::flock(file, LOCK_EX | LOCK_NB) != 0) {
-        const bool held = errno == EWOULDBLOCK;
-        ::close(file);
-        return held ? Answer::HeldByAnother : Answer::Failed;
+    constexpr int Tries = 100;
+    for (int i = 0; i < Tries; ++i) {
+        const int file = ::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK, 0666);
+        if (file < 0)
+            return Answer::Failed;
+        if (::flock(file, LOCK_EX | LOCK_NB) != 0) {
+            const bool held = errno == EWOULDBLOCK;
+            ::close(file);
+            return held ? Answer::HeldByAnother : Answer::Failed;
+        }
+        if (StandsAt(file, path.c_str())) {
+            m_handle = file;
+            return Answer::Taken;
+        }
+        ::close(file); // deleted since it was opened
     }
-    m_handle = file;
-    return Answer::Taken;
+    return Answer::Failed;
 }
 
 void FileLock::Unlock()

@@ -1,10 +1,13 @@
 #ifdef _WIN32
 
+#include "platform/PassingFile.h"
 #include "platform/Platform.h"
 
 #include <algorithm>
 
+#ifndef NOMINMAX
 #define NOMINMAX
+#endif
 #include <windows.h>
 #undef ReplaceFile // a macro there
 
@@ -17,19 +20,17 @@ std::error_code LastError()
     return { static_cast<int>(::GetLastError()), std::system_category() };
 }
 
-std::int64_t Nanoseconds(const FILETIME& time)
+std::int64_t Nanoseconds(const LARGE_INTEGER& time)
 {
-    ULARGE_INTEGER ticks; // of 100 ns
-    ticks.LowPart = time.dwLowDateTime;
-    ticks.HighPart = time.dwHighDateTime;
-    return static_cast<std::int64_t>(ticks.QuadPart) * 100;
+    return NanosecondsFromFileTime(static_cast<std::uint64_t>(time.QuadPart));
 }
 
+/// Nobody else can open, read or delete the file while it is written.
 std::error_code WritePassingFile(
     const std::filesystem::path& name, std::span<const std::uint8_t> bytes)
 {
     const HANDLE file = ::CreateFileW(
-        name.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+        name.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file == INVALID_HANDLE_VALUE)
         return LastError();
     std::error_code error;
@@ -47,6 +48,25 @@ std::error_code WritePassingFile(
     return error;
 }
 
+/// ReplaceFileW keeps the old file's access rights; it wants an old file to be there.
+std::error_code Rename(const std::filesystem::path& passing, const std::filesystem::path& target)
+{
+    const bool replaces = ::GetFileAttributesW(target.c_str()) != INVALID_FILE_ATTRIBUTES;
+    const bool done = replaces
+        ? ::ReplaceFileW(target.c_str(), passing.c_str(), nullptr, 0, nullptr, nullptr) != 0
+        : ::MoveFileExW(passing.c_str(), target.c_str(), MOVEFILE_WRITE_THROUGH) != 0;
+    return done ? std::error_code() : LastError();
+}
+
+/// Whether another writer of the same file may have come between: it had the target open, made or
+/// replaced it, or took the passing file for a dead one after it was closed.
+bool MayPass(const std::error_code& error)
+{
+    constexpr int Passing[] = { ERROR_FILE_NOT_FOUND, ERROR_ACCESS_DENIED, ERROR_SHARING_VIOLATION,
+        ERROR_FILE_EXISTS, ERROR_ALREADY_EXISTS, ERROR_UNABLE_TO_REMOVE_REPLACED };
+    return std::find(std::begin(Passing), std::end(Passing), error.value()) != std::end(Passing);
+}
+
 } // namespace
 
 std::optional<FileIdentity> IdentityOf(const std::string& path)
@@ -57,7 +77,9 @@ std::optional<FileIdentity> IdentityOf(const std::string& path)
     if (file == INVALID_HANDLE_VALUE)
         return std::nullopt;
     BY_HANDLE_FILE_INFORMATION info{};
-    const bool known = ::GetFileInformationByHandle(file, &info);
+    FILE_BASIC_INFO times{};
+    const bool known = ::GetFileInformationByHandle(file, &info)
+        && ::GetFileInformationByHandleEx(file, FileBasicInfo, &times, sizeof times);
     ::CloseHandle(file);
     if (!known)
         return std::nullopt;
@@ -65,8 +87,8 @@ std::optional<FileIdentity> IdentityOf(const std::string& path)
         .volume = info.dwVolumeSerialNumber,
         .file = (static_cast<std::uint64_t>(info.nFileIndexHigh) << 32) | info.nFileIndexLow,
         .size = (static_cast<std::uint64_t>(info.nFileSizeHigh) << 32) | info.nFileSizeLow,
-        .modified = Nanoseconds(info.ftLastWriteTime),
-        .changed = Nanoseconds(info.ftCreationTime),
+        .modified = Nanoseconds(times.LastWriteTime),
+        .changed = Nanoseconds(times.ChangeTime),
     };
 }
 
@@ -79,18 +101,26 @@ std::error_code ReplaceFile(
         target = std::filesystem::canonical(target, error);
     if (error)
         return error;
-    const std::filesystem::path passing = PassingFile(target);
-    error = WritePassingFile(passing, bytes);
-    if (!error) {
-        // ReplaceFile keeps the old file's access rights; it wants an old file to be there.
-        const bool done = std::filesystem::exists(target)
-            ? ::ReplaceFileW(target.c_str(), passing.c_str(), nullptr, 0, nullptr, nullptr) != 0
-            : ::MoveFileExW(passing.c_str(), target.c_str(), MOVEFILE_WRITE_THROUGH) != 0;
-        if (!done)
-            error = LastError();
-    }
-    if (error)
+    if (std::filesystem::is_directory(target, missing))
+        return std::make_error_code(std::errc::is_a_directory);
+    // A file that a living process writes can't be deleted.
+    for (const std::filesystem::path& dead : PassingFilesOf(target))
+        ::DeleteFileW(dead.c_str());
+    constexpr int Tries = 20;
+    constexpr DWORD Pause = 10; // milliseconds
+    for (int i = 0; i < Tries; ++i) {
+        const std::filesystem::path passing = NewPassingFile(target);
+        error = WritePassingFile(passing, bytes);
+        const bool isWritten = !error;
+        if (isWritten)
+            error = Rename(passing, target);
+        if (!error)
+            return error;
         ::DeleteFileW(passing.c_str());
+        if (!isWritten || !MayPass(error))
+            return error;
+        ::Sleep(Pause);
+    }
     return error;
 }
 

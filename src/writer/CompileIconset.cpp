@@ -46,13 +46,19 @@ void BackUp()
     if (!old)
         throw SaveFailure(FileName, "the old file can't be read for its backup");
     if (const std::error_code error = platform::ReplaceFile(FileName + ".bak", *old, FileName))
-        throw SaveFailure(FileName + ".bak", error.message());
+        throw SaveFailure(FileName + ".bak", error);
 }
 
 } // namespace
 
 SaveFailure::SaveFailure(const std::string& file, const std::string& reason)
     : std::runtime_error(file.empty() ? reason : file + ": " + reason)
+{
+}
+
+SaveFailure::SaveFailure(const std::string& file, std::error_code error)
+    : SaveFailure(
+        platform::ExplainRefusal(file, error).path, platform::ExplainRefusal(file, error).reason)
 {
 }
 
@@ -67,7 +73,7 @@ void WriteVersionResource()
     text += '\0';
     const std::string path = WorkPath(std::string(VersionKey) + ".bin");
     if (const std::error_code error = platform::ReplaceFile(path, BytesOf(text)))
-        throw SaveFailure(path, error.message());
+        throw SaveFailure(path, error);
 }
 
 std::vector<ResourceRow> PictureRows()

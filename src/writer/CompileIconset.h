@@ -4,6 +4,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <system_error>
 #include <vector>
 
 namespace vypx {
@@ -13,6 +14,8 @@ class SaveFailure : public std::runtime_error {
 public:
     /// `file` (UTF-8) can't be read or written, and why.
     SaveFailure(const std::string& file, const std::string& reason);
+    /// The same for a failed ReplaceFile; names the folder where it is the folder that refuses.
+    SaveFailure(const std::string& file, std::error_code error);
     explicit SaveFailure(const CompileFailure& failure);
 };
 

@@ -1,5 +1,6 @@
-// Counts the opens, writes, syncs, closes and renames of files whose path holds a word, and makes
-// the n-th of them fail or the process die there. Loaded by LD_PRELOAD; told by the environment:
+// Counts the opens, locks, writes, changes of rights, syncs, closes and renames of files whose path
+// holds a word, and makes the n-th of them fail or the process die there. Loaded by LD_PRELOAD;
+// told by the environment:
 //
 //   FAULT_PATH   the word
 //   FAULT_AT     number of the operation, from 1; 0: none
@@ -17,6 +18,8 @@
 #include <fcntl.h>
 #include <set>
 #include <string>
+#include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -175,6 +178,18 @@ int close(int file)
         errno = EIO;
         return -1;
     });
+}
+
+int flock(int file, int operation) noexcept
+{
+    const auto run = [&] { return Real<int(int, int)>("flock")(file, operation); };
+    return State().files.count(file) == 0 ? run() : Step(run);
+}
+
+int fchmod(int file, mode_t mode) noexcept
+{
+    const auto run = [&] { return Real<int(int, mode_t)>("fchmod")(file, mode); };
+    return State().files.count(file) == 0 ? run() : Step(run);
 }
 
 int rename(const char* from, const char* to)

@@ -1,11 +1,16 @@
 #include "platform/Platform.h"
+#include "platform/PassingFile.h"
 
 #include "support/CommonUser.h"
 #include "support/Files.h"
 #include "support/TempFolder.h"
 
+#include <cstdint>
 #include <fstream>
+#include <future>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <limits>
 
 namespace vypx::test {
 
@@ -69,10 +74,68 @@ TEST(ReplaceFile, TakesTheLongestNamesThatTheSystemTakes)
 
     EXPECT_EQ(ReadText(folder.File(longest)), "one");
     EXPECT_EQ(FilesIn(folder), 1u);
-    EXPECT_EQ(platform::PassingFile("/f/set.prc"), "/f/set.prc.vypx-new");
-    // 246 bytes are left for the name, which would cut the last letter in two.
-    const std::string umlauts = std::string(245, 'x') + "\xC3\xA4.prc";
-    EXPECT_EQ(platform::PassingFile("/f/" + umlauts), "/f/" + std::string(245, 'x') + ".vypx-new");
+}
+
+TEST(PassingFile, HasANameThatNoOtherCallGets)
+{
+    const std::string first = platform::NewPassingFile("/f/set.prc").string();
+    const std::string second = platform::NewPassingFile("/f/set.prc").string();
+
+    EXPECT_THAT(first, ::testing::MatchesRegex("/f/set\\.prc\\.[0-9]+-[0-9]+\\.vypx-new"));
+    EXPECT_NE(first, second);
+}
+
+TEST(PassingFile, ALongNameIsCutBetweenLetters)
+{
+    const fs::path longest = platform::NewPassingFile("/f/" + std::string(255, 'x'));
+    const std::size_t room = longest.filename().string().find('.');
+    // The last letter would be cut in two.
+    const std::string umlauts = std::string(room - 1, 'x') + "\xC3\xA4.prc.and.more.to.be.cut.off";
+
+    const std::string cut = platform::NewPassingFile("/f/" + umlauts).filename().string();
+
+    EXPECT_EQ(longest.filename().string().size(), 255u);
+    EXPECT_EQ(cut.substr(0, room), std::string(room - 1, 'x') + ".");
+}
+
+TEST(PassingFile, IsFoundBesideItsTargetOnly)
+{
+    const TempFolder folder;
+    for (const char* name :
+        { "set.prc.12-3.vypx-new", "set.prc.vypx-new", "set.prc.bak.1-2.vypx-new",
+            "set.prc.1-2-3.vypx-new", "set.prc.-3.vypx-new", "set.prc.12-.vypx-new",
+            "set.prc.12-x.vypx-new", "set.prc", "set.prc.12-3", "my set.prc.12-3.vypx-new" })
+        WriteText(folder.File(name), "");
+
+    const auto found = platform::PassingFilesOf(folder.File("set.prc"));
+
+    EXPECT_THAT(found,
+        ::testing::UnorderedElementsAre(fs::path(folder.File("set.prc.12-3.vypx-new")),
+            fs::path(folder.File("set.prc.vypx-new"))));
+    EXPECT_THAT(platform::PassingFilesOf("/no/such/folder/set.prc"), ::testing::IsEmpty());
+}
+
+TEST(ReplaceFile, RemovesWhatAKilledWriterOfThisFileLeft)
+{
+    const TempFolder folder;
+    WriteText(folder.File("set.prc.12-3.vypx-new"), "half of");
+    WriteText(folder.File("other.prc.12-3.vypx-new"), "half of another");
+
+    EXPECT_FALSE(platform::ReplaceFile(folder.File("set.prc"), TextBytes("new")));
+
+    EXPECT_FALSE(fs::exists(folder.File("set.prc.12-3.vypx-new")));
+    EXPECT_TRUE(fs::exists(folder.File("other.prc.12-3.vypx-new")));
+}
+
+TEST(ReplaceFile, LeavesWhatAnotherWriterStillWrites)
+{
+    const TempFolder folder;
+    FileLock writer;
+    ASSERT_EQ(writer.TryLock(folder.File("set.prc.12-3.vypx-new")), FileLock::Answer::Taken);
+
+    EXPECT_FALSE(platform::ReplaceFile(folder.File("set.prc"), TextBytes("new")));
+
+    EXPECT_TRUE(fs::exists(folder.File("set.prc.12-3.vypx-new")));
 }
 
 TEST(ReplaceFile, FollowsASymbolicLinkAndKeepsIt)
@@ -164,6 +227,98 @@ TEST(ReplaceFile, AFailureIsNamedAndLeavesTheOldFile)
     EXPECT_EQ(FilesIn(folder), 1u);
 }
 
+TEST(ExplainRefusal, NamesAFolderThatIsMissing)
+{
+    const TempFolder folder;
+    const std::string file = folder.File("missing/set.prc");
+    const std::error_code error = platform::ReplaceFile(file, TextBytes("x"));
+
+    const platform::Refusal refusal = platform::ExplainRefusal(file, error);
+
+    EXPECT_EQ(refusal.path, folder.File("missing"));
+    EXPECT_EQ(refusal.reason, "No such file or directory");
+}
+
+TEST(ExplainRefusal, NamesAFileThatStandsWhereTheFolderShould)
+{
+    const TempFolder folder;
+    WriteText(folder.File("file"), "");
+    const std::string below = folder.File("file/set.prc");
+    const std::error_code error = platform::ReplaceFile(below, TextBytes("x"));
+
+    EXPECT_EQ(platform::ExplainRefusal(below, error).path, folder.File("file"));
+}
+
+TEST(ExplainRefusal, AFolderInTheFilesPlaceIsToldInWords)
+{
+    const TempFolder folder;
+    fs::create_directory(folder.File("set.prc.bak"));
+    const std::string file = folder.File("set.prc.bak");
+    const std::error_code error = platform::ReplaceFile(file, TextBytes("x"));
+
+    const platform::Refusal refusal = platform::ExplainRefusal(file, error);
+
+    EXPECT_EQ(refusal.path, file);
+    EXPECT_EQ(refusal.reason, "there is a folder of this name");
+}
+
+TEST(ExplainRefusal, AFullDiskIsTheFiles)
+{
+    const std::error_code error = std::make_error_code(std::errc::no_space_on_device);
+
+    EXPECT_EQ(
+        platform::ExplainRefusal("/nowhere/at/all/set.prc", error).path, "/nowhere/at/all/set.prc");
+}
+
+#ifndef _WIN32
+
+TEST(ExplainRefusal, NamesAFolderOrAFileThatCannotBeWritten)
+{
+    const TempFolder folder;
+    fs::create_directory(folder.File("closed"));
+    fs::create_symlink("closed/set.prc", folder.File("link.prc"));
+    WriteText(folder.File("closed/set.prc"), "old");
+    WriteText(folder.File("mine.prc"), "old");
+    fs::permissions(folder.File("closed/set.prc"), fs::perms(0666));
+    fs::permissions(folder.File("mine.prc"), fs::perms(0444));
+    fs::permissions(folder.Path(), fs::perms::all);
+    fs::permissions(folder.File("closed"), fs::perms(0555));
+    const auto told = [&](const std::string& name) {
+        const CommonUser common;
+        const std::error_code error = platform::ReplaceFile(folder.File(name), TextBytes("new"));
+        const platform::Refusal refusal = platform::ExplainRefusal(folder.File(name), error);
+        return refusal.path + ": " + refusal.reason;
+    };
+
+    EXPECT_EQ(told("closed/set.prc"), folder.File("closed") + ": Permission denied");
+    EXPECT_EQ(told("link.prc"), folder.File("closed") + ": Permission denied");
+    EXPECT_EQ(told("mine.prc"), folder.File("mine.prc") + ": Permission denied");
+    fs::permissions(folder.File("closed"), fs::perms::owner_all);
+}
+
+#endif
+
+/// Worked out with the number of seconds from 1601 to 1970, 11,644,473,600.
+TEST(NanosecondsFromFileTime, CountsFrom1970AndNeverOverflows)
+{
+    constexpr std::uint64_t TicksOf1970 = 116'444'736'000'000'000;
+    const auto convert = platform::NanosecondsFromFileTime;
+
+    EXPECT_EQ(convert(TicksOf1970), 0);
+    EXPECT_EQ(convert(TicksOf1970 + 1), 100);
+    EXPECT_EQ(convert(TicksOf1970 - 10'000'000), -1'000'000'000);
+    EXPECT_EQ(convert(133'485'408'000'000'000), 1'704'067'200'000'000'000) << "2024-01-01";
+    EXPECT_EQ(convert(TicksOf1970 + 92'233'720'368'547'758), 9'223'372'036'854'775'800);
+    EXPECT_EQ(
+        convert(TicksOf1970 + 92'233'720'368'547'759), std::numeric_limits<std::int64_t>::max());
+    EXPECT_EQ(convert(std::numeric_limits<std::uint64_t>::max()),
+        std::numeric_limits<std::int64_t>::max());
+    EXPECT_EQ(convert(TicksOf1970 - 92'233'720'368'547'758), -9'223'372'036'854'775'800);
+    EXPECT_EQ(
+        convert(TicksOf1970 - 92'233'720'368'547'759), std::numeric_limits<std::int64_t>::min());
+    EXPECT_EQ(convert(0), std::numeric_limits<std::int64_t>::min());
+}
+
 TEST(IdentityOf, AWriteChangesIt)
 {
     const TempFolder folder;
@@ -189,6 +344,32 @@ TEST(FileLock, KeepsOthersOutUntilItGoes)
     }
     EXPECT_EQ(second.TryLock(folder.File("l")), FileLock::Answer::Taken);
     EXPECT_TRUE(second.Held());
+}
+
+TEST(FileLock, OnADeletedFileKeepsNobodyOut)
+{
+    const TempFolder folder;
+    FileLock first, second, third;
+    EXPECT_EQ(first.TryLock(folder.File("l")), FileLock::Answer::Taken);
+    fs::remove(folder.File("l"));
+
+    EXPECT_EQ(second.TryLock(folder.File("l")), FileLock::Answer::Taken);
+    EXPECT_EQ(third.TryLock(folder.File("l")), FileLock::Answer::HeldByAnother);
+}
+
+TEST(FileLock, WaitsForAnotherToGo)
+{
+    const TempFolder folder;
+    FileLock first, second;
+    first.TryLock(folder.File("l"));
+    EXPECT_EQ(second.Lock(folder.File("l"), std::chrono::milliseconds(1)),
+        FileLock::Answer::HeldByAnother);
+    auto waits = std::async(
+        std::launch::async, [&] { return second.Lock(folder.File("l"), std::chrono::minutes(1)); });
+
+    first.Unlock();
+
+    EXPECT_EQ(waits.get(), FileLock::Answer::Taken);
 }
 
 TEST(FileLock, FailsWhereNoFileCanBeMade)

@@ -2,10 +2,24 @@
 
 #include "platform/Platform.h"
 
+#include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 
 namespace vypx::test {
+
+namespace {
+
+std::vector<std::filesystem::path> PassingFilesIn(const std::string& folder)
+{
+    std::vector<std::filesystem::path> files;
+    for (const auto& entry : std::filesystem::directory_iterator(platform::NativePath(folder)))
+        if (entry.path().extension() == ".vypx-new")
+            files.push_back(entry.path());
+    return files;
+}
+
+} // namespace
 
 Bytes Hex(std::string_view digits)
 {
@@ -43,6 +57,14 @@ void WriteText(const std::string& path, std::string_view text)
     std::ofstream file(platform::NativePath(path), std::ios::binary);
     file.write(text.data(), static_cast<std::streamsize>(text.size()));
     EXPECT_TRUE(file.flush().good()) << "can't write " << path;
+}
+
+std::size_t PassingFiles(const std::string& folder) { return PassingFilesIn(folder).size(); }
+
+void RemovePassingFiles(const std::string& folder)
+{
+    for (const std::filesystem::path& file : PassingFilesIn(folder))
+        std::filesystem::remove(file);
 }
 
 std::string TestData(const std::string& name) { return VYPX_TEST_DATA + std::string("/") + name; }

@@ -17,6 +17,10 @@ std::string ReadText(const std::string& path);
 void WriteBytes(const std::string& path, const Bytes& bytes);
 void WriteText(const std::string& path, std::string_view text);
 
+/// The files of a folder that a writer has not given their name yet: how many; takes them away.
+std::size_t PassingFiles(const std::string& folder);
+void RemovePassingFiles(const std::string& folder);
+
 /// Path of a file of tests/data.
 std::string TestData(const std::string& name);
 

@@ -17,8 +17,9 @@ inline constexpr std::size_t MaxIniSize = 64u << 20;
 std::shared_ptr<const IniText> ReadIni(const std::string& path);
 
 /// Applies `edit` to the file's text and replaces the file in one step; makes the file if it is
-/// missing. False, and the old file stands, when `edit` says false, when there is a file that can't
-/// be read, and when writing fails.
+/// missing. Two programs that edit one file at once don't lose each other's changes: they take
+/// turns by the lock "ini.lock" in its folder, where that can be made. False, and the old file
+/// stands, when `edit` says false, when there is a file that can't be read, and when writing fails.
 bool EditIni(const std::string& path, const std::function<bool(IniText&)>& edit);
 
 } // namespace vypx

@@ -10,10 +10,10 @@ namespace {
 /// No machine runs more copies; a higher count was written by something else.
 constexpr int MostCopies = 1'000'000;
 
-cInifile RunCountCell()
+cInifile RunCountCell(const std::string& folder)
 {
     cInifile ini;
-    ini.path(SettingsFile());
+    ini.path(SettingsFile(folder));
     ini.Section("Instance Count");
     ini.key("Run Count");
     ini.Default("0");
@@ -22,15 +22,15 @@ cInifile RunCountCell()
 
 } // namespace
 
-int ReadRunCount()
+int ReadRunCount(const std::string& folder)
 {
-    const int count = cInifile::CLngDefault(RunCountCell().Value(), 0);
+    const int count = cInifile::CLngDefault(RunCountCell(folder).Value(), 0);
     return count >= 0 && count < MostCopies ? count : 0;
 }
 
-bool WriteRunCount(int count)
+bool WriteRunCount(int count, const std::string& folder)
 {
-    cInifile ini = RunCountCell();
+    cInifile ini = RunCountCell(folder);
     ini.Value(std::to_string(count));
     return ini.Success();
 }

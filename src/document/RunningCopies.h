@@ -6,9 +6,9 @@
 
 namespace vypx {
 
-/// Held while a copy that starts or ends looks at what all copies share in a folder, and changes
-/// it, so that two copies that start together don't see each other's half. A copy that hangs there
-/// keeps others out for two seconds only.
+/// Held while a copy that starts looks at what all copies share in a folder, and changes it, so
+/// that two copies that start together do it one after the other. It only orders them: a copy that
+/// hangs there keeps others out for two seconds, and where it can't be made nobody waits.
 class CopiesGate {
 public:
     explicit CopiesGate(const std::string& folder);
@@ -17,9 +17,11 @@ private:
     platform::FileLock m_lock; // of "copies.lock"
 };
 
-/// The copies of this program that run over one program folder. Each holds a lock of its own there
-/// ("copy0.lock", "copy1.lock" and so on), which the system frees when the copy ends in whatever
-/// way, so a crash leaves nothing behind that a later start would believe.
+/// The copies of this program that run over one program folder, and the working folder there that
+/// this one has for itself: "temp" for the first copy, "temp1" and so on for further ones. A copy
+/// holds a lock within its folder ("in-use.lock") as long as it lives. The lock alone decides whose
+/// a folder is; the system frees it when the copy ends in whatever way, so a crash leaves nothing
+/// behind that a later start would believe.
 class RunningCopies {
 public:
     RunningCopies() = default;
@@ -27,25 +29,32 @@ public:
     RunningCopies(const RunningCopies&) = delete;
     RunningCopies& operator=(const RunningCopies&) = delete;
 
-    /// Counts this copy in. Where no lock can be made, it believes to be alone.
-    void Enter(const std::string& folder);
+    /// Counts this copy in, and makes and takes its working folder. Its number is 0 where no other
+    /// copy runs, else one above the `Run Count` that the folder's settings file holds, or the next
+    /// one whose folder no copy holds; it is written to `Run Count`. Where the folder can't be made
+    /// or locked, one that is named by the process serves. False when the count can't be written;
+    /// this copy is in all the same.
+    bool Enter(const std::string& folder);
 
     /// Whether another copy ran when this one entered.
     bool AnotherRan() const { return m_anotherRan; }
+    int Number() const { return m_number; }
+    /// Name of the working folder. No other copy works there until this one leaves or ends.
+    const std::string& FolderName() const { return m_name; }
 
-    /// Lowest number that no other copy held; 0 for the first.
-    int Place() const { return m_place; }
-
-    /// Counts this copy out and takes its lock file away.
+    /// Counts this copy out. Its folder stays, unless it was named by the process and is empty.
     void Leave();
 
 private:
-    std::string LockFile(int place) const;
+    platform::FileLock::Answer Take(const std::string& name);
+    void TakeFolderOfProcess();
 
     std::string m_folder;
+    std::string m_name;
     platform::FileLock m_lock;
-    int m_place = 0;
+    int m_number = 0;
     bool m_anotherRan = false;
+    bool m_isOfProcess = false;
 };
 
 } // namespace vypx

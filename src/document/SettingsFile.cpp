@@ -196,7 +196,7 @@ bool IsPlaceOfAClosedWindow(const Key& key, const WindowsToSave& windows)
 
 } // namespace
 
-std::string SettingsFile() { return AppFolder + BelowFolder("VYPX.ini"); }
+std::string SettingsFile(const std::string& folder) { return folder + BelowFolder("VYPX.ini"); }
 
 bool InitializeIni()
 {

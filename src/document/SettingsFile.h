@@ -1,5 +1,7 @@
 #pragma once
 
+#include "document/WorkingFolder.h"
+
 #include <optional>
 #include <string>
 #include <vector>
@@ -7,8 +9,8 @@
 /// The settings in `VYPX.ini` of AppFolder. Booleans are the words "True" and "False".
 namespace vypx {
 
-/// `VYPX.ini` in AppFolder.
-std::string SettingsFile();
+/// `VYPX.ini` in that folder.
+std::string SettingsFile(const std::string& folder = AppFolder);
 
 /// Marks the file as the program's, so that it exists from now on; sections `Program`, key `Name`.
 /// False when it can't be written.

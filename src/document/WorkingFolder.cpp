@@ -68,12 +68,12 @@ std::string WorkFolder() { return AppFolder + TempSuffix; }
 
 std::string WorkPath(std::string_view name) { return WorkFolder() + BelowFolder(name); }
 
-void SetTempSuffix(int copyNumber)
+std::string TempName(int copyNumber)
 {
-    TempSuffix = BelowFolder("temp");
-    if (copyNumber > 0)
-        TempSuffix += std::to_string(copyNumber);
+    return copyNumber > 0 ? "temp" + std::to_string(copyNumber) : "temp";
 }
+
+void SetTempSuffix(int copyNumber) { TempSuffix = BelowFolder(TempName(copyNumber)); }
 
 bool DirExists(const std::string& path)
 {

@@ -9,7 +9,7 @@ namespace vypx {
 /// Folder of the program and of its files, without a separator at its end.
 inline std::string AppFolder;
 /// Separator and name of the working folder in AppFolder: "temp" for the first running copy,
-/// "temp1" and so on for further ones.
+/// "temp1" and so on for further ones (RunningCopies).
 inline std::string TempSuffix;
 inline int InstanceNumber = 0; ///< that number; 0 for the first copy
 
@@ -20,7 +20,8 @@ std::string BelowFolder(std::string_view name);
 std::string WorkFolder();
 std::string WorkPath(std::string_view name);
 
-/// Sets TempSuffix for the copy with that number.
+/// Name of the working folder of the copy with that number; sets TempSuffix for it.
+std::string TempName(int copyNumber);
 void SetTempSuffix(int copyNumber);
 
 /// Existing folder; existing file or, when the last part of the path holds "*" or "?", any

@@ -34,7 +34,7 @@ void SavedSettings::Load()
         Tell(text);
     }
     if (!written)
-        Tell(NotRead);
+        TellNotRead();
 }
 
 void SavedSettings::Save()
@@ -53,7 +53,9 @@ void SavedSettings::Save()
 void SavedSettings::SaveRunCount(int count)
 {
     if (!WriteRunCount(count))
-        Tell(NotRead);
+        TellNotRead();
 }
+
+void SavedSettings::TellNotRead() { Tell(NotRead); }
 
 } // namespace vypx

@@ -19,6 +19,8 @@ public:
     void Load();
     void Save();
     void SaveRunCount(int count);
+    /// The count of running copies could not be kept.
+    void TellNotRead();
 
 private:
     void Tell(const QString& text);

@@ -3,7 +3,6 @@
 #include "catalogs/CatalogFiles.h"
 #include "document/AppFolders.h"
 #include "document/Document.h"
-#include "document/RunCount.h"
 #include "document/SettingsFile.h"
 #include "document/WorkingFolder.h"
 #include "forms/common/Look.h"
@@ -54,14 +53,13 @@ void Session::StartUp(const QString& programFolder, const QString& userFolder)
     m_view.commands.Enable({ Command::MenuPasteLG, Command::MenuPasteSM }, false);
 }
 
-/// The first copy works in "temp"; a further one in "temp" and its number, which is one above the
-/// count that the settings file holds.
 void Session::TakeWorkingFolder()
 {
-    m_copies.Enter(AppFolder);
-    InstanceNumber = m_copies.AnotherRan() ? ReadRunCount() + 1 : 0;
-    SetTempSuffix(InstanceNumber);
-    m_settings.SaveRunCount(InstanceNumber);
+    const bool isCounted = m_copies.Enter(AppFolder);
+    InstanceNumber = m_copies.Number();
+    TempSuffix = BelowFolder(m_copies.FolderName());
+    if (!isCounted)
+        m_settings.TellNotRead();
     MakeFolder(WorkFolder());
 }
 

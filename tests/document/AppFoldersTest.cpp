@@ -37,7 +37,7 @@ TEST(AppFolders, ElseTheUsersFolderIsMade)
 
 #ifndef _WIN32
 
-TEST(AppFolders, TheUsersFolderIsFilledUpToTheFirstSettings)
+TEST(AppFolders, TheUsersFolderIsFilledFileByFile)
 {
     namespace fs = std::filesystem;
     const TempFolder program, user;
@@ -59,19 +59,68 @@ TEST(AppFolders, TheUsersFolderIsFilledUpToTheFirstSettings)
 
         WriteText(data + "/AppList.dat", "[Mine]\n");
         fs::remove(data + "/PalmApp.dat"); // as an interrupted first start leaves it
-        WriteText(data + "/PalmApp.dat.vypx-new", "[Pa");
+        fs::remove(data + "/shipped.txt");
+        WriteText(data + "/PalmApp.dat.12-1.vypx-new", "[Pa");
         EXPECT_EQ(ResolveAppFolder(program.Path(), data), data);
         EXPECT_EQ(ReadText(data + "/AppList.dat"), "[Mine]\n");
         EXPECT_EQ(ReadText(data + "/PalmApp.dat"), "[Palm]\n");
-        EXPECT_FALSE(fs::exists(data + "/PalmApp.dat.vypx-new"));
-
-        WriteText(data + "/VYPX.ini", "[Program]\n");
-        fs::remove(data + "/PalmApp.dat");
-        EXPECT_EQ(ResolveAppFolder(program.Path(), data), data);
+        EXPECT_FALSE(fs::exists(data + "/PalmApp.dat.12-1.vypx-new"));
     }
     fs::permissions(program.File("samples/closed"), fs::perms::owner_all);
-    EXPECT_FALSE(fs::exists(data + "/PalmApp.dat")) << "what the user deletes stays deleted";
     fs::permissions(program.Path(), fs::perms::owner_all);
+}
+
+TEST(AppFolders, AtEveryStartTheUsersFolderGetsWhatANewerVersionShips)
+{
+    namespace fs = std::filesystem;
+    const TempFolder program, user;
+    WriteText(program.File("AppList.dat"), "[First]\n");
+    WriteText(program.File("PalmApp.dat"), "[Palm]\n");
+    fs::permissions(user.Path(), fs::perms::all);
+    const std::string data = user.File("data");
+    const auto start = [&] {
+        fs::permissions(program.Path(), fs::perms(0555));
+        {
+            const CommonUser common;
+            EXPECT_EQ(ResolveAppFolder(program.Path(), data), data);
+        }
+        fs::permissions(program.Path(), fs::perms::owner_all);
+    };
+    start();
+    WriteText(data + "/VYPX.ini", "[Program]\n");
+    WriteText(data + "/AppList.dat", "[Mine]\n");
+    fs::remove(data + "/PalmApp.dat");
+
+    WriteText(program.File("AppList.dat"), "[Newer]\n");
+    WriteText(program.File("VY_Icons.dat"), "[Icons]\n");
+    fs::create_directories(program.File("samples/new"));
+    WriteText(program.File("samples/new/set.prc"), "set");
+    start();
+
+    EXPECT_EQ(ReadText(data + "/VY_Icons.dat"), "[Icons]\n");
+    EXPECT_EQ(ReadText(data + "/samples/new/set.prc"), "set");
+    EXPECT_EQ(ReadText(data + "/AppList.dat"), "[Mine]\n");
+    EXPECT_FALSE(fs::exists(data + "/PalmApp.dat")) << "what the user deletes stays deleted";
+}
+
+TEST(AppFolders, AFolderOfWhichNothingIsKnownGetsAllThatItLacks)
+{
+    namespace fs = std::filesystem;
+    const TempFolder program, user;
+    WriteText(program.File("AppList.dat"), "[Shipped]\n");
+    WriteText(program.File("PalmApp.dat"), "[Palm]\n");
+    WriteText(user.File("VYPX.ini"), "[Program]\n");
+    WriteText(user.File("AppList.dat"), "[Mine]\n");
+    fs::permissions(user.Path(), fs::perms::all);
+    fs::permissions(program.Path(), fs::perms(0555));
+    {
+        const CommonUser common;
+        EXPECT_EQ(ResolveAppFolder(program.Path(), user.Path()), user.Path());
+    }
+    fs::permissions(program.Path(), fs::perms::owner_all);
+
+    EXPECT_EQ(ReadText(user.File("AppList.dat")), "[Mine]\n");
+    EXPECT_EQ(ReadText(user.File("PalmApp.dat")), "[Palm]\n");
 }
 
 TEST(AppFolders, ACopyThatStartsMeanwhileWaitsUntilTheFolderIsFull)

@@ -2,6 +2,7 @@
 #include "support/Files.h"
 #include "support/TempFolder.h"
 
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <memory>
 #include <random>
@@ -47,32 +48,39 @@ protected:
         m_copies.erase(m_copies.begin() + static_cast<std::ptrdiff_t>(copy));
     }
 
+    /// Starts up to three copies at once, or ends one in either way, as often as that.
+    void RunAtRandom(int rounds)
+    {
+        constexpr std::size_t Most = 7;
+        std::mt19937 random(13);
+        const auto any = [&](std::size_t count) { return random() % count; };
+        for (int round = 0; round < rounds && !HasFailure(); ++round) {
+            const std::size_t running = m_copies.size(), choice = any(6);
+            if (running == 0 || (choice < 3 && running < Most)) {
+                const std::size_t atOnce = 1 + any(3);
+                for (std::size_t i = 0; i < atOnce; ++i)
+                    Start();
+                for (std::size_t i = running; i < m_copies.size(); ++i)
+                    Started(i);
+            } else if (choice < 5) {
+                Leave(any(running));
+            } else {
+                Kill(any(running));
+            }
+        }
+    }
+
     TempFolder program;
     std::vector<Copy> m_copies;
 };
 
-TEST_F(Copies, ThatStartLeaveAndDieAtRandomNeverShareAFolder)
-{
-    constexpr int Rounds = 300;
-    constexpr std::size_t Most = 7;
-    std::mt19937 random(13);
-    const auto any = [&](std::size_t count) { return random() % count; };
+TEST_F(Copies, ThatStartLeaveAndDieAtRandomNeverShareAFolder) { RunAtRandom(300); }
 
-    for (int round = 0; round < Rounds && !HasFailure(); ++round) {
-        const std::size_t running = m_copies.size();
-        const std::size_t choice = any(6);
-        if (running == 0 || (choice < 3 && running < Most)) {
-            const std::size_t atOnce = 1 + any(3);
-            for (std::size_t i = 0; i < atOnce; ++i)
-                Start();
-            for (std::size_t i = running; i < m_copies.size(); ++i)
-                Started(i);
-        } else if (choice < 5) {
-            Leave(any(running));
-        } else {
-            Kill(any(running));
-        }
-    }
+TEST_F(Copies, NeverShareAFolderWithoutTheGateEither)
+{
+    std::filesystem::create_directory(program.File("copies.lock")); // no file, so none can lock it
+
+    RunAtRandom(150);
 }
 
 TEST_F(Copies, AFolderIsFreeAgainAfterACrash)

@@ -75,9 +75,28 @@ TEST_F(StartUp, OnPurposeAFourthCopyMayGetTheNumberOfOneThatLeft)
     EXPECT_EQ(WorkFolder(), program.File("temp1"));
 }
 
+TEST_F(StartUp, TheLastOfFiveCopiesDoesNotGetTheFolderOfTheThird)
+{
+    RunningCopies first, third, fourth;
+    first.Enter(program.Path());
+    Start(); // the second
+    third.Enter(program.Path());
+    frame->close();
+    fourth.Enter(program.Path());
+
+    MDIForm1 fifth(ask);
+    fifth.Start(QString::fromStdString(program.Path()), {});
+
+    EXPECT_EQ(third.FolderName(), "temp2");
+    EXPECT_EQ(WorkFolder(), program.File("temp3"));
+    EXPECT_EQ(InstanceNumber, 3);
+    EXPECT_EQ(ReadRunCount(), 3);
+}
+
 TEST_F(StartUp, ACrashedCopyIsNotBelievedToRun)
 {
-    WriteText(program.File("copy0.lock"), "");
+    MakeFolder(program.File("temp"));
+    WriteText(program.File("temp/in-use.lock"), "");
 
     Start();
 

@@ -45,7 +45,7 @@ struct TransparencyRow {
 
 /// Why a database could not be written.
 struct CompileFailure {
-    std::string file; ///< path of the file that can't be read, written or stored
+    std::string file; ///< what can't be read, written or stored: a file, or a folder that refuses
     std::string reason;
 };
 

@@ -183,9 +183,17 @@ TEST_F(Compiling, ABackupThatCannotBeMadeIsAFailure)
     WriteText(FileName, "old");
     MakeFolder(FileName + ".bak");
 
-    EXPECT_THROW(CompileIconset(), SaveFailure);
+    EXPECT_EQ(WhyNot(), FileName + ".bak: there is a folder of this name");
 
     EXPECT_EQ(ReadText(FileName), "old");
+}
+
+TEST_F(Compiling, AFolderThatIsMissingIsNamedInPlaceOfTheFile)
+{
+    Add("Alpha (Large Icon)", 3500, true, false);
+    FileName = folder.File("gone/set.prc");
+
+    EXPECT_EQ(WhyNot(), folder.File("gone") + ": No such file or directory");
 }
 
 TEST_F(Compiling, FailuresSayWhichFileAndWhy)

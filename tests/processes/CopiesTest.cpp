@@ -74,13 +74,16 @@ protected:
     std::vector<Copy> m_copies;
 };
 
-TEST_F(Copies, ThatStartLeaveAndDieAtRandomNeverShareAFolder) { RunAtRandom(300); }
+TEST_F(Copies, ThatStartLeaveAndDieAtRandomNeverShareAFolder)
+{
+    RunAtRandom(300 / VYPX_ROUNDS_DIVISOR);
+}
 
 TEST_F(Copies, NeverShareAFolderWithoutTheGateEither)
 {
     std::filesystem::create_directory(program.File("copies.lock")); // no file, so none can lock it
 
-    RunAtRandom(150);
+    RunAtRandom(150 / VYPX_ROUNDS_DIVISOR);
 }
 
 TEST_F(Copies, AFolderIsFreeAgainAfterACrash)

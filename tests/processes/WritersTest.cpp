@@ -49,7 +49,7 @@ protected:
 
 TEST_F(Writers, TwoOfOneFileBothSucceedAndOneOfThemHasWrittenItWhole)
 {
-    constexpr int Rounds = 300;
+    constexpr int Rounds = 300 / VYPX_ROUNDS_DIVISOR;
     for (int round = 0; round < Rounds && !HasFailure(); ++round) {
         const auto first = Write('A', SizeA, 2), second = Write('B', SizeB, 1);
 
@@ -61,7 +61,7 @@ TEST_F(Writers, TwoOfOneFileBothSucceedAndOneOfThemHasWrittenItWhole)
 
 TEST_F(Writers, OneThatIsKilledHarmsNoOther)
 {
-    constexpr int Rounds = 100;
+    constexpr int Rounds = 100 / VYPX_ROUNDS_DIVISOR;
     std::mt19937 random(13);
     for (int round = 0; round < Rounds && !HasFailure(); ++round) {
         const auto victim = Write('A', SizeA, 0), other = Write('B', SizeB, 3);
@@ -128,7 +128,7 @@ TEST_F(Writers, TwoThatEditOneIniFileLoseNoKeyOfEachOther)
 /// The tool itself, as a batch job runs it.
 TEST_F(Writers, TwoRunsOfConvertToOneFileBothSucceed)
 {
-    constexpr int Rounds = 60;
+    constexpr int Rounds = 60 / VYPX_ROUNDS_DIVISOR;
     const auto convert = [&](const char* name, const std::string& work) {
         return std::make_unique<Child>(std::vector<std::string>{ VYPX_CLI, "convert",
             TestData("iconsets/owners.prc"), folder.File("set.prc"), "--app-folder",

@@ -7,6 +7,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <system_error>
 
 /// Windows BMP files, as working files and exports are: uncompressed, rows from the bottom, each
 /// padded to 4 bytes. Little-endian:
@@ -56,8 +57,8 @@ Bytes EncodeBmp24(const Picture& picture);
 /// is shorter than its header says.
 std::optional<Picture> DecodeBmp(ByteView file);
 
-/// Writes a working file in one go: open, write, close. Failures are not told; the file does not
-/// appear then.
-void WriteWorkingFile(const std::string& path, const Bytes& bytes);
+/// Writes a working file in one go: open, write, close. After a failure, which the result names,
+/// the file does not appear.
+std::error_code WriteWorkingFile(const std::string& path, const Bytes& bytes);
 
 } // namespace vypx

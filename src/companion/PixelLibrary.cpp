@@ -4,6 +4,7 @@
 #include "companion/NearestColour.h"
 
 #include <array>
+#include <optional>
 #include <stdexcept>
 
 namespace vypx {
@@ -28,30 +29,34 @@ void Put(std::uint8_t* out, Bgr pixel)
     out[2] = pixel.red;
 }
 
-/// Runs what makes a file; what can't be made does not appear.
-template <typename Make>
-void Quietly(const Make& make)
+/// Makes a BMP of that size, has its pixels filled and writes it.
+template <typename Fill>
+std::error_code WriteBmp(
+    int width, int height, int bits, Palette colours, const std::string& path, const Fill& fill)
 {
+    std::optional<BmpBytes> bmp;
     try {
-        make();
+        bmp.emplace(width, height, bits, colours);
     } catch (const std::length_error&) {
+        return NoPicture();
     } catch (const std::bad_alloc&) {
+        return std::make_error_code(std::errc::not_enough_memory);
     }
+    fill(*bmp);
+    return WriteWorkingFile(path, bmp->File());
 }
 
 /// Writes the pixels at `depth` bits as a 24-bit BMP; `fillRow(in, out)` turns a row.
 template <typename FillRow>
-void WriteRows(const PixelBuffer& pixels, int depth, int width, int height, const std::string& path,
-    const FillRow& fillRow)
+std::error_code WriteRows(const PixelBuffer& pixels, int depth, int width, int height,
+    const std::string& path, const FillRow& fillRow)
 {
     const int needed = static_cast<int>((static_cast<std::int64_t>(width) * depth + 7) / 8);
     if (needed > pixels.RowBytes() + pixels.RowPad() || height > pixels.RowsMade())
-        return;
-    Quietly([&] {
-        BmpBytes bmp(width, height, 24);
+        return NoPicture();
+    return WriteBmp(width, height, 24, {}, path, [&](BmpBytes& bmp) {
         for (int y = 0; y < height; ++y)
             fillRow(pixels.Row(y), bmp.Row(y));
-        WriteWorkingFile(path, bmp.File());
     });
 }
 
@@ -66,7 +71,7 @@ Table TableOf(Palette palette)
 }
 
 template <int Depth>
-void WriteIndexed(
+std::error_code WriteIndexed(
     const PixelBuffer& pixels, const Table& table, int width, int height, const std::string& path)
 {
     constexpr int PerByte = 8 / Depth, Mask = (1 << Depth) - 1;
@@ -76,10 +81,10 @@ void WriteIndexed(
             Put(out, table[static_cast<std::size_t>(in[x / PerByte] >> shift & Mask)]);
         }
     };
-    WriteRows(pixels, Depth, width, height, path, fillRow);
+    return WriteRows(pixels, Depth, width, height, path, fillRow);
 }
 
-void WriteReduced16(
+std::error_code WriteReduced16(
     const PixelBuffer& pixels, Palette palette, int width, int height, const std::string& path)
 {
     const Table table = TableOf(palette);
@@ -90,7 +95,7 @@ void WriteReduced16(
             Put(out, table[static_cast<std::size_t>(nearest.IndexOf565(colour))]);
         }
     };
-    WriteRows(pixels, 16, width, height, path, fillRow);
+    return WriteRows(pixels, 16, width, height, path, fillRow);
 }
 
 /// Each 8- and 6-bit half of a 5-6-5 pixel takes one look-up less than the arithmetic.
@@ -109,13 +114,12 @@ struct Widener {
 
 constexpr Widener Wide;
 
-void WriteNearest(const Picture& picture, Palette palette, int bits, int width, int height,
-    const std::string& path)
+std::error_code WriteNearest(const Picture& picture, Palette palette, int bits, int width,
+    int height, const std::string& path)
 {
     if (width > picture.Width() || height > picture.Height())
-        return;
-    Quietly([&] {
-        BmpBytes bmp(width, height, bits, palette);
+        return NoPicture();
+    return WriteBmp(width, height, bits, palette, path, [&](BmpBytes& bmp) {
         NearestColour& nearest = NearestIn(palette);
         for (int y = 0; y < height; ++y) {
             const std::uint8_t* in = picture.Row(y);
@@ -129,37 +133,36 @@ void WriteNearest(const Picture& picture, Palette palette, int bits, int width, 
                         static_cast<std::uint8_t>(out[x / 2] | (x % 2 == 0 ? index << 4 : index));
             }
         }
-        WriteWorkingFile(path, bmp.File());
     });
 }
 
 } // namespace
 
-void Bmp1to24(
+std::error_code Bmp1to24(
     const PixelBuffer& pixels, Palette palette1, int width, int height, const std::string& path)
 {
-    WriteIndexed<1>(pixels, TableOf(palette1), width, height, path);
+    return WriteIndexed<1>(pixels, TableOf(palette1), width, height, path);
 }
 
-void Bmp2to24(
+std::error_code Bmp2to24(
     const PixelBuffer& pixels, Palette palette2, int width, int height, const std::string& path)
 {
-    WriteIndexed<2>(pixels, TableOf(palette2), width, height, path);
+    return WriteIndexed<2>(pixels, TableOf(palette2), width, height, path);
 }
 
-void Bmp4to24(
+std::error_code Bmp4to24(
     const PixelBuffer& pixels, Palette palette4, int width, int height, const std::string& path)
 {
-    WriteIndexed<4>(pixels, TableOf(palette4), width, height, path);
+    return WriteIndexed<4>(pixels, TableOf(palette4), width, height, path);
 }
 
-void Bmp8to24(
+std::error_code Bmp8to24(
     const PixelBuffer& pixels, Palette palette8, int width, int height, const std::string& path)
 {
-    WriteIndexed<8>(pixels, TableOf(palette8), width, height, path);
+    return WriteIndexed<8>(pixels, TableOf(palette8), width, height, path);
 }
 
-void Bmp16to24(const PixelBuffer& pixels, int width, int height, const std::string& path)
+std::error_code Bmp16to24(const PixelBuffer& pixels, int width, int height, const std::string& path)
 {
     const auto fillRow = [&](const std::uint8_t* in, std::uint8_t* out) {
         for (int x = 0; x < width; ++x, in += 2, out += 3) {
@@ -169,22 +172,22 @@ void Bmp16to24(const PixelBuffer& pixels, int width, int height, const std::stri
                     Wide.five[colour >> 11] });
         }
     };
-    WriteRows(pixels, 16, width, height, path, fillRow);
+    return WriteRows(pixels, 16, width, height, path, fillRow);
 }
 
-void RGB16to8Bit(const PixelBuffer& pixels, Palette palette8, int width, int height, int,
+std::error_code RGB16to8Bit(const PixelBuffer& pixels, Palette palette8, int width, int height, int,
     const std::string& path)
 {
-    WriteReduced16(pixels, palette8, width, height, path);
+    return WriteReduced16(pixels, palette8, width, height, path);
 }
 
-void RGB16to4Bit(const PixelBuffer& pixels, Palette palette4, int width, int height, int,
+std::error_code RGB16to4Bit(const PixelBuffer& pixels, Palette palette4, int width, int height, int,
     const std::string& path)
 {
-    WriteReduced16(pixels, palette4, width, height, path);
+    return WriteReduced16(pixels, palette4, width, height, path);
 }
 
-void RGB8to4Bit(const PixelBuffer& pixels, Palette palette4, Palette palette8, int width,
+std::error_code RGB8to4Bit(const PixelBuffer& pixels, Palette palette4, Palette palette8, int width,
     int height, int, const std::string& path)
 {
     NearestColour& nearest = NearestIn(palette4);
@@ -193,7 +196,7 @@ void RGB8to4Bit(const PixelBuffer& pixels, Palette palette4, Palette palette8, i
         const int index = nearest.IndexOf(palette8[i].red, palette8[i].green, palette8[i].blue);
         table[i] = BgrOf(palette4[static_cast<std::size_t>(index)]);
     }
-    WriteIndexed<8>(pixels, table, width, height, path);
+    return WriteIndexed<8>(pixels, table, width, height, path);
 }
 
 void TCchange(Palette palette4, Palette palette8, int depth, int& red, int& green, int& blue)
@@ -206,31 +209,29 @@ void TCchange(Palette palette4, Palette palette8, int depth, int& red, int& gree
     blue = colour.blue;
 }
 
-void WriteBmp4(
+std::error_code WriteBmp4(
     const Picture& picture, Palette palette4, int width, int height, const std::string& path)
 {
-    WriteNearest(picture, palette4, 4, width, height, path);
+    return WriteNearest(picture, palette4, 4, width, height, path);
 }
 
-void WriteBmp8(
+std::error_code WriteBmp8(
     const Picture& picture, Palette palette8, int width, int height, const std::string& path)
 {
-    WriteNearest(picture, palette8, 8, width, height, path);
+    return WriteNearest(picture, palette8, 8, width, height, path);
 }
 
-void WriteBmp24(const Picture& picture, int width, int height, const std::string& path)
+std::error_code WriteBmp24(const Picture& picture, int width, int height, const std::string& path)
 {
     if (width > picture.Width() || height > picture.Height())
-        return;
-    Quietly([&] {
-        BmpBytes bmp(width, height, 24);
+        return NoPicture();
+    return WriteBmp(width, height, 24, {}, path, [&](BmpBytes& bmp) {
         for (int y = 0; y < height; ++y) {
             const std::uint8_t* in = picture.Row(y);
             std::uint8_t* out = bmp.Row(y);
             for (int x = 0; x < width; ++x, in += 3, out += 3)
                 Put(out, { in[2], in[1], in[0] });
         }
-        WriteWorkingFile(path, bmp.File());
     });
 }
 

@@ -107,19 +107,22 @@ TEST_F(PixelLibrary, ReducesToTheNearestColour)
 
 TEST_F(PixelLibrary, APictureThatTheRowsDoNotHoldDoesNotAppear)
 {
-    Bmp8to24(OneRow(Hex("00000000")), Palette8, 5, 1, path);
-    Bmp16to24(OneRow(Hex("00000000")), 3, 1, path);
-    Bmp1to24(OneRow(Hex("00000000")), Palette1, 33, 1, path);
-    Bmp8to24(OneRow(Hex("00000000")), Palette8, 1, 2, path);
-    Bmp8to24(OneRow(Hex("00000000")), Palette8, 0, 1, path);
-    Bmp8to24(OneRow(Hex("00000000")), Palette8, 1, 0, path);
+    const PixelBuffer row = OneRow(Hex("00000000"));
+
+    EXPECT_EQ(Bmp8to24(row, Palette8, 5, 1, path), NoPicture());
+    EXPECT_EQ(Bmp16to24(row, 3, 1, path), NoPicture());
+    EXPECT_EQ(Bmp1to24(row, Palette1, 33, 1, path), NoPicture());
+    EXPECT_EQ(Bmp8to24(row, Palette8, 1, 2, path), NoPicture());
+    EXPECT_EQ(Bmp8to24(row, Palette8, 0, 1, path), NoPicture());
+    EXPECT_EQ(Bmp8to24(row, Palette8, 1, 0, path), NoPicture());
 
     EXPECT_FALSE(WasWritten());
 }
 
 TEST_F(PixelLibrary, AFileThatCannotBeWrittenDoesNotAppear)
 {
-    Bmp8to24(OneRow(Hex("00")), Palette8, 1, 1, folder.File("no/folder.bmp"));
+    EXPECT_EQ(Bmp8to24(OneRow(Hex("00")), Palette8, 1, 1, folder.File("no/folder.bmp")),
+        std::errc::no_such_file_or_directory);
 
     EXPECT_FALSE(std::filesystem::exists(folder.File("no")));
 }
@@ -133,7 +136,8 @@ TEST_F(PixelLibrary, AFileThatOnlyHalfFitsDoesNotAppear)
         GTEST_SKIP() << "no full device";
     std::filesystem::create_symlink("/dev/full", folder.File("full.bmp"));
 
-    Bmp8to24(OneRow(Hex("00")), Palette8, 1, 1, folder.File("full.bmp"));
+    EXPECT_EQ(Bmp8to24(OneRow(Hex("00")), Palette8, 1, 1, folder.File("full.bmp")),
+        std::errc::no_space_on_device);
 
     EXPECT_FALSE(std::filesystem::is_symlink(folder.File("full.bmp"))) << "taken away again";
     EXPECT_TRUE(std::filesystem::exists("/dev/full"));

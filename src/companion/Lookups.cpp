@@ -21,10 +21,11 @@ void ChkShared(std::span<const IconRow> iconTable, std::vector<std::string>& sha
 
     std::size_t entry = 1;
     for (const IconRow& row : iconTable) {
+        if (row.ResourceKey != named->ResourceKey || row.IconLabel == label)
+            continue;
         if (entry >= shareNames.size())
-            return;
-        if (row.ResourceKey == named->ResourceKey && row.IconLabel != label)
-            shareNames[entry++] = row.IconLabel;
+            shareNames.resize(entry + 1);
+        shareNames[entry++] = row.IconLabel;
     }
 }
 

@@ -21,7 +21,7 @@ void ChkDup(const ResourceKeys& keysOfIconTable, const std::string& name, std::i
 
 /// Fills `shareNames` from entry 1 with the labels of the other rows that have the same
 /// ResourceKey as the row `label`, in row order, and empties the entries behind them.
-/// The caller sizes it to the upper bound of the table, and no entry is added beyond that.
+/// The caller sizes it to the upper bound of the table; it grows where more rows share than that.
 /// A row without a resource key shares with none.
 void ChkShared(std::span<const IconRow> iconTable, std::vector<std::string>& shareNames,
     std::string_view label);

@@ -2,11 +2,11 @@
 
 #include "companion/BmpFile.h"
 #include "companion/IconsetLimits.h"
+#include "companion/Numbers.h"
 #include "companion/PalmRecord.h"
 #include "platform/Platform.h"
 
 #include <algorithm>
-#include <charconv>
 #include <chrono>
 #include <map>
 #include <numeric>
@@ -44,24 +44,6 @@ std::uint32_t PalmNow()
     using namespace std::chrono;
     constexpr sys_days Epoch = 1904y / January / 1;
     return static_cast<std::uint32_t>(duration_cast<seconds>(system_clock::now() - Epoch).count());
-}
-
-std::optional<int> NumberOf(std::string_view text)
-{
-    int number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc() || number < 0 || number > 255)
-        return std::nullopt;
-    return number;
-}
-
-/// The decimal ID behind the type; what follows the number doesn't count.
-unsigned IdOf(std::string_view key)
-{
-    unsigned id = 0;
-    for (std::size_t i = 4; i < key.size() && key[i] >= '0' && key[i] <= '9' && id < 65536; ++i)
-        id = id * 10 + static_cast<unsigned>(key[i] - '0');
-    return id & 0xFFFF;
 }
 
 class Compiler {
@@ -139,7 +121,9 @@ private:
         if (found == m_transparency.end() || found->second->flag != "1")
             return std::nullopt;
         const TransparencyRow& row = *found->second;
-        const auto red = NumberOf(row.red), green = NumberOf(row.green), blue = NumberOf(row.blue);
+        const auto component = [](const std::string& text) { return LeadingWhole(text, 0, 255); };
+        const auto red = component(row.red), green = component(row.green),
+                   blue = component(row.blue);
         if (!red || !green || !blue)
             return std::nullopt;
         return Rgb{ *red, *green, *blue };
@@ -183,7 +167,7 @@ Bytes Database(std::span<const ResourceRow> resources, const std::string& databa
         file.resize((file.size() + 1) / 2 * 2);
         Bytes listed;
         AppendText(listed, std::string_view(row.key).substr(0, 4), 4);
-        Append16(listed, IdOf(row.key));
+        Append16(listed, static_cast<unsigned>(ResourceId(row.key)));
         Append32(listed, static_cast<std::uint32_t>(file.size()));
         std::copy(listed.begin(), listed.end(), file.begin() + static_cast<std::ptrdiff_t>(entry));
         entry += EntrySize;

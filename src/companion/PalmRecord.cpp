@@ -1,5 +1,6 @@
 #include "companion/PalmRecord.h"
 
+#include "companion/DensityMark.h"
 #include "companion/NearestColour.h"
 #include "companion/PackBits.h"
 #include "companion/PixelBuffer.h"
@@ -175,8 +176,8 @@ Bytes EncodeHighDensity(
 
 Bytes HighDensityMark()
 {
-    Bytes mark(16);
-    mark[8] = 0xFF;
+    Bytes mark(DensityMarkSize);
+    mark[PixelSizeOffset] = DensityMarkPixelSize;
     mark[9] = 1;
     return mark;
 }

@@ -64,12 +64,14 @@ TEST(ChkShared, ListsNothingForALabelThatNoRowHas)
     EXPECT_EQ(names, Names(6));
 }
 
-TEST(ChkShared, NeverGrowsTheTableOfNames)
+TEST(ChkShared, ListsAllThatShareWhateverTheTableOfNamesHadRoomFor)
 {
-    Names names(2);
-    ChkShared(Rows, names, "Acorn (Large Icon)");
+    for (const std::size_t room : { 0u, 2u }) {
+        Names names(room);
+        ChkShared(Rows, names, "Acorn (Large Icon)");
 
-    EXPECT_EQ(names, (Names{ "", "Fern (Large Icon)" }));
+        EXPECT_EQ(names, (Names{ "", "Fern (Large Icon)", "Moss (Large Icon)" }));
+    }
 }
 
 TEST(ChkShared, OfNothingOrOfARowThatIsNotThereIsEmpty)

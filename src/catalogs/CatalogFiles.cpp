@@ -3,6 +3,8 @@
 #include "document/Catalogs.h"
 #include "document/WorkingFolder.h"
 #include "platform/Platform.h"
+#include "settings/LetterCase.h"
+#include "settings/IniStore.h"
 #include "settings/Inifile.h"
 
 #include <array>
@@ -42,15 +44,6 @@ const OwnerFile PalmFile{
     .failed = "Error reading PalmApp.Dat file!!!",
 };
 
-std::string UpperCase(std::string_view text)
-{
-    std::string upper(text);
-    for (char& letter : upper)
-        if (letter >= 'a' && letter <= 'z')
-            letter = static_cast<char>(letter - 'a' + 'A');
-    return upper;
-}
-
 std::string& CellOf(CatalogRow& row, std::size_t column, std::size_t lastColumn)
 {
     const std::array<std::string*, 4> cells{ &row.name, &row.type, &row.creator, &row.extra };
@@ -87,11 +80,11 @@ void ReadOwner(CatalogRow& row, cInifile& ini, const OwnerFile& file, const Show
     std::int32_t count = 0;
     ini.EnumerateCurrentSection(keys, count);
     for (std::size_t k = 1; k <= static_cast<std::size_t>(count); ++k) {
-        const std::string name = UpperCase(keys[k]);
+        const std::string name = LowerCase(keys[k]);
         ini.key(keys[k]);
-        if (name == "TYPE")
+        if (name == "type")
             CellOf(row, k, file.lastColumn) = ini.Value();
-        else if (name == "CREATOR")
+        else if (name == "creator")
             CellOf(row, k, file.lastColumn) = CreatorOf(ini.Value(), ini, file, show);
     }
 }
@@ -110,10 +103,28 @@ void ReadLauncherItem(LauncherRow& row, cInifile& ini)
     }
 }
 
+/// What the list of names, counted from 1, lacks of those that stand in the file. The last one that
+/// is listed may be half a name.
+std::optional<CutCatalog> CutOff(
+    std::string_view file, const cInifile& ini, const std::vector<std::string>& listed)
+{
+    std::vector<std::string> names = ReadIni(ini.path())->SectionNames();
+    std::erase(names, std::string());
+    std::size_t known = 0;
+    while (known < names.size() && known + 1 < listed.size() && listed[known + 1] == names[known])
+        ++known;
+    if (known == names.size())
+        return std::nullopt;
+    return CutCatalog{ .file = std::string(file),
+        .known = static_cast<int>(known),
+        .total = static_cast<int>(names.size()) };
+}
+
 /// Rows 1 to n of the table are the file's sections; `readRow` fills what stands below a name.
 template <typename Row, typename ReadRow>
-void ReadSections(std::string_view file, std::vector<Row>& table, std::string_view missing,
-    std::string_view failed, const ShowMessage& show, const ReadRow& readRow)
+std::optional<CutCatalog> ReadSections(std::string_view file, std::vector<Row>& table,
+    std::string_view missing, std::string_view failed, const ShowMessage& show,
+    const ReadRow& readRow)
 {
     cInifile ini;
     ini.path(AppFolder + BelowFolder(file));
@@ -122,6 +133,7 @@ void ReadSections(std::string_view file, std::vector<Row>& table, std::string_vi
     std::vector<std::string> sections;
     std::int32_t count = 0;
     ini.EnumerateAllSections(sections, count);
+    const std::optional<CutCatalog> cut = CutOff(file, ini, sections);
     table.assign(static_cast<std::size_t>(count) + 1, {});
     try {
         for (std::size_t i = 1; i < table.size(); ++i) {
@@ -132,11 +144,12 @@ void ReadSections(std::string_view file, std::vector<Row>& table, std::string_vi
     } catch (const BeyondTheLastColumn&) {
         show(failed); // the rows read so far stay
     }
+    return cut;
 }
 
-void ReadOwners(const OwnerFile& file, const ShowMessage& show)
+std::optional<CutCatalog> ReadOwners(const OwnerFile& file, const ShowMessage& show)
 {
-    ReadSections(file.file, file.table, file.missing, file.failed, show,
+    return ReadSections(file.file, file.table, file.missing, file.failed, show,
         [&](CatalogRow& row, cInifile& ini) { ReadOwner(row, ini, file, show); });
 }
 
@@ -193,25 +206,36 @@ private:
 
 } // namespace
 
-void ReadAppIni(const ShowMessage& show) { ReadOwners(AppFile, show); }
-
-void ReadPalmAppIni(const ShowMessage& show) { ReadOwners(PalmFile, show); }
-
-void ReadVYIconsIni(const ShowMessage& show)
+std::string NoteOf(const CutCatalog& catalog)
 {
-    ReadSections("VY_Icons.dat", VYTable, "Error! Can't find VY_Icons.dat.",
+    return "Only " + std::to_string(catalog.known) + " of the " + std::to_string(catalog.total)
+        + " names in " + catalog.file + " are known: together they are too long.";
+}
+
+std::optional<CutCatalog> ReadAppIni(const ShowMessage& show) { return ReadOwners(AppFile, show); }
+
+std::optional<CutCatalog> ReadPalmAppIni(const ShowMessage& show)
+{
+    return ReadOwners(PalmFile, show);
+}
+
+std::optional<CutCatalog> ReadVYIconsIni(const ShowMessage& show)
+{
+    return ReadSections("VY_Icons.dat", VYTable, "Error! Can't find VY_Icons.dat.",
         "Error reading VY_Icons.dat file!!!!", show,
         [](LauncherRow& row, cInifile& ini) { ReadLauncherItem(row, ini); });
 }
 
 void ChkDupCreators(const ShowMessage& show) { DuplicateCheck(show).Run(); }
 
-void ReadCatalogs(const ShowMessage& show)
+std::vector<CutCatalog> ReadCatalogs(const ShowMessage& show)
 {
-    ReadVYIconsIni(show);
-    ReadAppIni(show);
-    ReadPalmAppIni(show);
+    std::vector<CutCatalog> cut;
+    for (const auto read : { ReadVYIconsIni, ReadAppIni, ReadPalmAppIni })
+        if (const std::optional<CutCatalog> catalog = read(show))
+            cut.push_back(*catalog);
     ChkDupCreators(show);
+    return cut;
 }
 
 } // namespace vypx

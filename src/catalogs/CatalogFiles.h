@@ -1,8 +1,10 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// The catalog files in AppFolder, in ini form, one section for each entry.
 ///
@@ -18,18 +20,31 @@ namespace vypx {
 /// Shows a text (Latin-1) in a box.
 using ShowMessage = std::function<void(std::string_view)>;
 
+/// A catalog file with more names than its readers see.
+struct CutCatalog {
+    std::string file; ///< bare name
+    int known = 0;    ///< names that are seen whole
+    int total = 0;    ///< names in the file
+
+    friend bool operator==(const CutCatalog&, const CutCatalog&) = default;
+};
+
+/// A sentence that tells it, in plain words (ASCII).
+std::string NoteOf(const CutCatalog& catalog);
+
 /// Replace AppTable, PalmTable, VYTable by what stands in the file. A value goes to the column of
 /// its key's position in the section, so the order of keys counts. A Creator that is empty, short
 /// or without braces is repaired in the file as well. No file: a message and an empty table; a
-/// value beyond the last column: a message, and the rows read so far stay.
-void ReadAppIni(const ShowMessage& show);
-void ReadPalmAppIni(const ShowMessage& show);
-void ReadVYIconsIni(const ShowMessage& show);
+/// value beyond the last column: a message, and the rows read so far stay. Give back what can't be
+/// seen of a file, if anything.
+std::optional<CutCatalog> ReadAppIni(const ShowMessage& show);
+std::optional<CutCatalog> ReadPalmAppIni(const ShowMessage& show);
+std::optional<CutCatalog> ReadVYIconsIni(const ShowMessage& show);
 
 /// Tells entries that have one Creator, within AppTable, within PalmTable and across the two.
 void ChkDupCreators(const ShowMessage& show);
 
-/// All of the above, in the order of a start.
-void ReadCatalogs(const ShowMessage& show);
+/// All of the above, in the order of a start. Gives back every file with names that can't be seen.
+std::vector<CutCatalog> ReadCatalogs(const ShowMessage& show);
 
 } // namespace vypx

@@ -290,6 +290,39 @@ TEST_F(CatalogFiles, NamesBeyond8192CharactersAreNotSeen)
     EXPECT_GT(AppTable.size(), 1020u);
 }
 
+/// A name of 7 characters takes 8 of the 8190 that are cut for names: 1023 fit, and 6 characters of
+/// another.
+TEST_F(CatalogFiles, NamesThatAreNotSeenAreToldByTheirNumber)
+{
+    std::string text;
+    for (int i = 0; i < 1100; ++i)
+        text += "[N" + std::to_string(100'000 + i) + "]\nID=" + std::to_string(i) + "\n";
+    WriteText(folder.File("VY_Icons.dat"), text);
+    WriteText(folder.File("AppList.dat"), "[Alpha]\nType=appl\nCreator={ALPH}\n");
+    WriteText(folder.File("PalmApp.dat"), "[]\n[B]\nType=appl\nCreator={BBBB}\n");
+
+    const std::vector<CutCatalog> cut = ReadCatalogs(show);
+
+    ASSERT_EQ(cut.size(), 1u);
+    EXPECT_EQ(NoteOf(cut[0]),
+        "Only 1023 of the 1100 names in VY_Icons.dat are known: together they are too long.");
+    EXPECT_THAT(messages, IsEmpty());
+}
+
+TEST_F(CatalogFiles, NamesThatJustFitAreAllKnown)
+{
+    std::string text;
+    for (int i = 0; i < 1023; ++i)
+        text += "[N" + std::to_string(100'000 + i) + "]\nType=appl\nCreator={AAAA}\n";
+    WriteText(folder.File("AppList.dat"), text);
+    EXPECT_EQ(ReadAppIni(show), std::nullopt);
+
+    WriteText(folder.File("AppList.dat"), text + "[N2]\nType=appl\nCreator={AAAA}\n");
+    const auto cut = ReadAppIni(show);
+    EXPECT_EQ(AppTable.back().name, "N2");
+    EXPECT_EQ(cut, std::nullopt);
+}
+
 class ShippedCatalogs : public CatalogFiles { };
 
 TEST_F(ShippedCatalogs, AreReadWithoutAMessage)

@@ -124,7 +124,7 @@ void Open(ColorDepth depth)
     ResetDocument();
     DefaultColorDepth = depth;
     Silent listener;
-    if (LoadFile(Folder().File("big.prc"), listener) != LoadResult::Opened)
+    if (LoadFile({ .path = Folder().File("big.prc") }, listener).result != LoadResult::Opened)
         std::abort();
 }
 

@@ -78,7 +78,6 @@ void Prepare()
     SetDefaultSettings();
     DefaultColorDepth = ColorDepth::Bits8;
     UsePackbits = true;
-    SavingAs = true;
     AppFolder = Folder().Path();
     SetTempSuffix(0);
     MakeFolder(WorkFolder());
@@ -97,15 +96,11 @@ void Open()
 {
     ResetDocument();
     Silent listener;
-    if (LoadFile(Folder().File("big.prc"), listener) != LoadResult::Opened)
+    if (LoadFile({ .path = Folder().File("big.prc") }, listener).result != LoadResult::Opened)
         std::abort();
 }
 
-void Save()
-{
-    FileName = Folder().File("out.prc");
-    CompileIconset();
-}
+void Save() { CompileIconset({ .path = Folder().File("out.prc") }); }
 
 void SaveAFullIconset(benchmark::State& state)
 {

@@ -45,8 +45,9 @@ void Walk(benchmark::State& state, int records)
     for (auto _ : state) {
         Tree.Clear();
         IconTable.assign(static_cast<std::size_t>(2 * count + 1), {});
-        WalkResources(listener);
-        benchmark::DoNotOptimize(TLstCnt);
+        WalkState walk;
+        WalkResources(walk, listener);
+        benchmark::DoNotOptimize(walk.TLstCnt);
     }
     ResetDocument();
 }

@@ -30,7 +30,7 @@ inline void UseCatalogs()
 }
 
 /// Makes the bytes the open file and walks them. False when there is no resource count.
-inline bool WalkDatabase(const std::uint8_t* data, std::size_t size)
+inline bool WalkDatabase(const std::uint8_t* data, std::size_t size, WalkState& walk)
 {
     ResetDocument();
     UseCatalogs();
@@ -43,10 +43,10 @@ inline bool WalkDatabase(const std::uint8_t* data, std::size_t size)
         Parent = ReadDatabaseName();
         Tree.SetRoot(Parent);
         IconTable.assign(static_cast<std::size_t>(2 * count + 1), {});
-    } catch (const std::out_of_range&) {
+    } catch (const BrokenFile&) {
         return false;
     }
-    WalkResources(listener);
+    WalkResources(walk, listener);
     return true;
 }
 

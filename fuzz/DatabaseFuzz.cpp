@@ -16,13 +16,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     DefaultColorDepth = Depths[data[0] % 3];
     AppFolder = "/nowhere";
     SetTempSuffix(0);
-    if (!fuzz::WalkDatabase(data + 1, size - 1))
+    WalkState walk;
+    if (!fuzz::WalkDatabase(data + 1, size - 1, walk))
         return 0;
     fuzz::Silent listener;
     try {
-        BitmapTable.assign(static_cast<std::size_t>(std::max(BmpTotalNum, 0)) + 1, {});
-        ExtractBitmaps(listener);
-    } catch (const std::out_of_range&) {
+        BitmapTable.assign(static_cast<std::size_t>(std::max(walk.BmpTotalNum, 0)) + 1, {});
+        ExtractBitmaps(walk, listener);
+    } catch (const BrokenFile&) {
     }
     for (int row = 0; row < BitmapRow; ++row)
         fuzz::Require(BitmapTable.at(static_cast<std::size_t>(row)).hasTransparent.has_value());

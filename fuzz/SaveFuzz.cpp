@@ -9,6 +9,7 @@
 #include "writer/CompileIconset.h"
 #include "writer/SaveChecks.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
@@ -49,7 +50,7 @@ void UseSettings(unsigned choice)
 LoadResult Load(const fs::path& file)
 {
     fuzz::Silent listener;
-    return LoadFile(file.string(), listener);
+    return LoadFile({ .path = file.string() }, listener).result;
 }
 
 } // namespace
@@ -69,16 +70,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         .write(reinterpret_cast<const char*>(data + 1), static_cast<std::streamsize>(size - 1));
     if (Load(in) != LoadResult::Opened || WhyNotSaved())
         return 0;
-
-    FileName = out.string();
-    SavingAs = true;
+    SaveReport report;
     try {
-        CompileIconset();
+        report = CompileIconset({ .path = out.string() });
     } catch (const SaveFailure&) {
         return 0; // a picture that could not be made
     }
     const std::size_t resources = PictureRows().size();
     fuzz::Require(Load(out) == LoadResult::Opened);
     fuzz::Require(PictureRows().size() <= resources);
+    const auto isOrphan = [](const IconRow& row) { return row.IconKind == KindDelete; };
+    fuzz::Require(report.orphans <= std::count_if(IconTable.begin(), IconTable.end(), isOrphan));
     return 0;
 }

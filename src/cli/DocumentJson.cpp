@@ -1,5 +1,6 @@
 #include "cli/DocumentJson.h"
 
+#include "companion/Latin1.h"
 #include "document/Document.h"
 #include "document/IconStats.h"
 
@@ -101,21 +102,6 @@ json Stats()
 }
 
 } // namespace
-
-std::string Utf8FromLatin1(std::string_view text)
-{
-    std::string utf8;
-    for (const char letter : text) {
-        const auto code = static_cast<unsigned char>(letter);
-        if (code < 0x80) {
-            utf8 += letter;
-        } else {
-            utf8 += static_cast<char>(0xC0 | code >> 6);
-            utf8 += static_cast<char>(0x80 | (code & 0x3F));
-        }
-    }
-    return utf8;
-}
 
 json DocumentJson(const std::vector<std::string>& messages)
 {

@@ -7,9 +7,6 @@
 
 namespace vypx {
 
-/// Single bytes (Latin-1) as UTF-8.
-std::string Utf8FromLatin1(std::string_view text);
-
 /// The open document as one JSON object:
 ///
 ///   loaded        whether a document is open

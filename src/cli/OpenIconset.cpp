@@ -24,12 +24,12 @@ bool UseFolders(const OpenOptions& options)
     std::error_code error;
     const fs::path work = platform::NativePath(options.workFolder);
     if (fs::exists(work, error) && !(fs::is_directory(work, error) && fs::is_empty(work, error))) {
-        std::cerr << "pixelworks-cli: the work folder is not empty: " << options.workFolder << '\n';
+        Tell("the work folder is not empty: " + options.workFolder);
         return false;
     }
     fs::create_directories(work, error);
     if (!fs::is_directory(work, error)) {
-        std::cerr << "pixelworks-cli: can't make the work folder: " << options.workFolder << '\n';
+        Tell("can't make the work folder: " + options.workFolder);
         return false;
     }
     // The work folder stands wherever the caller wants it; from the program's folder a way leads
@@ -46,18 +46,25 @@ void UseSettings(const OpenOptions& options)
     SetDefaultColorDepth(options.depth);
     HighResOnly = options.only == "high";
     LowResOnly = options.only == "low";
-    TemplateMode = options.asTemplate;
 }
 
 } // namespace
+
+void Tell(std::string_view text)
+{
+    if (!text.empty())
+        std::cerr << "pixelworks-cli: " << text << '\n';
+}
 
 bool OpenIconset(const OpenOptions& options, CollectedMessages& messages)
 {
     if (!UseFolders(options))
         return false;
     UseSettings(options);
-    ReadCatalogs([&](std::string_view text) { messages.Message(text); });
-    LoadFile(options.file, messages);
+    for (const CutCatalog& cut :
+        ReadCatalogs([&](std::string_view text) { messages.Message(text); }))
+        Tell(NoteOf(cut));
+    Tell(NoteOf(LoadFile({ .path = options.file, .asTemplate = options.asTemplate }, messages)));
     return true;
 }
 

@@ -3,6 +3,7 @@
 #include "reader/LoadListener.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace vypx {
@@ -25,8 +26,12 @@ public:
     std::vector<std::string> texts;
 };
 
+/// A line on standard error (UTF-8); nothing for an empty text.
+void Tell(std::string_view text);
+
 /// Reads the catalogs and opens the iconset, with the settings of a first run. False, and a word to
 /// standard error, when the folders can't serve; whether a document was opened FileLoaded tells.
+/// What no box says of catalogs and load goes to standard error as well.
 bool OpenIconset(const OpenOptions& options, CollectedMessages& messages);
 
 } // namespace vypx

@@ -11,11 +11,18 @@ namespace vypx {
 
 using Bytes = std::vector<std::uint8_t>;
 
+/// The bytes of a file make no sense to a reader. The only type that readers catch, so that a
+/// mistake of the program is never taken for a bad file.
+class BrokenFile : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
 /// Thrown by every read outside of the bytes that are there.
-class PastTheEnd : public std::out_of_range {
+class PastTheEnd : public BrokenFile {
 public:
     PastTheEnd()
-        : std::out_of_range("read past the end of the bytes")
+        : BrokenFile("read past the end of the bytes")
     {
     }
 };

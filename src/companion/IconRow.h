@@ -10,6 +10,16 @@ namespace vypx {
 /// file is being read.
 inline constexpr std::string_view NoImage = "NEW";
 
+/// Whose icon it is: Palm database type and creator ID of the application, four characters each,
+/// any byte values. Empty texts: nobody's that is known.
+struct Owner {
+    std::string type, creator;
+
+    bool IsKnown() const { return !type.empty() && !creator.empty(); }
+
+    friend bool operator==(const Owner&, const Owner&) = default;
+};
+
 /// One row of `IconTable`: one icon of one application, or of the launcher, in one size class.
 /// Texts are single bytes (Latin-1).
 struct IconRow {
@@ -29,6 +39,9 @@ struct IconRow {
     std::optional<int> IconState;
     /// One of the Kind... words, or empty.
     std::string IconKind;
+    /// Whose icon it was when the row got its label; unknown for orphans and icons of the launcher.
+    /// A save takes it where the catalog file no longer names the row.
+    Owner owner{};
 
     friend bool operator==(const IconRow&, const IconRow&) = default;
 };

@@ -1,32 +1,52 @@
 #include "document/Document.h"
 
+#include "document/IconStats.h"
+#include "document/SettingsFile.h"
+
 namespace vypx {
 
-void ResetDocument()
+namespace {
+
+void ResetCounters()
 {
+    for (int* counter :
+        { &StatTotal, &StatLarge, &StatSmall, &StatHighRes, &StatLowRes, &StatUnknown })
+        *counter = 0;
+    StatDeletable = false;
+}
+
+} // namespace
+
+void ForgetDocument()
+{
+    FileLoaded = false;
     IconTable.assign(1, {});
     BitmapTable.assign(1, {});
     BitmapRow = 0;
+    ShareNames.assign(1, {});
     Itbl.clear();
-    BitmapFamily = {};
-    BitmapFamilyCount = 0;
     FileCashe.clear();
     IconFileSize = 0;
     Tree.Clear();
-    for (std::string* text : { &Parent, &DatabaseName, &FileName, &DroppedFileName, &ResourceName,
-             &SelectedNode, &LastClickedText, &HighResPath, &LowResPath })
+    for (std::string* text : { &Parent, &DatabaseName, &FileName })
         text->clear();
-    FileLoaded = IconsetChanged = TemplateMode = SkipOpenDialog = DroppedFile = false;
-    BmpTotalNum = TotalBmpResources = Rcntr = 0;
-    FCin = ResourceOffset = NextOffset = ResourceSize = PFcnt = TLstCnt = 0;
-    Abmp = DuplicateResource = false;
-    ResourceBytes.clear();
-    LGloaded = SMloaded = LGhasTransparent = SMhasTransparent = false;
+    ClearSlots();
+}
+
+void ResetDocument()
+{
+    ForgetDocument();
+    ShareNames.clear();
+    for (std::string* text : { &DroppedFileName, &SelectedNode, &LastClickedText })
+        text->clear();
+    IconsetChanged = TemplateMode = SkipOpenDialog = DroppedFile = false;
+    LGhasTransparent = SMhasTransparent = false;
     MaskR_LG = MaskG_LG = MaskB_LG = MaskR_SM = MaskG_SM = MaskB_SM = 0;
     TransparentUse = true;
     R = G = 0;
     B = 255;
-    ShareNames.clear();
+    ResetCounters();
+    SettingsSaved = false;
 }
 
 void ClearSlots()

@@ -5,7 +5,6 @@
 #include "companion/Rgb.h"
 #include "document/IconTree.h"
 
-#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -59,21 +58,11 @@ struct ItblRow {
     friend bool operator==(const ItblRow&, const ItblRow&) = default;
 };
 
-/// One bitmap of the family being walked.
-struct FamilyMember {
-    int depth = 0;   ///< pixel size in bits, as the record says it
-    int density = 0; ///< 1 low, 2 double
-};
-
-inline constexpr std::size_t MaxFamilyMembers = 11;
-
 inline std::vector<IconRow> IconTable(1);
 inline std::vector<BitmapEntry> BitmapTable(1);
 inline int BitmapRow = 0; ///< rows of BitmapTable that were filled
 /// Row 0 stays empty, records count from row 1. No rows at all: never read.
 inline std::vector<ItblRow> Itbl;
-inline std::array<FamilyMember, MaxFamilyMembers> BitmapFamily{};
-inline std::size_t BitmapFamilyCount = 0;
 /// The whole iconset file. Index 1 is its first byte, so offset n is index n + 1; one zero byte
 /// stands behind the last.
 inline Bytes FileCashe;
@@ -85,23 +74,10 @@ inline std::string DatabaseName; ///< database name of the document, 31 characte
 inline std::string FileName;     ///< path of the open iconset; empty for a new one not yet saved
 inline bool FileLoaded = false;
 inline ChangeMark IconsetChanged;
-inline bool TemplateMode = false;   ///< LoadFile reads a template; lives for one call
-inline bool SkipOpenDialog = false; ///< FileName is set already; lives for one call of LoadFile
+inline bool TemplateMode = false;   ///< the next load reads a template
+inline bool SkipOpenDialog = false; ///< FileName is set already; lives for one load
 inline bool DroppedFile = false;    ///< DroppedFileName replaces the file dialog
 inline std::string DroppedFileName;
-
-/// State of the walk over the resource list.
-inline int BmpTotalNum = 0; ///< bitmaps in all bitmap resources
-inline int TotalBmpResources = 0;
-inline std::int32_t FCin = 0;    ///< index into FileCashe of the current list entry
-inline int Rcntr = 0;            ///< number of the current resource, from 1
-inline std::string ResourceName; ///< of the current resource: type and decimal ID
-inline std::int32_t ResourceOffset = 0, NextOffset = 0, ResourceSize = 0;
-inline std::int32_t PFcnt = 0;         ///< index into FileCashe while a family is walked
-inline std::int32_t TLstCnt = 0;       ///< next free row of IconTable
-inline bool Abmp = false;              ///< little-endian records; nothing sets it
-inline bool DuplicateResource = false; ///< no pictures are read; nothing sets it
-inline Bytes ResourceBytes;            ///< index 1 is the first byte of the resource in hand
 
 /// What the main form shows and remembers of the selected icon.
 inline std::string SelectedNode;            ///< IconLabel of the selected row
@@ -116,8 +92,13 @@ inline int R = 0, G = 0, B = 255; ///< the panels' background
 /// Labels that share images with the selection, from entry 1; the first empty one ends them.
 inline std::vector<std::string> ShareNames;
 
-/// Puts everything above back to what it is when the process starts.
+/// Puts everything of this room that belongs to a document or its window back to what it is when
+/// the process starts: all above, the counters, SettingsSaved. Catalogs and folders stay.
 void ResetDocument();
+
+/// There is no document: tables and texts of it are empty, the tree as well. What belongs to the
+/// window and the next load stays, IconsetChanged too.
+void ForgetDocument();
 
 /// No picture is on show, as when a document begins or ends.
 void ClearSlots();

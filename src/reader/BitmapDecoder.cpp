@@ -1,29 +1,39 @@
 #include "reader/BitmapDecoder.h"
 
+#include "companion/DensityMark.h"
 #include "companion/PixelLibrary.h"
+#include "document/Document.h"
 #include "document/WorkingFolder.h"
 #include "reader/Progress.h"
 #include "settings/Settings.h"
 
 #include <algorithm>
-#include <stdexcept>
 
 namespace vypx {
 
 namespace {
 
-constexpr int HighDensityMark = 0xFF;
-constexpr std::size_t MarkSize = 16;
+int PixelSizeAt(ByteView resource, std::size_t position)
+{
+    return resource.U8(position + PixelSizeOffset);
+}
 
-int PixelSizeAt(ByteView resource, std::size_t position) { return resource.U8(position + 8); }
+Rgb EntryOf(Palette palette, int index)
+{
+    const auto entry = static_cast<std::size_t>(index);
+    if (entry >= palette.size())
+        throw BrokenFile("a transparent index beyond the palette");
+    return palette[entry];
+}
 
 /// The working depth only ever lowers colours.
 int WorkingDepth() { return BitsOf(DefaultColorDepth); }
 
 } // namespace
 
-BitmapDecoder::BitmapDecoder(LoadListener& listener)
-    : m_listener(listener)
+BitmapDecoder::BitmapDecoder(WalkState& load, LoadListener& listener)
+    : m_load(load)
+    , m_listener(listener)
 {
     for (std::size_t row = 0; row < IconTable.size(); ++row)
         if (!IconTable[row].ResourceKey.empty())
@@ -32,7 +42,7 @@ BitmapDecoder::BitmapDecoder(LoadListener& listener)
 
 void BitmapDecoder::DecodeBitmapFamily()
 {
-    m_size = ResourceBytes.size() - 1;
+    m_size = m_load.ResourceBytes.size() - 1;
     m_walk = {};
     for (;;) {
         if (m_walk.lastLowFound && m_walk.highDepth == 0)
@@ -53,8 +63,8 @@ void BitmapDecoder::OuterPass()
     std::size_t position = 0;
     while (position < m_size) {
         const int pixelSize = PixelSizeAt(resource, position);
-        if (pixelSize == HighDensityMark) {
-            DecodeHighDensity(position + MarkSize);
+        if (pixelSize == DensityMarkPixelSize) {
+            DecodeHighDensity(position + DensityMarkSize);
             return;
         }
         if (m_walk.lowDone)
@@ -109,8 +119,8 @@ void BitmapDecoder::DecodeHighDensity(std::size_t position)
 
 void BitmapDecoder::Pick(std::size_t position, std::size_t size, bool highDensity)
 {
-    const std::string file = ResourceName + (highDensity ? "-d144.bmp" : ".bmp");
-    if (const auto rows = m_rowsByKey.find(ResourceName); rows != m_rowsByKey.end())
+    const std::string file = m_load.ResourceName + (highDensity ? "-d144.bmp" : ".bmp");
+    if (const auto rows = m_rowsByKey.find(m_load.ResourceName); rows != m_rowsByKey.end())
         for (const std::size_t row : rows->second)
             (highDensity ? IconTable[row].HighResFile : IconTable[row].LowResFile) = file;
 
@@ -121,8 +131,10 @@ void BitmapDecoder::Pick(std::size_t position, std::size_t size, bool highDensit
     std::copy(bytes.begin(), bytes.end(), bitmapBytes.begin());
     const BitmapRecord record{ .bytes = bitmapBytes, .highDensity = highDensity };
     NoteTransparency(record, file);
-    WriteWorkingBmp(record, file);
-    ProgBar(m_listener);
+    const std::error_code error = WriteWorkingBmp(record, file);
+    if (error && error != NoPicture() && ++m_load.picturesNotStored == 1)
+        m_load.whyNotStored = error.message();
+    ProgBar(m_load, m_listener);
 }
 
 void BitmapDecoder::NoteTransparency(const BitmapRecord& record, const std::string& file)
@@ -144,9 +156,9 @@ void BitmapDecoder::NoteTransparency(const BitmapRecord& record, const std::stri
     if (entry.depth == 16)
         colour = record.TransparentColour();
     else if (entry.depth == 8)
-        colour = Palette8[static_cast<std::size_t>(*entry.index)];
+        colour = EntryOf(Palette8, *entry.index);
     else if (entry.depth == 4)
-        colour = Palette4.at(static_cast<std::size_t>(*entry.index));
+        colour = EntryOf(Palette4, *entry.index);
     else
         return;
     if (entry.depth >= 8 && WorkingDepth() < 16)
@@ -156,29 +168,28 @@ void BitmapDecoder::NoteTransparency(const BitmapRecord& record, const std::stri
     entry.blue = colour.blue;
 }
 
-void BitmapDecoder::WriteWorkingBmp(const BitmapRecord& record, const std::string& file)
+std::error_code BitmapDecoder::WriteWorkingBmp(const BitmapRecord& record, const std::string& file)
 {
     const PixelBuffer pixels = ExpandPixels(record.Pixels(), record.Form());
     const int width = record.Width(), height = record.Height(), depth = record.PixelSize();
     const std::string path = WorkPath(file);
     if (depth == 16 && WorkingDepth() == 8)
-        RGB16to8Bit(pixels, Palette8, width, height, depth, path);
-    else if (depth == 16 && WorkingDepth() == 4)
-        RGB16to4Bit(pixels, Palette4, width, height, depth, path);
-    else if (depth == 8 && WorkingDepth() == 4)
-        RGB8to4Bit(pixels, Palette4, Palette8, width, height, depth, path);
-    else if (depth == 16)
-        Bmp16to24(pixels, width, height, path);
-    else if (depth == 8)
-        Bmp8to24(pixels, Palette8, width, height, path);
-    else if (depth == 4)
-        Bmp4to24(pixels, Palette4, width, height, path);
-    else if (depth == 2)
-        Bmp2to24(pixels, Palette2, width, height, path);
-    else if (depth == 1)
-        Bmp1to24(pixels, Palette1, width, height, path);
-    else
-        throw std::out_of_range("a pixel size that no bitmap has");
+        return RGB16to8Bit(pixels, Palette8, width, height, depth, path);
+    if (depth == 16 && WorkingDepth() == 4)
+        return RGB16to4Bit(pixels, Palette4, width, height, depth, path);
+    if (depth == 8 && WorkingDepth() == 4)
+        return RGB8to4Bit(pixels, Palette4, Palette8, width, height, depth, path);
+    if (depth == 16)
+        return Bmp16to24(pixels, width, height, path);
+    if (depth == 8)
+        return Bmp8to24(pixels, Palette8, width, height, path);
+    if (depth == 4)
+        return Bmp4to24(pixels, Palette4, width, height, path);
+    if (depth == 2)
+        return Bmp2to24(pixels, Palette2, width, height, path);
+    if (depth == 1)
+        return Bmp1to24(pixels, Palette1, width, height, path);
+    throw BrokenFile("a pixel size that no bitmap has");
 }
 
 } // namespace vypx

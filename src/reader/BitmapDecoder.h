@@ -1,9 +1,11 @@
 #pragma once
 
-#include "document/Document.h"
 #include "reader/BitmapRecord.h"
 #include "reader/LoadListener.h"
+#include "reader/WalkState.h"
 
+#include <string>
+#include <system_error>
 #include <unordered_map>
 #include <vector>
 
@@ -16,11 +18,12 @@ namespace vypx {
 /// Made once for a load, when IconTable has its rows.
 class BitmapDecoder {
 public:
-    explicit BitmapDecoder(LoadListener& listener);
+    BitmapDecoder(WalkState& load, LoadListener& listener);
 
-    /// Decodes what stands in ResourceBytes (from index 1) under ResourceName. Throws
-    /// std::out_of_range for a record that runs past its bounds and for a pixel size that no
-    /// bitmap has; what was decoded before stays.
+    /// Decodes what stands in ResourceBytes (from index 1) under ResourceName. Throws BrokenFile
+    /// for a record that runs past its bounds, a pixel size that no bitmap has and a transparent
+    /// index beyond the palette; what was decoded before stays. A working file that can't be
+    /// written is counted in picturesNotStored.
     void DecodeBitmapFamily();
 
 private:
@@ -37,9 +40,10 @@ private:
     void DecodeHighDensity(std::size_t position);
     void Pick(std::size_t position, std::size_t size, bool highDensity);
     void NoteTransparency(const BitmapRecord& record, const std::string& file);
-    void WriteWorkingBmp(const BitmapRecord& record, const std::string& file);
-    ByteView Resource() const { return ByteView(ResourceBytes).Part(1, m_size); }
+    std::error_code WriteWorkingBmp(const BitmapRecord& record, const std::string& file);
+    ByteView Resource() const { return ByteView(m_load.ResourceBytes).Part(1, m_size); }
 
+    WalkState& m_load;
     LoadListener& m_listener;
     std::unordered_map<std::string, std::vector<std::size_t>> m_rowsByKey; // of IconTable
     std::size_t m_size = 0;                                                // of the resource

@@ -3,56 +3,55 @@
 #include "document/Document.h"
 #include "reader/ResourceList.h"
 
-#include <algorithm>
-
 namespace vypx {
 
 namespace {
 
-bool SizeIsSound() { return ResourceSize >= 0 && ResourceSize <= MaxResourceSize; }
+bool SizeIsSound(const WalkState& walk)
+{
+    return walk.ResourceSize >= 0 && walk.ResourceSize <= MaxResourceSize;
+}
 
 } // namespace
 
-void ExtractBitmaps(LoadListener& listener)
+void ExtractBitmaps(WalkState& walk, LoadListener& listener)
 {
-    if (DuplicateResource)
-        return;
     listener.ProgressShown();
-    BitmapDecoder decoder(listener);
+    BitmapDecoder decoder(walk, listener);
     const int count = ReadResourceCount();
-    FCin = FirstEntryIndex;
-    for (Rcntr = 1; Rcntr <= count; ++Rcntr, FCin += EntrySize) {
-        const ResourceEntry entry = ReadEntry(FCin);
-        ResourceName = entry.Name();
-        ResourceOffset = ReadDataOffset(FCin);
-        if (Rcntr == count) {
-            ResourceSize = IconFileSize - ResourceOffset;
+    walk.FCin = FirstEntryIndex;
+    for (walk.Rcntr = 1; walk.Rcntr <= count; ++walk.Rcntr, walk.FCin += EntrySize) {
+        const ResourceEntry entry = ReadEntry(walk.FCin);
+        walk.ResourceName = entry.Name();
+        walk.ResourceOffset = ReadDataOffset(walk.FCin);
+        if (walk.Rcntr == count) {
+            walk.ResourceSize = IconFileSize - walk.ResourceOffset;
         } else {
             // On purpose: the size that is judged here is still that of the resource before.
-            if (!SizeIsSound()) {
+            if (!SizeIsSound(walk)) {
                 listener.Message("Error Number 0. Problem reading file.");
                 break;
             }
-            NextOffset = ReadDataOffset(FCin + EntrySize);
-            ResourceSize = NextOffset - ResourceOffset;
+            walk.NextOffset = ReadDataOffset(walk.FCin + EntrySize);
+            walk.ResourceSize = walk.NextOffset - walk.ResourceOffset;
         }
-        Abmp = false;
         if (entry.type == "tAIB" || entry.type == "Tbmp")
-            LoadBitmapResource(decoder, listener);
+            LoadBitmapResource(walk, decoder, listener);
     }
     listener.BusyEnded();
 }
 
-void LoadBitmapResource(BitmapDecoder& decoder, LoadListener& listener)
+void LoadBitmapResource(WalkState& walk, BitmapDecoder& decoder, LoadListener& listener)
 {
-    if (!SizeIsSound()) {
+    if (!SizeIsSound(walk)) {
         listener.Message("Error reading file.");
         return;
     }
-    const ByteView resource = FileByIndex().Part(
-        static_cast<std::size_t>(ResourceOffset) + 1, static_cast<std::size_t>(ResourceSize));
-    ResourceBytes.assign(1, 0);
-    ResourceBytes.insert(ResourceBytes.end(), resource.Span().begin(), resource.Span().end());
+    const ByteView resource = FileByIndex().Part(static_cast<std::size_t>(walk.ResourceOffset) + 1,
+        static_cast<std::size_t>(walk.ResourceSize));
+    walk.ResourceBytes.assign(1, 0);
+    walk.ResourceBytes.insert(
+        walk.ResourceBytes.end(), resource.Span().begin(), resource.Span().end());
     decoder.DecodeBitmapFamily();
 }
 

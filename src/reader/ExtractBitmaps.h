@@ -6,12 +6,12 @@
 namespace vypx {
 
 /// Goes through the resource list once more and has every `tAIB` and `Tbmp` resource decoded into
-/// the working folder. An `abmp` resource keeps its row without images. Throws std::out_of_range
-/// where the list or a resource lies outside of the file.
-void ExtractBitmaps(LoadListener& listener);
+/// the working folder. An `abmp` resource keeps its row without images. Throws BrokenFile
+/// where the list or a resource lies outside of the file, and as the decoder does.
+void ExtractBitmaps(WalkState& walk, LoadListener& listener);
 
 /// Copies the resource at ResourceOffset, ResourceSize bytes long, into ResourceBytes (from index
 /// 1) and decodes it. A size below 0 or above MaxResourceSize is told, and the resource skipped.
-void LoadBitmapResource(BitmapDecoder& decoder, LoadListener& listener);
+void LoadBitmapResource(WalkState& walk, BitmapDecoder& decoder, LoadListener& listener);
 
 } // namespace vypx

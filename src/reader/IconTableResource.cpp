@@ -3,8 +3,6 @@
 #include "document/Document.h"
 #include "reader/ResourceList.h"
 
-#include <stdexcept>
-
 namespace vypx {
 
 namespace {
@@ -12,10 +10,11 @@ namespace {
 constexpr std::int32_t RecordSize = 16;
 
 /// Size from the own and the next offset; the rest of the file where that gives none.
-std::int32_t SizeOfIndex()
+std::int32_t SizeOfIndex(const WalkState& walk)
 {
-    const std::int32_t restOfFile = IconFileSize - 1 - ResourceOffset;
-    const std::int32_t size = NextOffset == 0 ? restOfFile : NextOffset - ResourceOffset;
+    const std::int32_t restOfFile = IconFileSize - 1 - walk.ResourceOffset;
+    const std::int32_t size =
+        walk.NextOffset == 0 ? restOfFile : walk.NextOffset - walk.ResourceOffset;
     return size < 0 ? restOfFile : size;
 }
 
@@ -32,25 +31,25 @@ ItblRow ReadRecord(std::size_t index)
 
 } // namespace
 
-void ReadIconTableResource(LoadListener& listener)
+void ReadIconTableResource(WalkState& walk, LoadListener& listener)
 {
-    ResourceOffset = ReadDataOffset(FCin);
-    NextOffset = ReadDataOffset(FCin + EntrySize);
-    if (NextOffset > IconFileSize)
-        NextOffset = 0;
-    ResourceSize = SizeOfIndex();
-    if (ResourceSize % RecordSize != 0) {
+    walk.ResourceOffset = ReadDataOffset(walk.FCin);
+    walk.NextOffset = ReadDataOffset(walk.FCin + EntrySize);
+    if (walk.NextOffset > IconFileSize)
+        walk.NextOffset = 0;
+    walk.ResourceSize = SizeOfIndex(walk);
+    if (walk.ResourceSize % RecordSize != 0) {
         listener.Message("Error reading iTbl");
         return;
     }
 
-    const std::int32_t count = ResourceSize / RecordSize;
+    const std::int32_t count = walk.ResourceSize / RecordSize;
     if (count < 0)
         throw PastTheEnd();
     if (count > INT16_MAX)
-        throw std::out_of_range("record count beyond 16 bits with sign");
+        throw BrokenFile("record count beyond 16 bits with sign");
     Itbl.assign(static_cast<std::size_t>(count) + 1, {});
-    std::size_t index = static_cast<std::size_t>(ResourceOffset) + 1;
+    std::size_t index = static_cast<std::size_t>(walk.ResourceOffset) + 1;
     for (std::size_t row = 1; row < Itbl.size(); ++row, index += RecordSize)
         Itbl[row] = ReadRecord(index);
 }

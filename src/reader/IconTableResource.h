@@ -1,6 +1,7 @@
 #pragma once
 
 #include "reader/LoadListener.h"
+#include "reader/WalkState.h"
 
 namespace vypx {
 
@@ -14,8 +15,8 @@ namespace vypx {
 ///       10     2 small ID  resource ID of the small icon; 0: none
 ///       12     4 reserved  anything
 ///
-/// A size that is no multiple of 16 is told, and Itbl keeps what it held. Throws std::out_of_range
+/// A size that is no multiple of 16 is told, and Itbl keeps what it held. Throws BrokenFile
 /// where the file ends too early and for more than 32767 records.
-void ReadIconTableResource(LoadListener& listener);
+void ReadIconTableResource(WalkState& walk, LoadListener& listener);
 
 } // namespace vypx

@@ -5,17 +5,13 @@
 #include "document/WorkingFolder.h"
 #include "platform/Platform.h"
 #include "reader/ExtractBitmaps.h"
-#include "reader/Progress.h"
 #include "reader/ResourceList.h"
 #include "reader/WalkResources.h"
 #include "settings/LetterCase.h"
 #include "settings/Settings.h"
 
 #include <algorithm>
-#include <exception>
-#include <stdexcept>
 #include <unordered_set>
-#include <utility>
 
 namespace vypx {
 
@@ -30,16 +26,11 @@ struct NoIconset {
     std::string_view message;
 };
 
-void CleanUpBeforeLoad(LoadListener& listener)
+bool HasTheRightExtension(const LoadRequest& request)
 {
-    listener.BeginLoad();
-    DeleteWorkingFiles({ ".bmp" });
-}
-
-bool HasTheRightExtension(const std::string& path)
-{
+    const std::string& path = request.path;
     const std::string ending = LowerCase(path.size() < 3 ? path : path.substr(path.size() - 3));
-    return TemplateMode ? ending == "vpt" : ending == "prc" || ending == "pdb";
+    return request.asTemplate ? ending == "vpt" : ending == "prc" || ending == "pdb";
 }
 
 void RememberFolder(LoadListener& listener)
@@ -53,7 +44,6 @@ void ClearTree(LoadListener& listener)
     FileLoaded = false; // a half-built document must never be saved over a file
     ClearSlots();
     Tree.Clear();
-    TLstCnt = 0;
     listener.TreeCleared();
 }
 
@@ -62,7 +52,7 @@ void ReadWholeIconset()
 {
     const std::optional<Bytes> file = platform::ReadWholeFile(FileName, MaxFileLength);
     if (!file)
-        throw std::runtime_error("can't read the file");
+        throw BrokenFile("can't be read");
     if (file->size() < MinFileLength)
         throw NoIconset{ "Error! Invalid file!" };
     IconFileSize = static_cast<std::int32_t>(file->size() + 1);
@@ -70,12 +60,12 @@ void ReadWholeIconset()
     std::copy(file->begin(), file->end(), FileCashe.begin() + 1);
 }
 
-void CheckTypeAndCreator()
+void CheckTypeAndCreator(bool asTemplate)
 {
     const std::string type = FileByIndex().Text(DatabaseTypeOffset + 1, 4);
     const std::string creator = FileByIndex().Text(DatabaseCreatorOffset + 1, 4);
     // On purpose: a template whose type is wrong gets the iconset's words.
-    if (type != "ICON" || (!TemplateMode && creator != "VNTR"))
+    if (type != "ICON" || (!asTemplate && creator != "VNTR"))
         throw NoIconset{ "This file doesn't appear to be a valid Vantry IconSet" };
     if (creator != "VNTR")
         throw NoIconset{ "This file doesn't appear to be a valid VYPX Template File" };
@@ -97,25 +87,21 @@ void SizeTables()
     ShareNames.assign(rows, {});
     for (IconRow& row : IconTable)
         row.IconState = 1;
-    BmpTotalNum = 0;
-    TotalBmpResources = 0;
     BitmapRow = 0;
 }
 
-void ReadPictures(LoadListener& listener)
+void ReadPictures(WalkState& walk, LoadListener& listener)
 {
-    BitmapCount = BmpTotalNum;
-    BitmapTable.assign(static_cast<std::size_t>(std::max(BmpTotalNum, 0)) + 1, {});
-    if (BitmapCount > 1)
-        listener.ProgressMaximum(BitmapCount);
-    ProgressCount = 0;
+    walk.BitmapCount = walk.BmpTotalNum;
+    BitmapTable.assign(static_cast<std::size_t>(std::max(walk.BmpTotalNum, 0)) + 1, {});
+    if (walk.BitmapCount > 1)
+        listener.ProgressMaximum(walk.BitmapCount);
     listener.Busy(
-        TemplateMode ? "Getting Template, please wait...." : "Getting Images, please wait....");
-    ExtractBitmaps(listener);
+        walk.asTemplate ? "Getting Template, please wait...." : "Getting Images, please wait....");
+    ExtractBitmaps(walk, listener);
     listener.ProgressHidden();
-    if (BitmapCount > 1)
-        listener.ProgressMaximum(BitmapCount);
-    ProgressCount = 0;
+    if (walk.BitmapCount > 1)
+        listener.ProgressMaximum(walk.BitmapCount);
 }
 
 void Recount(LoadListener& listener)
@@ -147,18 +133,18 @@ void FillFileCells(bool all)
     }
 }
 
-void ReadDocument(LoadListener& listener)
+void ReadDocument(WalkState& walk, LoadListener& listener)
 {
     ReadWholeIconset();
-    CheckTypeAndCreator();
+    CheckTypeAndCreator(walk.asTemplate);
     NameTheDocument(listener);
     SizeTables();
     listener.ClearPictures();
-    WalkResources(listener);
-    ReadPictures(listener);
+    WalkResources(walk, listener);
+    ReadPictures(walk, listener);
 }
 
-void FinishDocument(LoadListener& listener)
+void FinishDocument(bool asTemplate, LoadListener& listener)
 {
     FileLoaded = true;
     listener.Opened();
@@ -170,7 +156,7 @@ void FinishDocument(LoadListener& listener)
         DropPictures(&IconRow::HighResFile);
     CompactIconTable();
     // A template brings rows and labels, and no images.
-    FillFileCells(TemplateMode);
+    FillFileCells(asTemplate);
     TemplateMode = false;
     Recount(listener);
 }
@@ -185,33 +171,62 @@ LoadResult Recover(LoadListener& listener, std::string_view message)
     return LoadResult::Recovered;
 }
 
-} // namespace
-
-LoadResult LoadFile(const std::string& path, LoadListener& listener)
+/// There is no document; what was read of it can't be saved.
+void LeaveNoDocument()
 {
-    const bool asChosenBefore = std::exchange(SkipOpenDialog, false);
+    ForgetDocument();
+    LeaveFailedLoad();
+}
+
+LoadResult ReplaceDocument(const LoadRequest& request, WalkState& walk, LoadListener& listener)
+{
     try {
-        if (!asChosenBefore) {
-            CleanUpBeforeLoad(listener);
-            if (!HasTheRightExtension(path)) {
-                listener.Message("Incorrect file type.");
-                return LoadResult::WrongFileType;
-            }
-        }
-        FileName = path;
+        FileName = request.path;
         RememberFolder(listener);
         ClearTree(listener);
-        ReadDocument(listener);
-        FinishDocument(listener);
+        ReadDocument(walk, listener);
+        FinishDocument(request.asTemplate, listener);
         return LoadResult::Opened;
     } catch (const NoIconset& no) {
         return Recover(listener, no.message);
-    } catch (const std::exception&) {
-        // Nothing is said. There is no document; what was read of it can't be saved.
-        FileLoaded = false;
-        LeaveFailedLoad();
+    } catch (const BrokenFile&) {
+        LeaveNoDocument(); // no box says so
+        Recount(listener);
         return LoadResult::Failed;
+    } catch (...) {
+        LeaveNoDocument(); // what it was is for the command to tell
+        throw;
     }
+}
+
+} // namespace
+
+LoadReport LoadFile(const LoadRequest& request, LoadListener& listener)
+{
+    if (!request.chosenBefore) {
+        listener.BeginLoad();
+        if (!HasTheRightExtension(request)) {
+            listener.Message("Incorrect file type.");
+            return { .result = LoadResult::WrongFileType };
+        }
+        DeleteWorkingFiles({ ".bmp" }); // the open document's pictures, so not a moment before
+    }
+    WalkState walk{ .asTemplate = request.asTemplate };
+    LoadReport report{ .result = ReplaceDocument(request, walk, listener) };
+    report.picturesNotStored = walk.picturesNotStored;
+    report.whyNotStored = walk.whyNotStored;
+    return report;
+}
+
+std::string NoteOf(const LoadReport& report)
+{
+    if (report.result == LoadResult::Failed)
+        return "The file could not be read.";
+    if (report.picturesNotStored == 0)
+        return {};
+    const int count = report.picturesNotStored;
+    return std::to_string(count) + (count == 1 ? " picture" : " pictures")
+        + " could not be stored and can't be shown: " + report.whyNotStored + ".";
 }
 
 void LeaveFailedLoad()

@@ -2,11 +2,11 @@
 
 namespace vypx {
 
-void ProgBar(LoadListener& listener)
+void ProgBar(WalkState& walk, LoadListener& listener)
 {
-    ++ProgressCount;
-    if (ProgressCount <= BitmapCount)
-        listener.Progress(ProgressCount);
+    ++walk.ProgressCount;
+    if (walk.ProgressCount <= walk.BitmapCount)
+        listener.Progress(walk.ProgressCount);
 }
 
 } // namespace vypx

@@ -2,8 +2,6 @@
 
 #include "document/Document.h"
 
-#include <stdexcept>
-
 namespace vypx {
 
 bool ResourceEntry::IsBitmap() const { return type == "Tbmp" || type == "tAIB" || type == "abmp"; }
@@ -26,7 +24,7 @@ int ReadResourceCount()
 {
     const int count = FileByIndex().U16(ResourceCountOffset + 1);
     if (count > INT16_MAX)
-        throw std::out_of_range("resource count beyond 16 bits with sign");
+        throw BrokenFile("resource count beyond 16 bits with sign");
     return count;
 }
 

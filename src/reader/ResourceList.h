@@ -47,9 +47,9 @@ struct ResourceEntry {
 /// The open file by index into FileCashe: index 1 is its first byte.
 ByteView FileByIndex();
 
-/// All of these read FileCashe and throw PastTheEnd where it ends.
+/// All of these read FileCashe and throw BrokenFile where it ends.
 std::string ReadDatabaseName();
-/// Throws std::out_of_range at 32768 and more, which a signed 16-bit count can't hold.
+/// Throws BrokenFile at 32768 and more, which a signed 16-bit count can't hold.
 int ReadResourceCount();
 ResourceEntry ReadEntry(std::int32_t entryIndex);
 /// Data offset of the entry at that index.

@@ -1,14 +1,14 @@
 #include "reader/WalkResources.h"
 
+#include "catalogs/IconMatcher.h"
 #include "companion/Lookups.h"
 #include "document/Catalogs.h"
 #include "document/Document.h"
 #include "reader/BitmapChain.h"
-#include "reader/IconMatcher.h"
 #include "reader/IconTableResource.h"
 #include "reader/ResourceList.h"
 
-#include <stdexcept>
+#include <utility>
 
 namespace vypx {
 
@@ -18,8 +18,9 @@ constexpr std::string_view DuplicateMessage = "Warning, file contains a duplicat
 
 class Walk {
 public:
-    explicit Walk(LoadListener& listener)
-        : m_listener(listener)
+    Walk(WalkState& state, LoadListener& listener)
+        : m_state(state)
+        , m_listener(listener)
     {
     }
 
@@ -38,15 +39,15 @@ private:
     void RestartWithIndex();
     void AddRowsOf(const ResourceEntry& entry);
     bool AddMatches(const std::vector<IconMatcher::Match>& matches);
-    void AddUnmatched(const std::string& note);
-    void WriteRow(std::string label, std::string_view kind);
+    void AddUnmatched(const IconMatcher::Note& note);
+    void WriteRow(std::string label, std::string_view kind, const Owner& owner);
     void LocateData();
     void GiveUp();
 
+    WalkState& m_state;
     LoadListener& m_listener;
     IconMatcher m_matcher;
     ResourceKeys m_keys; // those of IconTable
-    std::string m_bitmapStem;
     int m_count = 0;
     bool m_itblSeen = false, m_noItbl = false;
 };
@@ -54,24 +55,24 @@ private:
 bool Walk::Pass()
 {
     m_count = ReadResourceCount();
-    FCin = FirstEntryIndex;
-    Rcntr = 1;
-    TLstCnt = 0;
-    while (Rcntr <= m_count) {
-        BitmapFamily = {};
-        BitmapFamilyCount = 0;
+    m_state.FCin = FirstEntryIndex;
+    m_state.Rcntr = 1;
+    m_state.TLstCnt = 0;
+    while (m_state.Rcntr <= m_count) {
+        m_state.BitmapFamily = {};
+        m_state.BitmapFamilyCount = 0;
         if (m_count > MaxResources) {
             GiveUp();
             return false;
         }
-        const ResourceEntry entry = ReadEntry(FCin);
+        const ResourceEntry entry = ReadEntry(m_state.FCin);
         if (!m_itblSeen && entry.type == "iTbl") {
             RestartWithIndex();
             continue;
         }
         Visit(entry);
-        FCin += EntrySize;
-        ++Rcntr;
+        m_state.FCin += EntrySize;
+        ++m_state.Rcntr;
     }
     for (IconRow& row : IconTable)
         if (LabelHolds(row.IconLabel, "Orphan"))
@@ -81,26 +82,24 @@ bool Walk::Pass()
 
 void Walk::RestartWithIndex()
 {
-    ReadIconTableResource(m_listener);
+    ReadIconTableResource(m_state, m_listener);
     m_matcher.UseIndex();
     m_itblSeen = true;
-    Rcntr = 1;
-    FCin = FirstEntryIndex;
+    m_state.Rcntr = 1;
+    m_state.FCin = FirstEntryIndex;
 }
 
 void Walk::Visit(const ResourceEntry& entry)
 {
-    ResourceName = entry.Name();
+    m_state.ResourceName = entry.Name();
     std::int32_t duplicate = 0;
-    ChkDup(m_keys, ResourceName, duplicate);
-    if (duplicate == 0 && m_itblSeen && entry.IsBitmap()) {
+    ChkDup(m_keys, m_state.ResourceName, duplicate);
+    if (duplicate == 0 && m_itblSeen && entry.IsBitmap())
         AddRowsOf(entry);
-        ++TotalBmpResources;
-    }
     LocateData();
     // On purpose: the bitmaps of a resource that was passed over as a duplicate count as well.
     if (m_itblSeen && entry.IsBitmap())
-        WalkBitmapChain(m_bitmapStem, m_listener);
+        WalkBitmapChain(m_state, m_listener);
 }
 
 void Walk::AddRowsOf(const ResourceEntry& entry)
@@ -109,15 +108,15 @@ void Walk::AddRowsOf(const ResourceEntry& entry)
     if (AddMatches(m_matcher.LauncherIcons(entry.id)))
         return;
     if (m_noItbl) {
-        AddUnmatched("");
+        AddUnmatched({});
         return;
     }
     // An index that could not be read, with none before it, ends the walk here: what has been
     // found of the launcher's icons stays.
     if (Itbl.empty())
-        throw std::out_of_range("no icon index");
+        throw BrokenFile("no icon index");
     if (!AddMatches(m_matcher.Applications(entry.id)))
-        AddUnmatched(m_matcher.Note(entry.id));
+        AddUnmatched(m_matcher.NoteOf(entry.id));
 }
 
 /// Whether at least one row was added. A label of a catalog that is taken already can't become
@@ -130,18 +129,18 @@ bool Walk::AddMatches(const std::vector<IconMatcher::Match>& matches)
             m_listener.Message(DuplicateMessage);
             continue;
         }
-        WriteRow(match.label, match.kind);
+        WriteRow(match.label, match.kind, match.owner);
         matched = true;
     }
     return matched;
 }
 
-void Walk::AddUnmatched(const std::string& note)
+void Walk::AddUnmatched(const IconMatcher::Note& note)
 {
-    const auto label = [&] { return ResourceName + " (" + note + ") "; };
+    const auto label = [&] { return m_state.ResourceName + " (" + note.text + ") "; };
     while (!Tree.Add({ .key = label(), .image = ImageUnknown })) {
         m_listener.Message(DuplicateMessage);
-        ResourceName += "(Dup)";
+        m_state.ResourceName += "(Dup)";
     }
     const bool orphan = LabelHolds(label(), "Orphan");
     if (orphan) {
@@ -149,30 +148,34 @@ void Walk::AddUnmatched(const std::string& note)
         node.image = ImageDelete;
         node.colour = Red;
     }
-    WriteRow(label(), orphan ? KindDelete : KindUnknown);
+    WriteRow(label(), orphan ? KindDelete : KindUnknown, note.owner);
 }
 
-void Walk::WriteRow(std::string label, std::string_view kind)
+void Walk::WriteRow(std::string label, std::string_view kind, const Owner& owner)
 {
-    // On purpose: a file can have no more rows than twice its resources and one; the next one ends
-    // the walk by the table's bound.
-    IconRow& row = IconTable.at(static_cast<std::size_t>(TLstCnt));
+    const auto next = static_cast<std::size_t>(m_state.TLstCnt);
+    if (next >= IconTable.size()) { // as labels are unique, catalogs and resources bound the table
+        IconTable.push_back({ .IconState = 1 });
+        ShareNames.resize(IconTable.size());
+    }
+    IconRow& row = IconTable[next];
     row.IconLabel = std::move(label);
-    row.ResourceKey = ResourceName;
+    row.ResourceKey = m_state.ResourceName;
     row.IconKind = kind;
-    m_keys.insert(ResourceName);
-    ++TLstCnt;
+    row.owner = owner;
+    m_keys.insert(m_state.ResourceName);
+    ++m_state.TLstCnt;
 }
 
 void Walk::LocateData()
 {
-    ResourceOffset = ReadDataOffset(FCin);
-    if (Rcntr == m_count) {
-        ResourceSize = IconFileSize - ResourceOffset;
+    m_state.ResourceOffset = ReadDataOffset(m_state.FCin);
+    if (m_state.Rcntr == m_count) {
+        m_state.ResourceSize = IconFileSize - m_state.ResourceOffset;
         return;
     }
-    NextOffset = ReadDataOffset(FCin + EntrySize);
-    ResourceSize = NextOffset - ResourceOffset;
+    m_state.NextOffset = ReadDataOffset(m_state.FCin + EntrySize);
+    m_state.ResourceSize = m_state.NextOffset - m_state.ResourceOffset;
 }
 
 void Walk::GiveUp()
@@ -183,11 +186,11 @@ void Walk::GiveUp()
 
 } // namespace
 
-void WalkResources(LoadListener& listener)
+void WalkResources(WalkState& walk, LoadListener& listener)
 {
     try {
-        Walk(listener).Run();
-    } catch (const std::out_of_range&) {
+        Walk(walk, listener).Run();
+    } catch (const BrokenFile&) {
         // Nothing is said: the tree shows what was found before the list or a table ended.
     }
 }

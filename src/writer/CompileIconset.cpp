@@ -38,15 +38,15 @@ void DeleteScratchFiles()
         throw SaveFailure(WorkPath("*.bin"), "an old scratch file can't be deleted");
 }
 
-void BackUp()
+void BackUp(const std::string& path)
 {
-    if (SavingAs || !CreateBackup || !NamedFileExists(FileName))
+    if (!NamedFileExists(path))
         return;
-    const auto old = platform::ReadWholeFile(FileName);
+    const auto old = platform::ReadWholeFile(path);
     if (!old)
-        throw SaveFailure(FileName, "the old file can't be read for its backup");
-    if (const std::error_code error = platform::ReplaceFile(FileName + ".bak", *old, FileName))
-        throw SaveFailure(FileName + ".bak", error);
+        throw SaveFailure(path, "the old file can't be read for its backup");
+    if (const std::error_code error = platform::ReplaceFile(path + ".bak", *old, path))
+        throw SaveFailure(path + ".bak", error);
 }
 
 } // namespace
@@ -113,12 +113,18 @@ std::vector<TransparencyRow> TransparencyRows()
     return rows;
 }
 
-void CompileIconset()
+CompileTarget TargetFromFlags()
+{
+    return { .path = FileName, .backUp = CreateBackup && !SavingAs };
+}
+
+SaveReport CompileIconset(const CompileTarget& target)
 {
     DeleteScratchFiles();
     WriteVersionResource();
-    BuildIconTableResource();
+    const IconIndex index = BuildIconTableResource();
     std::vector<ResourceRow> resources = PictureRows();
+    const SaveReport report = ReportOn(resources, index);
     const auto addFile = [&](std::string_view name) {
         resources.push_back({ .lowFile = std::string(name),
             .highFile = std::string(name),
@@ -128,12 +134,14 @@ void CompileIconset()
     if (FileExists(WorkPath(std::string(IndexKey) + ".bin")))
         addFile(IndexKey);
     const std::vector<TransparencyRow> transparency = TransparencyRows();
-    BackUp();
+    if (target.backUp)
+        BackUp(target.path);
     const auto failure =
         CompilePRC(resources, transparency, Palette8, Palette4, BitsOf(DefaultColorDepth),
-            UsePackbits, FileName, DatabaseName, WorkFolder() + platform::PathSeparator);
+            UsePackbits, target.path, DatabaseName, WorkFolder() + platform::PathSeparator);
     if (failure)
         throw SaveFailure(*failure);
+    return report;
 }
 
 } // namespace vypx

@@ -1,5 +1,7 @@
 #include "writer/IconIndex.h"
 
+#include "catalogs/OwnerRules.h"
+#include "companion/Numbers.h"
 #include "document/Document.h"
 #include "document/WorkingFolder.h"
 #include "platform/Platform.h"
@@ -8,9 +10,9 @@
 #include "writer/CompileIconset.h"
 
 #include <filesystem>
-#include <optional>
 #include <string>
 #include <unordered_map>
+#include <utility>
 
 namespace vypx {
 
@@ -20,18 +22,12 @@ constexpr std::string_view IconType = "tAIB";
 constexpr int LowestId = 3500, HighestId = 9999;
 constexpr double ApplicationClass = 10'000'000'000'000, PanelClass = 20'000'000'000'000;
 
-struct Owner {
-    std::string type, creator;
-
-    bool IsKnown() const { return !type.empty() && !creator.empty(); }
-};
-
 bool TakesPart(const IconRow& row)
 {
     if (row.ResourceKey.empty())
         return false;
     const bool empty = !ImageFileValid(row.LowResFile) && !ImageFileValid(row.HighResFile);
-    const int id = IdOf(row.ResourceKey);
+    const int id = ResourceId(row.ResourceKey);
     return !empty && !row.IconLabel.empty() && row.IconState == 1
         && row.ResourceKey.starts_with(IconType) && id >= LowestId && id <= HighestId;
 }
@@ -70,14 +66,25 @@ Owner OwnerByCatalog(const IconRow& row)
     return owner;
 }
 
-/// On purpose: the last row that names the ID wins.
-Owner OwnerByIndex(int id)
-{
+/// Whose icon a row is, and how that came to be known.
+struct RowOwner {
     Owner owner;
-    for (const ItblRow& row : Itbl)
-        if (row.largeId == id || row.smallId == id)
-            owner = { row.type, row.creator };
-    return owner;
+    bool isUnknown = false; ///< no catalog lists the application
+    bool fromRow = false;   ///< the catalog file names it no more
+};
+
+RowOwner OwnerOf(const IconRow& row, const IndexRows& index)
+{
+    if (KeepUnknown && row.IconKind == KindUnknown) {
+        // On purpose: the last row that names the ID wins.
+        const Owner last = index.LastOwner(ResourceId(row.ResourceKey));
+        return { .owner = last.IsKnown() ? last : row.owner, .isUnknown = true };
+    }
+    const Owner named = OwnerByCatalog(row);
+    if (named.IsKnown())
+        return { .owner = named };
+    const bool wasKnown = row.IconKind == KindApp || row.IconKind == KindPalm;
+    return wasKnown ? RowOwner{ .owner = row.owner, .fromRow = true } : RowOwner();
 }
 
 std::uint32_t Packed(const std::string& text)
@@ -98,65 +105,91 @@ double CreatorKey(std::uint32_t creator)
     return key;
 }
 
-} // namespace
+/// The index in the making, one record for each owner.
+class IndexMaker {
+public:
+    void Add(const RowOwner& from, bool large, int id)
+    {
+        const std::size_t record = RecordOf(from.owner);
+        m_index.ownersFromRows[record] += from.fromRow;
+        bool& isKnown = large ? m_known[record].large : m_known[record].small;
+        if (from.isUnknown && isKnown)
+            return;
+        isKnown = isKnown || !from.isUnknown;
+        ItblValue& value = m_index.values[record];
+        (large ? value.largeId : value.smallId) = static_cast<std::uint16_t>(id);
+    }
 
-int IdOf(const std::string& key)
-{
-    if (key.size() < IconType.size())
-        return 0;
-    return static_cast<int>(std::strtol(key.c_str() + IconType.size(), nullptr, 10));
-}
+    IconIndex Taken() { return std::move(m_index); }
 
-IconIndex CollectIconIndex()
-{
-    IconIndex index;
-    std::unordered_map<std::string, std::size_t> records;
-    double lastClass = 0;
-    for (const IconRow& row : IconTable) {
-        if (!TakesPart(row))
-            continue;
-        const int id = IdOf(row.ResourceKey);
-        const bool byIndex = KeepUnknown && row.IconKind == KindUnknown;
-        const Owner owner = byIndex ? OwnerByIndex(id) : OwnerByCatalog(row);
-        if (!owner.IsKnown())
-            continue;
+private:
+    /// Which fields of a record a known icon has filled.
+    struct Known {
+        bool large = false, small = false;
+    };
+
+    std::size_t RecordOf(const Owner& owner)
+    {
         const std::uint32_t type = Packed(owner.type), creator = Packed(owner.creator);
-        const auto [record, isNew] = records.try_emplace(
-            std::to_string(type) + " " + std::to_string(creator), index.values.size());
+        const auto [record, isNew] =
+            m_records.try_emplace(std::uint64_t{ type } << 32 | creator, m_index.values.size());
         if (isNew) {
             // On purpose: any other type keeps the class of the record before it.
             if (owner.type == "appl")
-                lastClass = ApplicationClass;
+                m_lastClass = ApplicationClass;
             else if (owner.type == "panl")
-                lastClass = PanelClass;
-            index.values.push_back({ .type = type, .creator = creator });
-            index.keys.push_back({ .entryClass = lastClass, .creator = CreatorKey(creator) });
+                m_lastClass = PanelClass;
+            m_index.values.push_back({ .type = type, .creator = creator });
+            m_index.keys.push_back({ .entryClass = m_lastClass, .creator = CreatorKey(creator) });
+            m_index.ownersFromRows.push_back(0);
+            m_known.emplace_back();
         }
-        ItblValue& value = index.values[record->second];
-        (IsLarge(row) ? value.largeId : value.smallId) = static_cast<std::uint16_t>(id);
+        return record->second;
     }
-    return index;
+
+    IconIndex m_index;
+    std::vector<Known> m_known; // row by row with the values
+    std::unordered_map<std::uint64_t, std::size_t> m_records;
+    double m_lastClass = 0;
+};
+
+} // namespace
+
+IconIndex CollectIconIndex()
+{
+    IndexMaker maker;
+    const IndexRows itbl = IndexRows::OfItbl();
+    for (const IconRow& row : IconTable) {
+        if (!TakesPart(row))
+            continue;
+        const RowOwner from = OwnerOf(row, itbl);
+        if (from.owner.IsKnown())
+            maker.Add(from, IsLarge(row), ResourceId(row.ResourceKey));
+    }
+    return maker.Taken();
 }
 
-void BuildIconTableResource()
+IconIndex BuildIconTableResource()
 {
+    IconIndex kept;
     if (!FileLoaded)
-        return;
+        return kept;
     std::error_code ignored;
     std::filesystem::remove(platform::NativePath(WorkPath("iTbl.bin")), ignored);
     const IconIndex all = CollectIconIndex();
-    IconIndex kept;
     for (std::size_t i = 0; i < all.values.size(); ++i) {
         if (all.keys[i].entryClass == 0)
             continue;
         kept.values.push_back(all.values[i]);
         kept.keys.push_back(all.keys[i]);
+        kept.ownersFromRows.push_back(all.ownersFromRows[i]);
     }
     if (kept.values.empty())
-        return;
+        return kept;
     const std::string path = WorkPath("iTbl1000.bin");
     if (const std::error_code error = WriteItbl(kept.values, kept.keys, path))
         throw SaveFailure(path, error.message());
+    return kept;
 }
 
 } // namespace vypx

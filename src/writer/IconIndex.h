@@ -11,18 +11,19 @@ namespace vypx {
 struct IconIndex {
     std::vector<ItblValue> values;
     std::vector<ItblKey> keys; ///< row by row with the values
+    /// Row by row with the values: rows of IconTable whose own owner was taken, as no catalog file
+    /// names them any more.
+    std::vector<int> ownersFromRows;
 };
 
 /// A record for each application that the rows of IconTable name: by `AppList.dat`, else by
-/// `PalmApp.dat`, unknown icons by Itbl. Only `tAIB` resources with IDs from 3500 to 9999 and
-/// pictures take part.
+/// `PalmApp.dat`, else by the row's own owner; unknown icons by Itbl. Only `tAIB` resources with
+/// IDs from 3500 to 9999 and pictures take part. An unknown icon never takes the place of one that
+/// is known.
 IconIndex CollectIconIndex();
 
-/// The number behind the four characters of a resource key's type; 0 where there is none.
-int IdOf(const std::string& key);
-
-/// Writes `iTbl1000.bin` of the working folder; none when no application qualifies. Throws
-/// SaveFailure.
-void BuildIconTableResource();
+/// Writes `iTbl1000.bin` of the working folder; none when no application qualifies. Gives back what
+/// was written. Throws SaveFailure.
+IconIndex BuildIconTableResource();
 
 } // namespace vypx

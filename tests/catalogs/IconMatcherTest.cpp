@@ -1,4 +1,4 @@
-#include "reader/IconMatcher.h"
+#include "catalogs/IconMatcher.h"
 
 #include "companion/IconRow.h"
 #include "support/LoadFixture.h"
@@ -78,20 +78,10 @@ RC_GTEST_PROP(IconMatcher, AnswersWhatASearchThroughEverythingAnswers, ())
 
     for (int id = 0; id < 7; ++id) {
         RC_ASSERT(LabelsOf(matcher.Applications(id)) == SearchEverything(id));
-        RC_ASSERT(matcher.Note(id) == SearchNote(id));
+        RC_ASSERT(matcher.NoteOf(id).text == SearchNote(id));
     }
     ResetCatalogs();
     Itbl.clear();
-}
-
-TEST(IconMatcher, ReadsTheNumberAtTheBeginningOfACell)
-{
-    EXPECT_EQ(NumberOf("2000"), 2000);
-    EXPECT_EQ(NumberOf("  2000 x"), 2000);
-    EXPECT_EQ(NumberOf("+7"), 7);
-    EXPECT_EQ(NumberOf("2000.5"), 2000.5);
-    EXPECT_EQ(NumberOf("x2000"), std::nullopt);
-    EXPECT_EQ(NumberOf(""), std::nullopt);
 }
 
 TEST(IconMatcher, AnIdWithAFractionIsNoResources)

@@ -114,7 +114,7 @@ TEST_F(Convert, AFileThatIsNotThereGivesNoOutput)
     EXPECT_FALSE(std::filesystem::exists(folder.File("out.prc")));
 }
 
-TEST_F(Convert, TellsOfIconsThatOutHasNoRoomFor)
+TEST_F(Convert, KeepsEveryIconOfAPictureThatManyShare)
 {
     std::string catalog;
     Bytes index;
@@ -132,10 +132,40 @@ TEST_F(Convert, TellsOfIconsThatOutHasNoRoomFor)
     const ToolRun run = Run({});
 
     EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.errors, "");
+    EXPECT_EQ(Dumped("out.prc")["icons"].size(), 8u);
+}
+
+TEST_F(Convert, TellsWhatWillBeOrphansInOut)
+{
+    WriteText(folder.File("catalogs/AppList.dat"), "[Alpha]\nType=appl\nCreator={ALPH}\n");
+    const Iconset set{ .resources = { { "tAIB", 3500, LowRecord(8) },
+                           { "Tbmp", 3501, LowRecord(8) },
+                           { "iTbl", 1000, IndexRecord("appl", "ALPH", 3500, 3501) } } };
+    WriteBytes(folder.File("set.prc"), set.File());
+
+    const ToolRun run = Run({ "--name", "" });
+
+    EXPECT_EQ(run.exitCode, 0);
     EXPECT_EQ(run.errors,
-        "pixelworks-cli: Only 7 of its 8 icons will be shown when it is opened again: too many of "
-        "them share a picture.\n");
-    EXPECT_EQ(Dumped("out.prc")["icons"].size(), 7u);
+        "pixelworks-cli: 1 icon will be an orphan when this file is opened: its index of "
+        "applications does not name it. The iconset has no Palm database name.\n");
+    const json after = Dumped("out.prc");
+    EXPECT_EQ(after["icons"][1]["label"], "Tbmp3501 (Orphan) ");
+}
+
+TEST_F(Convert, TellsOfNamesThatACatalogHasTooManyOf)
+{
+    std::string text;
+    for (int i = 0; i < 1100; ++i)
+        text += "[N" + std::to_string(100'000 + i) + "]\nType=appl\nCreator={N" + std::to_string(i)
+            + "}\n";
+    WriteText(folder.File("catalogs/PalmApp.dat"), text);
+
+    EXPECT_THAT(Run({}).errors,
+        ::testing::HasSubstr(
+            "pixelworks-cli: Only 1023 of the 1100 names in PalmApp.dat are known: "
+            "together they are too long.\n"));
 }
 
 TEST_F(Convert, OptionsChangeWhatIsWritten)

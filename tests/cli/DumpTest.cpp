@@ -89,6 +89,7 @@ TEST_F(Dump, AMissingFileIsPrintedAllTheSame)
     const ToolRun run = DumpOf(folder.File("gone.prc"));
 
     EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.errors, "pixelworks-cli: The file could not be read.\n");
     EXPECT_EQ(run.Json()["loaded"], false);
 }
 

@@ -1,5 +1,7 @@
 #include "document/Document.h"
 
+#include "document/IconStats.h"
+#include "document/SettingsFile.h"
 #include "support/LoadFixture.h"
 
 namespace vypx::test {
@@ -17,38 +19,44 @@ TEST_F(Document, BeginsWithOneEmptyRow)
     EXPECT_FALSE(Tree.HasRoot());
 }
 
-TEST_F(Document, AResetForgetsAllOfTheOldDocument)
+TEST_F(Document, ResettingPutsEverythingBack)
 {
-    IconTable.assign(2, { "A", "tAIB1", "a.bmp", "NEW", 1, "VY" });
-    BitmapTable.assign(2, { .file = "a.bmp", .hasTransparent = 1 });
-    Itbl.assign(2, {});
-    Tree.SetRoot("Set");
-    Tree.Add({ .key = "A" });
-    Parent = DatabaseName = FileName = SelectedNode = LastClickedText = "x";
+    FileLoaded = IconsetChanged = TemplateMode = SkipOpenDialog = DroppedFile = true;
+    FileName = DatabaseName = Parent = DroppedFileName = SelectedNode = LastClickedText = "x";
     HighResPath = LowResPath = "x";
-    FileLoaded = IconsetChanged = true;
     LGloaded = SMloaded = LGhasTransparent = SMhasTransparent = true;
     MaskR_LG = MaskG_LG = MaskB_LG = MaskR_SM = MaskG_SM = MaskB_SM = 1;
-    TransparentUse = false;
     R = G = B = 1;
-    ShareNames.assign(2, "A");
+    TransparentUse = false;
+    IconTable.assign(2, {});
+    BitmapTable.assign(2, {});
+    BitmapRow = 1;
+    Itbl.assign(2, {});
+    FileCashe.assign(2, 0);
+    IconFileSize = 1;
+    ShareNames.assign(2, "x");
+    Tree.SetRoot("x");
+    StatTotal = StatLarge = StatSmall = StatHighRes = StatLowRes = StatUnknown = 1;
+    StatDeletable = SettingsSaved = true;
 
     ResetDocument();
 
+    for (const bool flag : { FileLoaded, IconsetChanged, TemplateMode, SkipOpenDialog, DroppedFile,
+             LGloaded, SMloaded, LGhasTransparent, SMhasTransparent, StatDeletable, SettingsSaved })
+        EXPECT_FALSE(flag);
+    EXPECT_TRUE(TransparentUse);
+    EXPECT_EQ(FileName + DatabaseName + Parent + DroppedFileName + SelectedNode + LastClickedText
+            + HighResPath + LowResPath,
+        "");
+    for (const int number :
+        { MaskR_LG, MaskG_LG, MaskB_LG, MaskR_SM, MaskG_SM, MaskB_SM, R, G, BitmapRow, IconFileSize,
+            StatTotal, StatLarge, StatSmall, StatHighRes, StatLowRes, StatUnknown })
+        EXPECT_EQ(number, 0);
+    EXPECT_EQ(B, 255);
     EXPECT_EQ(IconTable, std::vector<IconRow>(1));
     EXPECT_EQ(BitmapTable, std::vector<BitmapEntry>(1));
-    EXPECT_TRUE(Itbl.empty());
+    EXPECT_TRUE(Itbl.empty() && FileCashe.empty() && ShareNames.empty());
     EXPECT_FALSE(Tree.HasRoot());
-    EXPECT_TRUE(Tree.Nodes().empty());
-    for (const std::string* text : { &Parent, &DatabaseName, &FileName, &SelectedNode,
-             &LastClickedText, &HighResPath, &LowResPath })
-        EXPECT_EQ(*text, "");
-    EXPECT_FALSE(FileLoaded || IconsetChanged);
-    EXPECT_FALSE(LGloaded || SMloaded || LGhasTransparent || SMhasTransparent);
-    EXPECT_EQ(MaskR_LG + MaskG_LG + MaskB_LG + MaskR_SM + MaskG_SM + MaskB_SM, 0);
-    EXPECT_TRUE(TransparentUse) << "pictures are masked again";
-    EXPECT_EQ((Rgb{ R, G, B }), Blue);
-    EXPECT_TRUE(ShareNames.empty());
 }
 
 TEST_F(Document, FindsTheFirstRowOfALabel)

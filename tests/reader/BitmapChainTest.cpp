@@ -20,23 +20,20 @@ protected:
         FileCashe.assign(1, 0);
         FileCashe.insert(FileCashe.end(), family.begin(), family.end());
         FileCashe.push_back(0);
-        ResourceOffset = 0;
-        ResourceName = "tAIB1005";
-        BitmapFamilyCount = 0;
-        BmpTotalNum = 0;
-        WalkBitmapChain(stem, listener);
+        walk.ResourceName = "tAIB1005";
+        WalkBitmapChain(walk, listener);
     }
 
     /// Depth and density of what was noted.
-    static std::vector<std::pair<int, int>> Family()
+    std::vector<std::pair<int, int>> Family() const
     {
         std::vector<std::pair<int, int>> members;
-        for (std::size_t i = 0; i < BitmapFamilyCount; ++i)
-            members.emplace_back(BitmapFamily[i].depth, BitmapFamily[i].density);
+        for (std::size_t i = 0; i < walk.BitmapFamilyCount; ++i)
+            members.emplace_back(walk.BitmapFamily[i].depth, walk.BitmapFamily[i].density);
         return members;
     }
 
-    std::string stem = "none";
+    WalkState walk;
 };
 
 TEST_F(BitmapChain, CountsASingleRecord)
@@ -44,8 +41,8 @@ TEST_F(BitmapChain, CountsASingleRecord)
     Walk(LowRecord(8));
 
     EXPECT_THAT(Family(), ElementsAre(Pair(8, 1)));
-    EXPECT_EQ(BmpTotalNum, 1);
-    EXPECT_EQ(stem, "tAIB1005");
+    EXPECT_EQ(walk.BmpTotalNum, 1);
+    EXPECT_EQ(walk.BitmapStem, "tAIB1005");
 }
 
 TEST_F(BitmapChain, GoesOnFromLowToHighDensityAtTheMark)
@@ -56,8 +53,8 @@ TEST_F(BitmapChain, GoesOnFromLowToHighDensityAtTheMark)
     Walk(Join({ LowRecord(1, false), last, Separator(), HighRecord(4, false), HighRecord(8) }));
 
     EXPECT_THAT(Family(), ElementsAre(Pair(1, 1), Pair(4, 1), Pair(4, 2), Pair(8, 2)));
-    EXPECT_EQ(BmpTotalNum, 4);
-    EXPECT_EQ(stem, "tAIB1005-d144");
+    EXPECT_EQ(walk.BmpTotalNum, 4);
+    EXPECT_EQ(walk.BitmapStem, "tAIB1005-d144");
 }
 
 TEST_F(BitmapChain, MayBeginWithTheMark)
@@ -96,17 +93,17 @@ TEST_F(BitmapChain, ALinkOutOfTheFileTakesOneFromTheCountAndIsTold)
     Walk(Join({ LowRecord(1, false), first }));
 
     EXPECT_THAT(listener.messages, ElementsAre("Error parsing file following tAIB1005."));
-    EXPECT_EQ(BmpTotalNum, 1) << "two were found, one is taken back";
+    EXPECT_EQ(walk.BmpTotalNum, 1) << "two were found, one is taken back";
 }
 
 TEST_F(BitmapChain, ABrokenFirstRecordIsToldWithTheStemOfTheResourceBefore)
 {
-    stem = "tAIB1004-d144";
+    walk.BitmapStem = "tAIB1004-d144";
 
     Walk(Bytes(5, 0));
 
     EXPECT_THAT(listener.messages, ElementsAre("Error parsing file following tAIB1004-d144."));
-    EXPECT_EQ(BmpTotalNum, -1);
+    EXPECT_EQ(walk.BmpTotalNum, -1);
 }
 
 TEST_F(BitmapChain, ATwelfthBitmapBreaksTheFamily)
@@ -118,8 +115,8 @@ TEST_F(BitmapChain, ATwelfthBitmapBreaksTheFamily)
     Walk(family);
 
     EXPECT_THAT(listener.messages, ElementsAre("Error parsing file following tAIB1005."));
-    EXPECT_EQ(BitmapFamilyCount, 11u);
-    EXPECT_EQ(BmpTotalNum, 10);
+    EXPECT_EQ(walk.BitmapFamilyCount, 11u);
+    EXPECT_EQ(walk.BmpTotalNum, 10);
 }
 
 TEST_F(BitmapChain, ElevenBitmapsAreAFamily)
@@ -131,17 +128,17 @@ TEST_F(BitmapChain, ElevenBitmapsAreAFamily)
     Walk(family);
 
     EXPECT_THAT(listener.messages, IsEmpty());
-    EXPECT_EQ(BmpTotalNum, 11);
+    EXPECT_EQ(walk.BmpTotalNum, 11);
 }
 
 TEST_F(BitmapChain, IsSilentInATemplate)
 {
-    TemplateMode = true;
+    walk.asTemplate = true;
 
     Walk(Bytes(5, 0));
 
     EXPECT_THAT(listener.messages, IsEmpty());
-    EXPECT_EQ(BmpTotalNum, -1);
+    EXPECT_EQ(walk.BmpTotalNum, -1);
 }
 
 TEST_F(BitmapChain, OneThatMarksItselfAsMarkForEverEnds)

@@ -18,12 +18,12 @@ class Decoder : public LoadFixture {
 protected:
     void Decode(const Bytes& family)
     {
-        ResourceName = "Tbmp1000";
+        walk.ResourceName = "Tbmp1000";
         IconTable.assign(1, { .ResourceKey = "Tbmp1000", .HighResFile = "before" });
         BitmapTable.assign(1, {});
         BitmapRow = 0;
-        ResourceBytes = Join({ Bytes{ 0 }, family });
-        BitmapDecoder(listener).DecodeBitmapFamily();
+        walk.ResourceBytes = Join({ Bytes{ 0 }, family });
+        BitmapDecoder(walk, listener).DecodeBitmapFamily();
     }
 
     /// Names of the working files.
@@ -39,6 +39,8 @@ protected:
     {
         return DecodeBmp(ReadBytes(WorkPath(name))).value_or(Picture());
     }
+
+    WalkState walk;
 };
 
 /// A low-density header and pixel data.
@@ -117,13 +119,13 @@ TEST_F(Decoder, AHighDensityMemberBehindAChainThatEndedIsNotFound)
 
 TEST_F(Decoder, EveryRowOfTheResourceGetsTheFile)
 {
-    ResourceName = "Tbmp1000";
+    walk.ResourceName = "Tbmp1000";
     IconTable.assign(3, {});
     IconTable[0].ResourceKey = IconTable[2].ResourceKey = "Tbmp1000";
     IconTable[1].ResourceKey = "Tbmp1001";
-    ResourceBytes = Join({ Bytes{ 0 }, LowRecord(8) });
+    walk.ResourceBytes = Join({ Bytes{ 0 }, LowRecord(8) });
 
-    BitmapDecoder(listener).DecodeBitmapFamily();
+    BitmapDecoder(walk, listener).DecodeBitmapFamily();
 
     EXPECT_EQ(IconTable[0].LowResFile, "Tbmp1000.bmp");
     EXPECT_EQ(IconTable[1].LowResFile, "");
@@ -283,22 +285,18 @@ TEST_F(Decoder, OnPurposeARecordIsReadIntoTwiceItsRoomAndZerosFollow)
 
 TEST_F(Decoder, ARecordThatRunsBeyondThatThrows)
 {
-    EXPECT_THROW(
-        Decode(Low("0004 0040 0004 0000 08 01 0000 00 00 0000", "05050505")), std::out_of_range);
-    EXPECT_THROW(
-        Decode(Low("FFFF FFFF FFFF 0000 08 01 0000 00 00 0000", "05050505")), std::out_of_range);
+    EXPECT_THROW(Decode(Low("0004 0040 0004 0000 08 01 0000 00 00 0000", "05050505")), BrokenFile);
+    EXPECT_THROW(Decode(Low("FFFF FFFF FFFF 0000 08 01 0000 00 00 0000", "05050505")), BrokenFile);
 }
 
 TEST_F(Decoder, APixelSizeThatNoBitmapHasThrows)
 {
-    EXPECT_THROW(
-        Decode(Low("0001 0001 0002 0000 03 01 0000 00 00 0000", "0000")), std::out_of_range);
+    EXPECT_THROW(Decode(Low("0001 0001 0002 0000 03 01 0000 00 00 0000", "0000")), BrokenFile);
 }
 
 TEST_F(Decoder, AFourBitIndexBeyondItsPaletteThrows)
 {
-    EXPECT_THROW(
-        Decode(Low("0001 0001 0002 2000 04 01 0000 10 00 0000", "0000")), std::out_of_range);
+    EXPECT_THROW(Decode(Low("0001 0001 0002 2000 04 01 0000 10 00 0000", "0000")), BrokenFile);
 }
 
 TEST_F(Decoder, AWidthThatTheRowsDoNotHoldMakesNoFileAndIsNotTold)

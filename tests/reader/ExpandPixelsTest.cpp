@@ -65,7 +65,7 @@ TEST(CopyPixels, RowsBeyondTheBytesThrow)
 {
     const Given given(Hex("0102"), 2, 9);
 
-    EXPECT_THROW(CopyPixels(given.Stored()), std::out_of_range);
+    EXPECT_THROW(CopyPixels(given.Stored()), BrokenFile);
 }
 
 TEST(DecodeScanline, ASetBitTakesAByteAClearOneTheByteAbove)
@@ -96,14 +96,14 @@ TEST(DecodeScanline, OnPurposeOneRowMoreThanThePictureIsRead)
     EXPECT_EQ(DecodeScanline(given.Stored()).RowsMade(), 2);
 
     given.bytes.resize(8); // the extra row's bytes are not there
-    EXPECT_THROW(DecodeScanline(given.Stored()), std::out_of_range);
+    EXPECT_THROW(DecodeScanline(given.Stored()), BrokenFile);
 }
 
 TEST(DecodeScanline, AClearBitInTheFirstRowThrows)
 {
     const Given given(Hex("7F 01020304050607"), 8, 1);
 
-    EXPECT_THROW(DecodeScanline(given.Stored()), std::out_of_range);
+    EXPECT_THROW(DecodeScanline(given.Stored()), BrokenFile);
 }
 
 TEST(DecodeRLE, RepeatsAValueByItsCount)
@@ -137,12 +137,12 @@ TEST(DecodeRLE, ARunBeyondTheRowsBoundThrows)
 {
     // 3 + 1 pad + 5 columns: a run of 8 leaves room for the pad, one of 9 does not.
     EXPECT_NO_THROW(DecodeRLE(Given(Hex("08AA"), 3, 1).Stored()));
-    EXPECT_THROW(DecodeRLE(Given(Hex("09AA"), 3, 1).Stored()), std::out_of_range);
+    EXPECT_THROW(DecodeRLE(Given(Hex("09AA"), 3, 1).Stored()), BrokenFile);
 }
 
 TEST(DecodeRLE, CountsOf0RunToTheEndOfTheBytesAndThrow)
 {
-    EXPECT_THROW(DecodeRLE(Given(Hex("00AA 00BB"), 4, 1).Stored()), std::out_of_range);
+    EXPECT_THROW(DecodeRLE(Given(Hex("00AA 00BB"), 4, 1).Stored()), BrokenFile);
 }
 
 TEST(DecodePackBits, ExpandsRunsAndLiterals)
@@ -191,7 +191,7 @@ TEST(DecodePackBits, ThePadOf16BitsIsTheFirstByteOfTheLastPair)
 TEST(DecodePackBits, OnPurposeARunThatOverstepsTheRowGoesOnUntilTheBoundThrows)
 {
     // Five bytes for a row of four: the end is missed, and the zeros behind are literals.
-    EXPECT_THROW(DecodePackBits(Given(Hex("FCAA"), 4, 1).Stored()), std::out_of_range);
+    EXPECT_THROW(DecodePackBits(Given(Hex("FCAA"), 4, 1).Stored()), BrokenFile);
 }
 
 TEST(PixelBuffer, KeepsOneRowMoreThanThePictureAndNoOtherMore)
@@ -201,14 +201,14 @@ TEST(PixelBuffer, KeepsOneRowMoreThanThePictureAndNoOtherMore)
     for (int y = 0; y < 3; ++y)
         pixels.NextRow();
 
-    EXPECT_THROW(pixels.NextRow(), std::out_of_range);
+    EXPECT_THROW(pixels.NextRow(), BrokenFile);
 }
 
 TEST(PixelBuffer, AClaimOf65535RowsCostsOnlyWhatTheBytesGive)
 {
     const Given given(Hex("FFAA"), 65535, 65535);
 
-    EXPECT_THROW(DecodeRLE(given.Stored()), std::out_of_range);
+    EXPECT_THROW(DecodeRLE(given.Stored()), BrokenFile);
 }
 
 /// The forms as a writer makes them, for the round trips below.

@@ -11,7 +11,6 @@ namespace vypx::test {
 namespace {
 
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 class ExtractBitmaps : public LoadFixture {
 protected:
@@ -22,28 +21,30 @@ protected:
         FileCashe.push_back(0);
         IconFileSize = static_cast<std::int32_t>(file.size() + 1);
     }
+
+    WalkState walk;
 };
 
 TEST_F(ExtractBitmaps, TheLastResourceIsAByteLongerThanTheRestOfTheFile)
 {
     Keep(Iconset{ .resources = { Icon(3500) } }.File());
 
-    vypx::ExtractBitmaps(listener);
+    vypx::ExtractBitmaps(walk, listener);
 
     Bytes expected{ 0 };
     const Bytes record = LowRecord(8);
     expected.insert(expected.end(), record.begin(), record.end());
     expected.push_back(0);
-    EXPECT_EQ(ResourceBytes, expected);
+    EXPECT_EQ(walk.ResourceBytes, expected);
 }
 
 TEST_F(ExtractBitmaps, AResourceReachesToTheNextOnesData)
 {
     Keep(Iconset{ .resources = { Icon(3500), { "tver", 1000, { '1', 0 } } } }.File());
 
-    vypx::ExtractBitmaps(listener);
+    vypx::ExtractBitmaps(walk, listener);
 
-    EXPECT_EQ(ResourceBytes.size(), LowRecord(8).size() + 1);
+    EXPECT_EQ(walk.ResourceBytes.size(), LowRecord(8).size() + 1);
 }
 
 TEST_F(ExtractBitmaps, ASizeOutOfRangeIsToldAndTheResourceBehindItEndsThePass)
@@ -52,7 +53,7 @@ TEST_F(ExtractBitmaps, ASizeOutOfRangeIsToldAndTheResourceBehindItEndsThePass)
     PutU32(file, 78 + 6, 0x00FFFFFF);
 
     Keep(file);
-    vypx::ExtractBitmaps(listener);
+    vypx::ExtractBitmaps(walk, listener);
 
     EXPECT_THAT(listener.messages,
         ElementsAre("Error reading file.", "Error Number 0. Problem reading file."));
@@ -62,10 +63,10 @@ TEST_F(ExtractBitmaps, ASizeOutOfRangeIsToldAndTheResourceBehindItEndsThePass)
 TEST_F(ExtractBitmaps, ASizeAboveTenMillionIsOutOfRange)
 {
     Keep(Bytes(200, 0));
-    ResourceSize = MaxResourceSize + 1;
+    walk.ResourceSize = MaxResourceSize + 1;
 
-    BitmapDecoder decoder(listener);
-    LoadBitmapResource(decoder, listener);
+    BitmapDecoder decoder(walk, listener);
+    LoadBitmapResource(walk, decoder, listener);
 
     EXPECT_THAT(listener.messages, ElementsAre("Error reading file."));
 }
@@ -76,7 +77,7 @@ TEST_F(ExtractBitmaps, ALastResourceOfNegativeSizeIsTold)
     PutU32(file, 78 + 6, 0x00FFFFFF);
     Keep(file);
 
-    vypx::ExtractBitmaps(listener);
+    vypx::ExtractBitmaps(walk, listener);
 
     EXPECT_THAT(listener.messages, ElementsAre("Error reading file."));
 }
@@ -92,25 +93,13 @@ TEST_F(ExtractBitmaps, OnPurposeTheHighestByteOfAnOffsetCountsAMebibyte)
 
 TEST_F(ExtractBitmaps, ProgressStopsAtWhatWasCounted)
 {
-    BitmapCount = 2;
-    ProgressCount = 0;
+    walk.BitmapCount = 2;
 
-    ProgBar(listener);
-    ProgBar(listener);
-    ProgBar(listener);
+    ProgBar(walk, listener);
+    ProgBar(walk, listener);
+    ProgBar(walk, listener);
 
     EXPECT_THAT(listener.steps, ElementsAre("progress:1", "progress:2"));
-}
-
-TEST_F(ExtractBitmaps, DuplicateResourceKeepsAllPicturesOut)
-{
-    Keep(Iconset{ .resources = { Icon(3500) } }.File());
-    DuplicateResource = true;
-
-    vypx::ExtractBitmaps(listener);
-
-    DuplicateResource = false;
-    EXPECT_THAT(listener.steps, IsEmpty());
 }
 
 } // namespace

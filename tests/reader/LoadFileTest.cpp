@@ -76,17 +76,22 @@ TEST_F(LoadFile, TakesPdbAndAnyCaseOfTheEnding)
     EXPECT_EQ(Open(file, "c.Pdb"), LoadResult::Opened);
 }
 
-TEST_F(LoadFile, AnotherEndingIsAnIncorrectFileTypeAndKeepsTheOldDocument)
+TEST_F(LoadFile, AnotherEndingIsAnIncorrectFileTypeAndLeavesTheOldDocumentWhole)
 {
     Open(Iconset{ .name = "Old", .resources = { Icon(3500) } }.File());
     IconsetChanged = true;
+    const std::vector<IconRow> rows = IconTable;
+    const std::vector<BitmapEntry> bitmaps = BitmapTable;
+    const Bytes picture = ReadBytes(WorkPath("tAIB3500.bmp"));
 
     EXPECT_EQ(Open(Iconset{ .name = "New" }.File(), "set.txt"), LoadResult::WrongFileType);
 
     EXPECT_THAT(listener.messages, ElementsAre("Incorrect file type."));
     EXPECT_EQ(FileName, folder.File("set.prc"));
     EXPECT_EQ(Tree.Root(), "Old");
-    EXPECT_EQ(IconTable.size(), 1u);
+    EXPECT_EQ(IconTable, rows);
+    EXPECT_EQ(BitmapTable, bitmaps);
+    EXPECT_EQ(ReadBytes(WorkPath("tAIB3500.bmp")), picture);
     EXPECT_TRUE(FileLoaded);
     EXPECT_TRUE(IconsetChanged);
 }
@@ -182,7 +187,7 @@ TEST_F(LoadFile, AMissingFileFailsSilentlyAndLeavesNoDocument)
     Open(Iconset{ .resources = { Icon(3500) } }.File());
     IconsetChanged = TemplateMode = true;
 
-    EXPECT_EQ(vypx::LoadFile(folder.File("gone.vpt"), listener), LoadResult::Failed);
+    EXPECT_EQ(Load(folder.File("gone.vpt")), LoadResult::Failed);
 
     EXPECT_THAT(listener.messages, IsEmpty());
     EXPECT_FALSE(FileLoaded);
@@ -194,9 +199,105 @@ TEST_F(LoadFile, AFolderWithTheRightEndingFailsSilently)
 {
     MakeFolder(folder.File("set.prc"));
 
-    EXPECT_EQ(vypx::LoadFile(folder.File("set.prc"), listener), LoadResult::Failed);
+    EXPECT_EQ(Load(folder.File("set.prc")), LoadResult::Failed);
 
     EXPECT_FALSE(FileLoaded);
+}
+
+TEST_F(LoadFile, OneThatFailsLeavesNothingOfAnyDocument)
+{
+    Resource endless = Icon(3500);
+    PutU16(endless.data, 2, 0xFFFF); // height
+    const Bytes broken = Iconset{ .name = "New", .resources = { endless, Icon(3501) } }.File();
+    for (const bool isMissing : { true, false }) {
+        Open(Iconset{ .name = "Old",
+            .resources = { Index({ IndexRecord("appl", "ALPH", 3500, 0) }), Icon(3500) } }
+                 .File());
+        ASSERT_TRUE(FileLoaded);
+        IconsetChanged = true;
+
+        EXPECT_EQ(isMissing ? Load(folder.File("gone.prc")) : Open(broken, "broken.prc"),
+            LoadResult::Failed);
+
+        EXPECT_FALSE(FileLoaded);
+        EXPECT_FALSE(IconsetChanged);
+        EXPECT_FALSE(Tree.HasRoot());
+        EXPECT_THAT(Tree.Nodes(), IsEmpty());
+        EXPECT_EQ(IconTable, std::vector<IconRow>(1));
+        EXPECT_EQ(BitmapTable, std::vector<BitmapEntry>(1));
+        EXPECT_EQ(BitmapRow, 0);
+        EXPECT_THAT(Itbl, IsEmpty());
+        EXPECT_THAT(FileCashe, IsEmpty());
+        EXPECT_EQ(FileName + Parent + DatabaseName, "");
+        EXPECT_EQ(StatTotal, 0);
+        EXPECT_EQ(listener.steps.back(), "stats");
+        EXPECT_EQ(NoteOf(report), "The file could not be read.");
+    }
+}
+
+TEST_F(LoadFile, WhatIsNoFaultOfTheFilePassesUpAndLeavesNoDocument)
+{
+    const Bytes file = Iconset{ .name = "tAIB3500 () ", .resources = { Icon(3500) } }.File();
+    // Before, within and behind the walk over the resources.
+    for (const std::string where : { "named", "message:", "progress", "opened" }) {
+        listener.during = [&](const std::string& step) {
+            if (step.starts_with(where))
+                throw std::out_of_range("a mistake of the program");
+        };
+        IconsetChanged = TemplateMode = true;
+
+        EXPECT_THROW(Open(file, "t.vpt"), std::out_of_range) << where;
+
+        EXPECT_FALSE(FileLoaded);
+        EXPECT_FALSE(IconsetChanged);
+        EXPECT_FALSE(TemplateMode);
+        EXPECT_FALSE(Tree.HasRoot());
+        EXPECT_EQ(IconTable, std::vector<IconRow>(1));
+        EXPECT_EQ(FileName, "");
+    }
+}
+
+TEST_F(LoadFile, NoMemoryPassesUpAsWell)
+{
+    listener.during = [](const std::string& step) {
+        if (step == "named")
+            throw std::bad_alloc();
+    };
+
+    EXPECT_THROW(Open(Iconset{}.File()), std::bad_alloc);
+
+    EXPECT_FALSE(FileLoaded);
+}
+
+TEST_F(LoadFile, PicturesThatCannotBeStoredAreCounted)
+{
+    Resource tooWide = Icon(3502);
+    PutU16(tooWide.data, 0, 100); // more pixels than a row has: no picture at all
+    const Bytes file = Iconset{ .resources = { Icon(3500), Icon(3501), tooWide } }.File();
+    std::filesystem::remove_all(WorkFolder());
+
+    EXPECT_EQ(Open(file), LoadResult::Opened);
+
+    EXPECT_EQ(report.picturesNotStored, 2);
+    EXPECT_EQ(NoteOf(report),
+        "2 pictures could not be stored and can't be shown: No such file or directory.");
+}
+
+TEST_F(LoadFile, OnePictureThatCannotBeStoredIsToldInTheSingular)
+{
+    MakeFolder(WorkPath("tAIB3501.bmp"));
+
+    EXPECT_EQ(Open(Iconset{ .resources = { Icon(3500), Icon(3501) } }.File()), LoadResult::Opened);
+
+    EXPECT_EQ(NoteOf(report), "1 picture could not be stored and can't be shown: Is a directory.");
+}
+
+TEST_F(LoadFile, OneThatStoresAllItsPicturesHasNoNote)
+{
+    Open(Iconset{ .resources = { Icon(3500), Icon(3501) } }.File());
+
+    EXPECT_EQ(report.picturesNotStored, 0);
+    EXPECT_EQ(NoteOf(report), "");
 }
 
 TEST_F(LoadFile, CountsOf32768AndMoreFailSilently)
@@ -259,15 +360,31 @@ TEST_F(LoadFile, RemembersTheFileFolderWithoutItsSeparator)
     EXPECT_EQ(LastDirIconsetLoad, folder.Path());
 }
 
-TEST_F(LoadFile, SkipOpenDialogPassesOverCleaningAndEnding)
+TEST_F(LoadFile, AFileThatWasChosenBeforeIsLookedAtWhateverItsEndingAndCleansNothing)
 {
     WriteText(WorkPath("kept.bmp"), "kept");
+    FileName = Written(Iconset{}.File(), "set.any");
     SkipOpenDialog = true;
 
-    EXPECT_EQ(Open(Iconset{}.File(), "set.any"), LoadResult::Opened);
+    EXPECT_EQ(Load("another"), LoadResult::Opened);
 
+    EXPECT_EQ(FileName, folder.File("set.any"));
     EXPECT_TRUE(FileExists(WorkPath("kept.bmp")));
     EXPECT_FALSE(SkipOpenDialog);
+}
+
+TEST_F(LoadFile, TheRequestAndNoFlagSaysWhatIsRead)
+{
+    const std::string path = Written(Iconset{ .resources = { Icon(3500) } }.File(), "t.vpt");
+
+    EXPECT_EQ(
+        vypx::LoadFile({ .path = path, .asTemplate = true }, listener).result, LoadResult::Opened);
+    EXPECT_EQ(IconTable.at(0).LowResFile, "NEW");
+
+    TemplateMode = SkipOpenDialog = DroppedFile = true;
+    EXPECT_EQ(vypx::LoadFile({ .path = path }, listener).result, LoadResult::WrongFileType);
+    EXPECT_TRUE(TemplateMode);
+    EXPECT_TRUE(SkipOpenDialog);
 }
 
 TEST_F(LoadFile, FileLoadedIsFalseFromTheClearedTreeToTheEnd)
@@ -297,15 +414,15 @@ TEST_F(LoadFile, NoSlotStaysEmptyOnceTheFileIsOpen)
 
 TEST_F(LoadFile, AnAbmpResourceHasARowButNoImages)
 {
-    Open(Iconset{ .resources = { Icon(3501, "abmp") } }.File());
+    Open(Iconset{ .resources = { Icon(3500), Icon(3501, "abmp") } }.File());
 
-    EXPECT_EQ(BmpTotalNum, 1);
-    ASSERT_EQ(IconTable.size(), 1u);
-    EXPECT_EQ(IconTable[0].ResourceKey, "abmp3501");
-    EXPECT_EQ(IconTable[0].LowResFile, "NEW");
-    EXPECT_EQ(IconTable[0].HighResFile, "NEW");
-    for (const std::string& step : listener.steps)
-        EXPECT_FALSE(step.starts_with("progress:")) << step;
+    ASSERT_EQ(IconTable.size(), 2u);
+    EXPECT_EQ(IconTable[1].ResourceKey, "abmp3501");
+    EXPECT_EQ(IconTable[1].LowResFile, "NEW");
+    EXPECT_EQ(IconTable[1].HighResFile, "NEW");
+    EXPECT_EQ(TimesOf(listener.steps, "maximum:2"), 2u) << "it counts";
+    EXPECT_EQ(TimesOf(listener.steps, "progress:1"), 1u);
+    EXPECT_EQ(TimesOf(listener.steps, "progress:2"), 0u) << "and is never done";
 }
 
 TEST_F(LoadFile, ARowWithoutImagesIsBlueInTheTree)

@@ -132,24 +132,84 @@ TEST_F(WalkResources, OneResourceCanBeLargeAndSmall)
             "Palm Clock (Large Icon)", "Palm Clock (Small Icon)"));
 }
 
-TEST_F(WalkResources, OnPurposeTheRowBeyondTwiceTheResourcesEndsTheWalkSilently)
+/// A file's own table of rows has twice its resources and one.
+TEST_F(WalkResources, EveryIconOfAPairOfPicturesThatManyApplicationsShareIsRead)
 {
-    AppTable = { {}, { "A", "appl", "AAAA", "" }, { "B", "appl", "BBBB", "" },
-        { "C", "appl", "CCCC", "" }, { "D", "appl", "DDDD", "" }, { "E", "appl", "EEEE", "" },
-        { "F", "appl", "FFFF", "" } };
+    AppTable.assign(1, {});
+    Bytes index;
+    std::vector<std::string> large, small;
+    for (const char letter : std::string("ABCDEFGHIJ")) {
+        const std::string creator = std::string("APP") + letter, name = std::string(1, letter);
+        AppTable.push_back({ name, "appl", creator, "" });
+        index = Join({ index, IndexRecord("appl", creator, 3500, 3501) });
+        large.push_back(name + " (Large Icon)");
+        small.push_back(name + " (Small Icon)");
+    }
 
-    EXPECT_EQ(Open(Iconset{ .resources = { Index({ IndexRecord("appl", "AAAA", 3500, 0),
-                                               IndexRecord("appl", "BBBB", 3500, 0),
-                                               IndexRecord("appl", "CCCC", 3500, 0),
-                                               IndexRecord("appl", "DDDD", 3500, 0),
-                                               IndexRecord("appl", "EEEE", 3500, 0),
-                                               IndexRecord("appl", "FFFF", 3500, 0) }),
-                                Icon(3500) } }
-                       .File()),
+    EXPECT_EQ(
+        Open(Iconset{ .resources = { { "iTbl", 1000, index }, Icon(3500), Icon(3501) } }.File()),
         LoadResult::Opened);
 
-    EXPECT_EQ(IconTable.size(), 5u);
-    EXPECT_THAT(listener.messages, IsEmpty());
+    std::vector<std::string> all = large;
+    all.insert(all.end(), small.begin(), small.end());
+    EXPECT_EQ(Labels(), all);
+    for (const IconRow& row : IconTable) {
+        EXPECT_EQ(row.IconState, 1);
+        EXPECT_EQ(row.LowResFile, row.ResourceKey + ".bmp");
+    }
+    EXPECT_GE(ShareNames.size(), IconTable.size());
+}
+
+TEST_F(WalkResources, ARowKeepsTheOwnerThatItsLabelTells)
+{
+    Open(Iconset{ .resources = { Index({ IndexRecord("appl", "ALPH", 3500, 0),
+                                     IndexRecord("appl", "CLCK", 0, 3501),
+                                     IndexRecord("appl", "FRST", 3502, 3502),
+                                     IndexRecord("panl", "LAST", 3502, 3600) }),
+                      Icon(3500), Icon(3501), Icon(3502), Icon(3503), Icon(2000) } }
+             .File());
+
+    std::vector<std::string> owners;
+    for (const IconRow& row : IconTable)
+        owners.push_back(row.IconLabel + "|" + row.owner.type + row.owner.creator);
+    EXPECT_THAT(owners,
+        ElementsAre("Alpha (Large Icon)|applALPH", "Palm Clock (Small Icon)|applCLCK",
+            "tAIB3502 (FRST - Small) |applFRST", "tAIB3503 (Orphan) |", "Launcher (Large Icon)|"));
+}
+
+TEST_F(WalkResources, TheLauncherMayHaveAnIconWithTheId0)
+{
+    VYTable = { {}, { "Nought", "0", "" } };
+
+    Open(Iconset{ .resources = { Icon(0) } }.File());
+
+    EXPECT_THAT(Labels(), ElementsAre("Nought"));
+}
+
+/// The size that is judged before the first picture is what the walk left.
+TEST_F(WalkResources, ALastResourceThatBeginsBehindTheFileKeepsAllPicturesOut)
+{
+    Bytes file = Iconset{ .resources = { Icon(3500), Icon(3501) } }.File();
+    PutU32(file, 78 + 10 + 6, static_cast<unsigned>(file.size()) + 100);
+
+    Open(file);
+
+    EXPECT_EQ(TimesOf(listener.messages, "Error Number 0. Problem reading file."), 1u);
+    EXPECT_FALSE(FileExists(WorkPath("tAIB3500.bmp")));
+}
+
+TEST_F(WalkResources, AWalkThatBreaksOffBehindAResourceOfNegativeSizeKeepsAllPicturesOut)
+{
+    constexpr std::size_t OffsetOfThird = 78 + 20 + 6;
+    Bytes file =
+        Iconset{ .resources = { { "iTbl", 1000, Bytes(17, 0) }, Icon(2000), Icon(3500) } }.File();
+    PutU32(file, OffsetOfThird, 80);
+
+    Open(file);
+
+    EXPECT_THAT(Labels(), ElementsAre("Launcher (Large Icon)"));
+    EXPECT_THAT(listener.messages,
+        ElementsAre("Error reading iTbl", "Error Number 0. Problem reading file."));
 }
 
 TEST_F(WalkResources, AnUnlistedOwnerIsUnknownWithCreatorAndSize)
@@ -223,7 +283,7 @@ TEST_F(WalkResources, AnIndexAtTheEndIsFoundBeforeAnyRowIsMade)
 
     EXPECT_THAT(Labels(), ElementsAre("Alpha (Large Icon)", "Alpha (Small Icon)"));
     EXPECT_THAT(NodeKeys(), ElementsAre("Alpha (Large Icon)", "Alpha (Small Icon)"));
-    EXPECT_EQ(BmpTotalNum, 2) << "the first pass counts nothing";
+    EXPECT_EQ(TimesOf(listener.steps, "maximum:2"), 2u) << "the first pass counts nothing";
 }
 
 TEST_F(WalkResources, ABrokenIndexAfterAFileWithoutOneEndsTheWalk)
@@ -252,8 +312,7 @@ TEST_F(WalkResources, TheSameResourceTwiceHasOneRowButItsBitmapsCountAgain)
     Open(Iconset{ .resources = { Icon(3500), Icon(3500) } }.File());
 
     EXPECT_THAT(Labels(), ElementsAre("tAIB3500 () "));
-    EXPECT_EQ(BmpTotalNum, 2);
-    EXPECT_EQ(TotalBmpResources, 1);
+    EXPECT_EQ(TimesOf(listener.steps, "maximum:2"), 2u);
     EXPECT_THAT(listener.messages, IsEmpty());
 }
 
@@ -297,11 +356,16 @@ TEST_F(WalkResources, AListThatEndsTooEarlyKeepsWhatWasFound)
     PutU32(file, ListStart + Entry + Offset, End);
     file.resize(End);
 
+    std::vector<std::string> found;
+    listener.during = [&](const std::string& step) {
+        if (step.starts_with("busy:"))
+            found = NodeKeys();
+    };
+
     EXPECT_EQ(Open(file), LoadResult::Failed) << "the pictures can't be read either";
 
     EXPECT_THAT(listener.messages, IsEmpty());
-    EXPECT_THAT(NodeKeys(), ElementsAre("tAIB3500 (Orphan) "));
-    EXPECT_FALSE(FileLoaded);
+    EXPECT_THAT(found, ElementsAre("tAIB3500 (Orphan) "));
 }
 
 TEST_F(WalkResources, TheNumberIsReadWithoutASign)

@@ -65,7 +65,7 @@ protected:
     static std::string WhyNot()
     {
         try {
-            CompileIconset();
+            CompileIconset(TargetFromFlags());
             return {};
         } catch (const SaveFailure& failure) {
             return failure.what();

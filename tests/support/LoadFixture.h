@@ -4,7 +4,6 @@
 #include "document/Document.h"
 #include "document/WorkingFolder.h"
 #include "reader/LoadFile.h"
-#include "reader/Progress.h"
 #include "settings/Settings.h"
 #include "support/Files.h"
 #include "support/Iconsets.h"
@@ -59,17 +58,26 @@ protected:
         SetDefaultSettings();
         ResetDocument();
         ResetCatalogs();
-        BitmapCount = ProgressCount = 0;
         AppFolder = folder.Path();
         SetTempSuffix(0);
         MakeFolder(WorkFolder());
     }
 
+    /// Path of the file, once it is written beside the working folder.
+    std::string Written(const Bytes& file, const std::string& name = "set.prc")
+    {
+        WriteBytes(folder.File(name), file);
+        return folder.File(name);
+    }
     /// Writes the file beside the working folder and opens it.
     LoadResult Open(const Bytes& file, const std::string& name = "set.prc")
     {
-        WriteBytes(folder.File(name), file);
-        return LoadFile(folder.File(name), listener);
+        return Load(Written(file, name));
+    }
+    LoadResult Load(const std::string& path)
+    {
+        report = LoadFile(RequestFromFlags(path), listener);
+        return report.result;
     }
 
     static std::vector<std::string> Labels()
@@ -92,6 +100,7 @@ protected:
     }
 
     TempFolder folder;
+    LoadReport report; ///< of the last load
     RecordingListener listener;
 };
 

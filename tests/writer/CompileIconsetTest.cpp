@@ -40,10 +40,10 @@ TEST_F(Compiling, UnknownRowsThatAreNotKeptAreGoneAtTheNextOpen)
     Add("tAIB3501 (UNKN - Large) ", 3501, true, true, "UNKNOWN");
     KeepUnknown = false;
 
-    CompileIconset();
+    CompileIconset(TargetFromFlags());
 
     EXPECT_EQ(IconTable.size(), 2u) << "the document keeps them";
-    EXPECT_EQ(LoadFile(FileName, listener), LoadResult::Opened);
+    EXPECT_EQ(Load(FileName), LoadResult::Opened);
     EXPECT_THAT(Labels(), ElementsAre("Alpha (Large Icon)"));
 }
 
@@ -51,7 +51,7 @@ TEST_F(Compiling, AnOrphanThatIsNotMarkedIsCarriedOverWithoutARecord)
 {
     Add("tAIB3500 (Orphan) ", 3500, true, false, "DELETE");
 
-    CompileIconset();
+    CompileIconset(TargetFromFlags());
 
     EXPECT_THAT(SavedKeys(), ElementsAre("tAIB3500", "tver1000"));
 }
@@ -62,7 +62,7 @@ TEST_F(Compiling, PicturesStandBeforeTheVersionAndTheIndex)
     Add("Alpha (Large Icon)", 3500, true, false);
     Add("Beta (Large Icon)", 3400, true, false);
 
-    CompileIconset();
+    CompileIconset(TargetFromFlags());
 
     EXPECT_THAT(SavedKeys(), ElementsAre("Tbmp7", "tAIB3500", "tAIB3400", "tver1000", "iTbl1000"));
 }
@@ -72,7 +72,7 @@ TEST_F(Compiling, AKeyThatIsMarkedAsADoubleKeepsItsNumber)
     Add("Alpha (Large Icon)", 3500, true, false);
     IconTable[0].ResourceKey = "tAIB3500(Dup)";
 
-    CompileIconset();
+    CompileIconset(TargetFromFlags());
 
     EXPECT_THAT(SavedKeys(), ElementsAre("tAIB3500", "tver1000", "iTbl1000"));
     EXPECT_EQ(Saved()[2].data, Hex("6170706C 414C5048 0DAC 0000 00000000"));
@@ -86,7 +86,7 @@ TEST_F(Compiling, TheOptionPacksEveryRecordAtEveryDepth)
             DefaultColorDepth = depth;
             UsePackbits = packs;
 
-            CompileIconset();
+            CompileIconset(TargetFromFlags());
 
             const Bytes family = Saved()[0].data;
             const std::size_t mark = ByteView(family).U16(10) * std::size_t{ 4 };
@@ -122,7 +122,7 @@ TEST_F(Compiling, OldScratchFilesDoNotGetIn)
     WriteBytes(WorkPath("iTbl1000.bin"), Bytes(16, 1));
     Add("Nobody (Large Icon)", 3500, true, false);
 
-    CompileIconset();
+    CompileIconset(TargetFromFlags());
 
     EXPECT_FALSE(FileExists(WorkPath("iTbl1000.bin")));
 }
@@ -131,9 +131,9 @@ TEST_F(Compiling, TbmpResourcesOnlyGiveNoIndex)
 {
     Add("Alpha (Large Icon)", 3500, true, false, "APP", 1, "Tbmp");
 
-    CompileIconset();
+    CompileIconset(TargetFromFlags());
 
-    EXPECT_EQ(LoadFile(FileName, listener), LoadResult::Opened);
+    EXPECT_EQ(Load(FileName), LoadResult::Opened);
     EXPECT_THAT(Labels(), ElementsAre("Tbmp3500 () "));
 }
 
@@ -145,7 +145,7 @@ TEST_F(Compiling, BacksUpTheOldFile)
     const auto mine = std::filesystem::perms::owner_read | std::filesystem::perms::owner_write;
     std::filesystem::permissions(FileName, mine);
 
-    CompileIconset();
+    CompileIconset(TargetFromFlags());
 
     EXPECT_EQ(ReadText(FileName + ".bak"), "old");
     EXPECT_EQ(std::filesystem::status(FileName + ".bak").permissions(), mine);
@@ -157,12 +157,27 @@ TEST_F(Compiling, MakesNoBackupUnderANewNameOrWithoutTheOption)
     WriteText(FileName, "old");
 
     SavingAs = true;
-    CompileIconset();
+    CompileIconset(TargetFromFlags());
     SavingAs = false;
     CreateBackup = false;
-    CompileIconset();
+    CompileIconset(TargetFromFlags());
 
     EXPECT_FALSE(FileExists(FileName + ".bak"));
+}
+
+TEST_F(Compiling, TheTargetAndNoFlagSaysWhereAndWhetherWithABackup)
+{
+    Add("Alpha (Large Icon)", 3500, true, false);
+    const std::string path = folder.File("target.prc");
+    WriteText(path, "old");
+    FileName.clear();
+    SavingAs = true;
+    CreateBackup = false;
+
+    CompileIconset({ .path = path, .backUp = true });
+
+    EXPECT_EQ(ReadText(path + ".bak"), "old");
+    EXPECT_GT(ReadBytes(path).size(), 78u);
 }
 
 TEST_F(Compiling, AMissingWorkingFileIsAFailureAndTheOldFileStands)
@@ -172,7 +187,7 @@ TEST_F(Compiling, AMissingWorkingFileIsAFailureAndTheOldFileStands)
     CreateBackup = false;
     WriteText(FileName, "old");
 
-    EXPECT_THROW(CompileIconset(), SaveFailure);
+    EXPECT_THROW(CompileIconset(TargetFromFlags()), SaveFailure);
 
     EXPECT_EQ(ReadText(FileName), "old");
 }
@@ -316,7 +331,7 @@ TEST_F(Compiling, ABlackAndWhiteIconKeepsItsMask)
     FileName = folder.File("out.prc");
     DefaultColorDepth = ColorDepth::Bits8;
 
-    CompileIconset();
+    CompileIconset(TargetFromFlags());
 
     const Bytes record = Saved()[0].data;
     EXPECT_EQ(record[8], 8);

@@ -141,6 +141,46 @@ TEST_F(IconIndexes, OnPurposeAnItemOfPalmOSWithoutACreatorHasFourBlanks)
     EXPECT_THAT(Index(), ElementsAre("appl      3500 0"));
 }
 
+TEST_F(IconIndexes, ARowThatTheCatalogFileNamesNoMoreKeepsItsOwner)
+{
+    Add("Gone (Large Icon)", 3500, true, false);
+    Add("Alpha (Large Icon)", 3501, true, false);
+    Add("Gone Too (Small Icon)", 3502, true, false, "PALM");
+    IconTable[0].owner = { "appl", "GONE" };
+    IconTable[1].owner = { "appl", "OLDA" };
+    IconTable[2].owner = { "panl", "TOO " };
+
+    EXPECT_THAT(Index(), ElementsAre("appl ALPH 3501 0", "appl GONE 3500 0", "panl TOO  0 3502"))
+        << "the file counts where it names the row";
+}
+
+TEST_F(IconIndexes, AnOrphanOrAnUnknownIconThatIsDroppedHasNoOwner)
+{
+    Add("Start (Large Icon)", 3500, true, false, "VY");
+    Add("tAIB3501 (QQQQ - Large) ", 3501, true, false, "UNKNOWN");
+    IconTable[1].owner = { "appl", "QQQQ" };
+    KeepUnknown = false;
+
+    EXPECT_THAT(Index(), IsEmpty());
+}
+
+/// Two resources of one application: the second one's label is taken, so it is unknown.
+TEST_F(IconIndexes, AnUnknownIconNeverTakesAKnownOnesPlaceWhateverTheirOrder)
+{
+    Itbl = { {}, { "appl", "ALPH", 3500, 3502 }, { "appl", "ALPH", 3501, 0 } };
+    for (const bool unknownFirst : { false, true }) {
+        IconTable.clear();
+        if (unknownFirst)
+            Add("tAIB3501 (ALPH - Large) ", 3501, true, false, "UNKNOWN");
+        Add("Alpha (Large Icon)", 3500, true, false);
+        if (!unknownFirst)
+            Add("tAIB3501 (ALPH - Large) ", 3501, true, false, "UNKNOWN");
+        Add("tAIB3502 (ALPH - Small) ", 3502, true, false, "UNKNOWN");
+
+        EXPECT_THAT(Index(), ElementsAre("appl ALPH 3500 3502")) << unknownFirst;
+    }
+}
+
 TEST_F(IconIndexes, StandsInTheOrderOfTheCreatorsCharacters)
 {
     const std::vector<std::string> ordered{ "    ", "A   ", "A...", "AAAY", "AAAZ", "AABA", "ABAA",

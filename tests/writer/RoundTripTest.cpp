@@ -95,8 +95,8 @@ RC_GTEST_FIXTURE_PROP(RoundTrip, ASavedDocumentOpensWithItsIconsPicturesAndColou
     }
     const std::vector<IconRow> before = IconTable;
 
-    CompileIconset();
-    RC_ASSERT(LoadFile(FileName, listener) == LoadResult::Opened);
+    CompileIconset(TargetFromFlags());
+    RC_ASSERT(Load(FileName) == LoadResult::Opened);
 
     RC_ASSERT(IconTable.size() == before.size());
     for (std::size_t i = 0; i < before.size(); ++i) {
@@ -126,7 +126,7 @@ RC_GTEST_FIXTURE_PROP(RoundTrip, ASavedDocumentOpensWithItsIconsPicturesAndColou
     // Saved once more it is the same file, apart from its dates.
     const Bytes first = ReadBytes(FileName);
     FileName = folder.File("second.prc");
-    CompileIconset();
+    CompileIconset(TargetFromFlags());
     Bytes second = ReadBytes(FileName);
     std::copy(first.begin() + 36, first.begin() + 44, second.begin() + 36);
     const bool isTheSame = second == first;
@@ -148,11 +148,11 @@ TEST_F(RoundTrip, TheIndexIsReadWholeWhateverTheFirstRecordHolds)
     WriteBytes(WorkPath("tAIB3500.bmp"), EncodeBmp24(vypx::Picture(16, 1)));
     VersionString.assign(0x80000 - 150, 'x'); // brings the index to 0x80000 - 6
 
-    CompileIconset();
+    CompileIconset(TargetFromFlags());
 
     ASSERT_LT(ByteView(ReadBytes(FileName)).U32(78 + 20 + 6), 0x80000u);
     ASSERT_GT(ReadBytes(FileName).size(), 0x80000u);
-    ASSERT_EQ(LoadFile(FileName, listener), LoadResult::Opened);
+    ASSERT_EQ(Load(FileName), LoadResult::Opened);
     EXPECT_EQ(listener.messages, std::vector<std::string>());
     EXPECT_EQ(IconTable.at(0).IconLabel, "Alpha (Large Icon)");
 }
@@ -189,7 +189,7 @@ TEST_F(RoundTrip, NetpbmReadsEveryRecord)
             AddPicture("tAIB3500.bmp", 31, 21);
             AddPicture("tAIB3500-d144.bmp", 63, 43);
 
-            CompileIconset();
+            CompileIconset(TargetFromFlags());
 
             const Bytes family = Saved()[0].data;
             const auto mark =
@@ -216,7 +216,7 @@ TEST_F(RoundTrip, PalmPdbReadsEveryResource)
         { "Other", "Tbmp7", "NEW", "Tbmp7-d144.bmp", 1, "VY" } };
     AddPicture("tAIB3500.bmp", 31, 21);
     AddPicture("Tbmp7-d144.bmp", 63, 43);
-    CompileIconset();
+    CompileIconset(TargetFromFlags());
 
     const Bytes output =
         OutputOf("perl -MPalm::PDB -MPalm::Raw -e '"

@@ -202,64 +202,20 @@ void Documents::LoadFile()
     for (ImagePanel* panel : m_view.panels)
         panel->ClearPicture();
     m_icons.DisableSlotCommands();
-    const std::optional<std::string> path = ChooseIconset();
-    if (!path) {
-        LeaveFailedLoad();
-        m_watcher.End();
-        m_view.status.ShowTitle();
-        GiveUp();
-        return;
-    }
-    m_busy.Run([&] {
-        const LoadResult result = Load(*path);
-        if (result == LoadResult::Failed)
-            NoDocumentAfter(*path);
-        if (result == LoadResult::Recovered) {
-            m_view.notes.DocumentEnded();
-            m_view.commands.Enable({ Command::AddIcon, Command::ClearDeleted }, false);
-            m_icons.OfferNothing();
+    LoadRequest request = RequestFromFlags();
+    if (request.MustBeChosen()) {
+        request.path = ChooseIconset().toStdString();
+        if (request.path.empty()) {
+            LeaveCancelledLoad();
+            return;
         }
-        if (result != LoadResult::WrongFileType)
-            m_icons.ShowTree();
-        if (result != LoadResult::Opened)
-            GiveUp();
-        m_watcher.End();
-        const QString more = m_watcher.WhatWasNotShown();
-        if (!more.isEmpty())
-            m_view.notes.Tell(Notes::Kind::Load, more);
-        m_icons.ShowCount();
-        m_view.tree.setFocus(); // which passed to another control while the tree was hidden
-    });
-}
-
-/// What goes wrong beyond what a bad file can do ends the load as well.
-LoadResult Documents::Load(const std::string& path)
-{
-    m_watcher.Begin();
-    try {
-        return vypx::LoadFile(path, m_watcher);
-    } catch (const std::exception&) {
-        FileLoaded = false;
-        LeaveFailedLoad();
-        return LoadResult::Failed;
     }
+    m_busy.Run([&] { EndLoad(request, Load(request)); });
 }
 
-/// A load failed without words.
-void Documents::NoDocumentAfter(const std::string& path)
+/// Empty when the dialog was cancelled.
+QString Documents::ChooseIconset()
 {
-    EndDocument();
-    m_view.status.Clear();
-    m_view.notes.Tell(
-        Notes::Kind::Load, tr("%1 could not be read.").arg(PathText(LastComponent(path))));
-}
-
-std::optional<std::string> Documents::ChooseIconset()
-{
-    if (SkipOpenDialog)
-        return FileName;
-    if (DroppedFile)
-        return DroppedFileName;
     OpenQuestion question{
         .title = TemplateMode ? tr("Load Template") : tr("Open Iconset"),
         .folder = {},
@@ -267,10 +223,55 @@ std::optional<std::string> Documents::ChooseIconset()
     };
     if (UseLastDirs && DirExists(LastDirIconsetLoad))
         question.folder = PathText(LastDirIconsetLoad);
-    const QString chosen = m_ask.OpenFile(&m_view.form, question);
-    if (chosen.isEmpty())
-        return std::nullopt;
-    return chosen.toStdString();
+    return m_ask.OpenFile(&m_view.form, question);
+}
+
+void Documents::LeaveCancelledLoad()
+{
+    LeaveFailedLoad();
+    m_watcher.End();
+    m_view.status.ShowTitle();
+    GiveUp();
+}
+
+/// What goes wrong beyond what a bad file can do ends the load as well.
+LoadReport Documents::Load(const LoadRequest& request)
+{
+    m_watcher.Begin();
+    try {
+        return vypx::LoadFile(request, m_watcher);
+    } catch (const std::exception&) {
+        LeaveFailedLoad();
+        return { .result = LoadResult::Failed };
+    }
+}
+
+void Documents::EndLoad(const LoadRequest& request, const LoadReport& report)
+{
+    QStringList notes;
+    if (report.result == LoadResult::Failed) { // without words
+        EndDocument();
+        m_view.status.Clear();
+        notes << tr("%1 could not be read.").arg(PathText(LastComponent(request.path)));
+    } else {
+        notes << QString::fromStdString(NoteOf(report));
+    }
+    if (report.result == LoadResult::Recovered) {
+        m_view.notes.DocumentEnded();
+        m_view.commands.Enable({ Command::AddIcon, Command::ClearDeleted }, false);
+        m_icons.OfferNothing();
+    }
+    if (report.result != LoadResult::WrongFileType)
+        m_icons.ShowTree();
+    if (report.result != LoadResult::Opened)
+        GiveUp();
+    m_watcher.End();
+    notes << m_watcher.WhatWasNotShown();
+    notes.removeAll(QString());
+    if (!notes.isEmpty())
+        m_view.notes.Tell(Notes::Kind::Load, notes.join('\n'));
+    m_icons.ShowCount();
+    m_view.tree.setFocus(); // which passed to another control while the tree was hidden
 }
 
 /// One was opened or made: with the depth that was chosen last, wherever.

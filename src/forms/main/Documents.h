@@ -9,8 +9,6 @@
 
 #include <QObject>
 #include <QPointer>
-#include <optional>
-#include <string>
 
 namespace vypx {
 
@@ -51,10 +49,11 @@ private:
     void MakeNewIconset(const QString& name);
     void GiveUp();
 
-    std::optional<std::string> ChooseIconset();
-    LoadResult Load(const std::string& path);
+    QString ChooseIconset();
+    void LeaveCancelledLoad();
+    LoadReport Load(const LoadRequest& request);
+    void EndLoad(const LoadRequest& request, const LoadReport& report);
     void EndDocument();
-    void NoDocumentAfter(const std::string& path);
     void DocumentBegan();
     void DocumentOpened();
     void EmptyTables();

@@ -5,7 +5,6 @@
 #include "forms/common/Text.h"
 #include "settings/Settings.h"
 #include "writer/CompileIconset.h"
-#include "writer/ReadBack.h"
 #include "writer/SaveChecks.h"
 
 namespace vypx {
@@ -140,13 +139,13 @@ void Saving::TakeTargetFolder()
 }
 
 /// Writes the iconset. A failure shows no box but a note that stays until a save succeeds; the old
-/// file stands.
+/// file stands. The note about what the next load will show otherwise goes with the document.
 bool Saving::Compile()
 {
     try {
-        CompileIconset();
+        const std::string note = NoteOf(CompileIconset(TargetFromFlags()));
         m_view.notes.SaveSucceeded();
-        m_view.notes.Tell(Notes::Kind::Save, FromLatin1(IconsWithoutRoom()));
+        m_view.notes.Tell(Notes::Kind::Save, FromLatin1(note));
         return true;
     } catch (const std::exception& failure) {
         m_view.notes.SaveFailed(QString::fromStdString(failure.what()));

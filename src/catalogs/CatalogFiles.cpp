@@ -3,9 +3,9 @@
 #include "document/Catalogs.h"
 #include "document/WorkingFolder.h"
 #include "platform/Platform.h"
-#include "settings/LetterCase.h"
 #include "settings/IniStore.h"
 #include "settings/Inifile.h"
+#include "settings/LetterCase.h"
 
 #include <array>
 #include <stdexcept>

@@ -3,6 +3,7 @@
 #include "companion/IconRow.h"
 #include "document/Catalogs.h"
 #include "document/Document.h"
+#include "document/Labels.h"
 
 namespace vypx {
 
@@ -45,14 +46,15 @@ std::vector<IconMatcher::Match> IconMatcher::Applications(int id) const
         const TableRows& index;
         const std::vector<CatalogRow>& catalog;
         const RowsByOwner& byOwner;
-        std::string_view kind, size;
+        std::string_view kind;
+        SizeClass size;
     };
     const TableRows &large = m_index.Large(id), &small = m_index.Small(id);
     const Search searches[] = {
-        { large, AppTable, m_applications, KindApp, " (Large Icon)" },
-        { small, AppTable, m_applications, KindApp, " (Small Icon)" },
-        { large, PalmTable, m_palm, KindPalm, " (Large Icon)" },
-        { small, PalmTable, m_palm, KindPalm, " (Small Icon)" },
+        { large, AppTable, m_applications, KindApp, SizeClass::Large },
+        { small, AppTable, m_applications, KindApp, SizeClass::Small },
+        { large, PalmTable, m_palm, KindPalm, SizeClass::Large },
+        { small, PalmTable, m_palm, KindPalm, SizeClass::Small },
     };
 
     std::vector<Match> matches;
@@ -63,7 +65,7 @@ std::vector<IconMatcher::Match> IconMatcher::Applications(int id) const
             if (named == search.byOwner.end())
                 continue;
             for (const std::size_t entry : named->second)
-                matches.push_back({ .label = search.catalog[entry].name + std::string(search.size),
+                matches.push_back({ .label = LabelOf(search.catalog[entry].name, search.size),
                     .kind = search.kind,
                     .owner = owner });
         }
@@ -72,15 +74,15 @@ std::vector<IconMatcher::Match> IconMatcher::Applications(int id) const
 
 IconMatcher::Note IconMatcher::NoteOf(int id) const
 {
-    const auto noteOf = [](const TableRows& rows, const char* size) {
+    const auto noteOf = [](const TableRows& rows, SizeClass size) {
         const ItblRow& row = Itbl[rows.back()];
-        return Note{ row.creator + size, { row.type, row.creator } };
+        return Note{ OwnerNote(row.creator, size), { row.type, row.creator } };
     };
     if (const TableRows& small = m_index.Small(id); !small.empty())
-        return noteOf(small, " - Small");
+        return noteOf(small, SizeClass::Small);
     if (const TableRows& large = m_index.Large(id); !large.empty())
-        return noteOf(large, " - Large");
-    return { "Orphan", {} };
+        return noteOf(large, SizeClass::Large);
+    return { std::string(OrphanNote), {} };
 }
 
 } // namespace vypx

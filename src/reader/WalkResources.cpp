@@ -4,6 +4,7 @@
 #include "companion/Lookups.h"
 #include "document/Catalogs.h"
 #include "document/Document.h"
+#include "document/Labels.h"
 #include "reader/BitmapChain.h"
 #include "reader/IconTableResource.h"
 #include "reader/ResourceList.h"
@@ -75,7 +76,7 @@ bool Walk::Pass()
         ++m_state.Rcntr;
     }
     for (IconRow& row : IconTable)
-        if (LabelHolds(row.IconLabel, "Orphan"))
+        if (IsOrphanLabel(row.IconLabel))
             row.IconState = 0;
     return true;
 }
@@ -137,12 +138,12 @@ bool Walk::AddMatches(const std::vector<IconMatcher::Match>& matches)
 
 void Walk::AddUnmatched(const IconMatcher::Note& note)
 {
-    const auto label = [&] { return m_state.ResourceName + " (" + note.text + ") "; };
+    const auto label = [&] { return UnmatchedLabel(m_state.ResourceName, note.text); };
     while (!Tree.Add({ .key = label(), .image = ImageUnknown })) {
         m_listener.Message(DuplicateMessage);
         m_state.ResourceName += "(Dup)";
     }
-    const bool orphan = LabelHolds(label(), "Orphan");
+    const bool orphan = IsOrphanLabel(label());
     if (orphan) {
         IconNode& node = *Tree.Find(label());
         node.image = ImageDelete;

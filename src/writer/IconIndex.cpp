@@ -3,6 +3,7 @@
 #include "catalogs/OwnerRules.h"
 #include "companion/Numbers.h"
 #include "document/Document.h"
+#include "document/Labels.h"
 #include "document/WorkingFolder.h"
 #include "platform/Platform.h"
 #include "settings/Inifile.h"
@@ -32,12 +33,6 @@ bool TakesPart(const IconRow& row)
         && row.ResourceKey.starts_with(IconType) && id >= LowestId && id <= HighestId;
 }
 
-bool IsLarge(const IconRow& row)
-{
-    return LabelHolds(row.IconLabel, "(Large Icon)")
-        || (KeepUnknown && LabelHolds(row.IconLabel, "Large)"));
-}
-
 /// The entry of a catalog file by its section's name; characters 2 to 5 of a Creator are the ID.
 Owner LookUp(std::string_view file, const std::string& name)
 {
@@ -54,9 +49,7 @@ Owner LookUp(std::string_view file, const std::string& name)
 
 Owner OwnerByCatalog(const IconRow& row)
 {
-    constexpr std::size_t SizeWords = 13; // " (Large Icon)"
-    const std::size_t length = row.IconLabel.size();
-    const std::string name = row.IconLabel.substr(0, length < SizeWords ? 0 : length - SizeWords);
+    const std::string name(NameInLabel(row.IconLabel));
     Owner owner = LookUp("AppList.dat", name);
     if (owner.IsKnown())
         return owner;
@@ -108,10 +101,11 @@ double CreatorKey(std::uint32_t creator)
 /// The index in the making, one record for each owner.
 class IndexMaker {
 public:
-    void Add(const RowOwner& from, bool large, int id)
+    void Add(const RowOwner& from, SizeClass size, int id)
     {
         const std::size_t record = RecordOf(from.owner);
         m_index.ownersFromRows[record] += from.fromRow;
+        const bool large = size == SizeClass::Large;
         bool& isKnown = large ? m_known[record].large : m_known[record].small;
         if (from.isUnknown && isKnown)
             return;
@@ -164,7 +158,7 @@ IconIndex CollectIconIndex()
             continue;
         const RowOwner from = OwnerOf(row, itbl);
         if (from.owner.IsKnown())
-            maker.Add(from, IsLarge(row), ResourceId(row.ResourceKey));
+            maker.Add(from, SizeInIndex(row.IconLabel, KeepUnknown), ResourceId(row.ResourceKey));
     }
     return maker.Taken();
 }

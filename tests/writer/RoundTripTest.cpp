@@ -203,7 +203,8 @@ TEST_F(RoundTrip, NetpbmReadsEveryRecord)
                 high = WithPlainPixels(high, 24, 4);
             }
             EXPECT_EQ(read(low), Reduced(pictures["tAIB3500.bmp"])) << BitsOf(depth) << packed;
-            EXPECT_EQ(read(high), Reduced(pictures["tAIB3500-d144.bmp"])) << BitsOf(depth) << packed;
+            EXPECT_EQ(read(high), Reduced(pictures["tAIB3500-d144.bmp"]))
+                << BitsOf(depth) << packed;
         }
 }
 

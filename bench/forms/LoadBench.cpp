@@ -90,7 +90,7 @@ void LoadByTheToolAndFillTheTree(benchmark::State& state)
     IconTreeView tree;
     Silent listener;
     for (auto _ : state) {
-        if (LoadFile(program.Path(), listener) != LoadResult::Opened)
+        if (LoadFile({ .path = program.Path() }, listener).result != LoadResult::Opened)
             std::abort();
         tree.Fill(Tree);
     }

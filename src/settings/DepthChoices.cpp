@@ -27,15 +27,15 @@ void DepthChoices::Keep()
     ForgetResolution();
 }
 
-bool DepthChoices::TakeBack()
+DepthChoices::TakenBack DepthChoices::TakeBack()
 {
-    const bool changes = m_depthBefore || m_resolutionBefore;
+    const TakenBack taken{ m_depthBefore.has_value(), m_resolutionBefore.has_value() };
     if (m_depthBefore)
         DefaultColorDepth = *m_depthBefore;
     if (m_resolutionBefore)
         std::tie(HighResOnly, LowResOnly) = *m_resolutionBefore;
     Keep();
-    return changes;
+    return taken;
 }
 
 } // namespace vypx

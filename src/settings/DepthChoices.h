@@ -24,8 +24,10 @@ public:
     /// A document began with them.
     void Keep();
     /// No document came of them: the variables are as they were before the first choice.
-    /// Whether that changed any.
-    bool TakeBack();
+    struct TakenBack {
+        bool depth = false, resolution = false;
+    };
+    TakenBack TakeBack();
 
 private:
     std::optional<ColorDepth> m_depthBefore;

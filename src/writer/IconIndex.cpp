@@ -182,7 +182,7 @@ IconIndex BuildIconTableResource()
         return kept;
     const std::string path = WorkPath("iTbl1000.bin");
     if (const std::error_code error = WriteItbl(kept.values, kept.keys, path))
-        throw SaveFailure(path, error.message());
+        throw SaveFailure(path, error);
     return kept;
 }
 

@@ -37,21 +37,27 @@ bool IsUserInput(QEvent::Type type)
 
 } // namespace
 
-BusyGuard::BusyGuard() { qApp->installEventFilter(this); }
-
 void BusyGuard::Run(const std::function<void()>& work)
 {
-    ++m_depth;
+    if (m_depth++ == 0)
+        qApp->installEventFilter(this); // the last one is asked before all others
     try {
         work();
     } catch (...) {
-        --m_depth;
+        End();
         throw;
     }
-    if (--m_depth > 0)
+    End();
+    if (IsBusy())
         return;
     if (const auto act = std::exchange(m_whenIdle, {}))
         act();
+}
+
+void BusyGuard::End()
+{
+    if (--m_depth == 0)
+        qApp->removeEventFilter(this);
 }
 
 void BusyGuard::WhenIdle(std::function<void()> act)

@@ -9,8 +9,6 @@ namespace vypx {
 /// and drops go nowhere, but to a box that the work itself shows. Boxes take no drops.
 class BusyGuard : public QObject {
 public:
-    BusyGuard();
-
     bool IsBusy() const { return m_depth > 0; }
 
     /// Runs `work` with the guard up. What was put off meanwhile runs when it has ended, however.
@@ -20,6 +18,7 @@ public:
     void WhenIdle(std::function<void()> act);
 
 private:
+    void End();
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     int m_depth = 0;

@@ -46,8 +46,7 @@ void Session::StartUp(const QString& programFolder, const QString& userFolder)
     m_view.commands.Enable(When::Document, false);
     IconTable.assign(1, {});
     BitmapTable.assign(1, {});
-    ReadCatalogs(
-        [this](std::string_view text) { m_ask.Show(&m_view.form, { .text = FromLatin1(text) }); });
+    ReadCatalogFiles();
     ShowInFrame();
     m_view.views.ShowByOption();
     m_view.commands.Enable({ Command::MenuPasteLG, Command::MenuPasteSM }, false);
@@ -61,6 +60,17 @@ void Session::TakeWorkingFolder()
     if (!isCounted)
         m_settings.TellNotRead();
     MakeFolder(WorkFolder());
+}
+
+void Session::ReadCatalogFiles()
+{
+    QStringList notes;
+    const auto show = [this](std::string_view text) {
+        m_ask.Show(&m_view.form, { .text = FromLatin1(text) });
+    };
+    for (const CutCatalog& cut : ReadCatalogs(show))
+        notes << QString::fromStdString(NoteOf(cut));
+    m_view.notes.Tell(Notes::Kind::Catalog, notes.join('\n'));
 }
 
 void Session::ChooseColours()

@@ -43,6 +43,7 @@ public:
 
 private:
     void TakeWorkingFolder();
+    void ReadCatalogFiles();
     void ChooseColours();
     void PaintColours();
     void ShowInFrame();

@@ -72,13 +72,9 @@ bool SettingsWindows::AsksForDepth() const { return m_depthWindow && m_depthWind
 
 void SettingsWindows::TakeBackChoices()
 {
-    if (m_choices.TakeBack())
-        ShowChoices();
-}
-
-void SettingsWindows::ShowChoices()
-{
-    m_views.ShowByOption();
+    const DepthChoices::TakenBack taken = m_choices.TakeBack();
+    if (taken.resolution) // else what is in sight stays, which the View menu chooses too
+        m_views.ShowByOption();
     ShowDepth();
     if (m_options)
         m_options->ShowChoices();

@@ -44,8 +44,6 @@ signals:
     void OptionsDone();
 
 private:
-    void ShowChoices();
-
     QWidget& m_form;
     ViewEntries& m_views;
     QLabel& m_depthLabel;

@@ -17,10 +17,12 @@ frmNewIconset::frmNewIconset(QWidget* parent)
     setAttribute(Qt::WA_DeleteOnClose);
     PaintChrome(*this);
     move(DialogPlace());
+    m_ui->lblDropped->setVisible(false);
     auto* const validator = new NameValidator(m_ui->txtNewIconsetDBName);
     m_ui->txtNewIconsetDBName->setValidator(validator);
     connect(validator, &NameValidator::Dropped, this, [this](const QString& characters) {
         m_ui->lblDropped->setText(DroppedCharactersText(characters));
+        m_ui->lblDropped->setVisible(true);
     });
     m_ui->txtNewIconsetDBName->installEventFilter(this);
     connect(m_ui->cmdDoneName, &QPushButton::clicked, this, &frmNewIconset::cmdDoneName_Click);

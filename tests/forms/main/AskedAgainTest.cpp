@@ -15,7 +15,11 @@ class AskedAgain : public Documents {
 protected:
     AskedAgain()
     {
-        OpenAlpha();
+        AppTable = { {}, { "Alpha", "appl", "ALPH", "" } };
+        Open(Written(Iconset{ .name = "Set",
+            .resources = { { "iTbl", 1000, IndexRecord("appl", "ALPH", 3500, 3501) }, Picture(3500),
+                Picture(3501) } }
+                         .File()));
         PromptColorDepth = true;
     }
 
@@ -24,7 +28,7 @@ protected:
         SelectAlpha();
         QTest::keyClick(&Nodes(), Qt::Key_R);
     }
-    bool AlphaIsOpen() { return NodeTexts() == QStringList("Alpha (Large Icon)"); }
+    bool AlphaIsOpen() { return NodeTexts().value(0) == "Alpha (Large Icon)"; }
     void TypeName(const QString& name) { Find<QLineEdit>("txtNewIconsetDBName").setText(name); }
     QString Another()
     {

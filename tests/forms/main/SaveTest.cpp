@@ -27,21 +27,6 @@ protected:
                 Picture(3501) } }
                          .File()));
     }
-    /// The first icon's picture is that of ten more applications as well.
-    void ShareAmongTenMore()
-    {
-        std::string catalog = "[Alpha]\nType=appl\nCreator={ALPH}\n";
-        const IconRow shared = IconTable[0];
-        for (const char letter : std::string("ABCDEFGHIJ")) {
-            const std::string name = std::string("App ") + letter,
-                              creator = std::string("APP") + letter;
-            catalog += "[" + name + "]\nType=appl\nCreator={" + creator + "}\n";
-            AppTable.push_back({ name, "appl", creator, "" });
-            IconTable.push_back(shared);
-            IconTable.back().IconLabel = name + " (Large Icon)";
-        }
-        WriteText(program.File("AppList.dat"), catalog);
-    }
     std::string File(const std::string& name) { return program.File(name); }
     QString Path(const std::string& name) { return QString::fromStdString(program.File(name)); }
     QLabel& Note() { return Find<QLabel>("lblNotSaved"); }
@@ -60,30 +45,20 @@ TEST_F(Saving, SaveOverwritesTheFileAndKeepsABackup)
     EXPECT_FALSE(Note().isVisible());
 }
 
-TEST_F(Saving, IconsThatTheSavedFileHasNoRoomForAreToldUntilAnotherDocumentBegins)
+TEST_F(Saving, IconsThatWillBeOrphansAreToldUntilTheirDocumentEnds)
 {
-    ShareAmongTenMore();
-
-    Entry("mnuSave").trigger();
-
-    EXPECT_FALSE(IconsetChanged);
-    EXPECT_TRUE(Note().isVisible());
-    EXPECT_EQ(Note().text(),
-        "The iconset was saved. Only 9 of its 12 icons will be shown when it is opened again: too "
-        "many of them share a picture.");
-
-    Open(Path("set.prc"));
-    EXPECT_EQ(IconTable.size(), 9u);
-    EXPECT_FALSE(Note().isVisible());
-}
-
-TEST_F(Saving, TheNoteAboutIconsWithoutRoomGoesWhereNoDocumentIsLeft)
-{
+    auto& told = Find<QLabel>("lblNote");
     for (const bool closes : { true, false }) {
         OpenSet();
-        ShareAmongTenMore();
+        IconTable.push_back({ "Beta (Large Icon)", "Tbmp3600", "tAIB3500.bmp", "NEW", 1, "APP" });
+
         Entry("mnuSave").trigger();
-        ASSERT_TRUE(Note().isVisible());
+
+        EXPECT_FALSE(IconsetChanged);
+        EXPECT_FALSE(Note().isVisible()) << "the line of failed saves";
+        EXPECT_TRUE(told.isVisible());
+        EXPECT_TRUE(told.text().startsWith("1 icon ")) << told.text().toStdString();
+        EXPECT_TRUE(told.text().contains("orphan"));
 
         if (closes)
             Entry("mnuCloseIconset").trigger();
@@ -91,9 +66,22 @@ TEST_F(Saving, TheNoteAboutIconsWithoutRoomGoesWhereNoDocumentIsLeft)
             ask.Answer(QMessageBox::Ok);
             Open(Written(Bytes(20, 1), "short.prc"));
         }
-
-        EXPECT_FALSE(Note().isVisible());
+        EXPECT_FALSE(told.isVisible());
     }
+}
+
+TEST_F(Saving, AFailedSaveIsToldBesideOtherNotes)
+{
+    DatabaseName.clear();
+    Entry("mnuSave").trigger();
+    const QString told = Find<QLabel>("lblNote").text();
+    EXPECT_TRUE(told.contains("name")) << told.toStdString();
+
+    ask.SaveTo(Path("no/such/folder.prc"));
+    Entry("mnuSaveAs").trigger();
+
+    EXPECT_TRUE(Note().isVisible());
+    EXPECT_TRUE(Find<QLabel>("lblNote").isVisible());
 }
 
 TEST_F(Saving, SaveAsksBeforeItOverwrites)
@@ -261,12 +249,15 @@ TEST_F(Saving, TheDialogStartsInTheLastFolderAndOnPurposeHasTheTemplatesEnding)
         Entry("mnuSaveAs").trigger();
         return ask.saved.back().folder;
     };
+    const QString ofTheOpenFile = QString::fromStdString(program.Path());
     UseLastDirs = false;
-    EXPECT_EQ(nextFolder(), "");
+    EXPECT_EQ(nextFolder(), ofTheOpenFile);
     UseLastDirs = true;
     LastDirIconsetSave = File("gone");
-    EXPECT_EQ(nextFolder(), "");
+    EXPECT_EQ(nextFolder(), ofTheOpenFile);
     LastDirIconsetSave.clear();
+    EXPECT_EQ(nextFolder(), ofTheOpenFile);
+    FileName = File("gone/too.prc");
     EXPECT_EQ(nextFolder(), "");
 }
 

@@ -1,6 +1,6 @@
 #include "WindowFixture.h"
-#include "document/RunningCopies.h"
 #include "document/RunCount.h"
+#include "document/RunningCopies.h"
 #include "support/CommonUser.h"
 
 #include <QMdiSubWindow>

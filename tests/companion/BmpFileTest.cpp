@@ -60,6 +60,23 @@ TEST(BmpFile, NoNumberOfColoursMeansAWholeTable)
     EXPECT_EQ(picture->At(1, 0), (Rgb{ 9, 9, 9 }));
 }
 
+TEST(BmpFile, NoNumberOfColoursMeans256At8Bits)
+{
+    BmpBytes bmp(1, 1, 8, Palette8);
+    bmp.Row(0)[0] = 5;
+    Bytes file = bmp.File();
+    file[47] = 0; // 256 is 0x100
+
+    const auto picture = DecodeBmp(file);
+
+    ASSERT_TRUE(picture);
+    EXPECT_EQ(picture->At(0, 0), (Rgb{ 255, 0, 255 }));
+    bmp.Row(0)[0] = 200;
+    file = bmp.File();
+    file[47] = 0;
+    EXPECT_EQ(DecodeBmp(file)->At(0, 0), Palette8[200]);
+}
+
 TEST(BmpFile, RefusesEachFieldThatItDoesNotWrite)
 {
     ASSERT_TRUE(DecodeBmp(FourBits()));

@@ -67,26 +67,24 @@ TEST(IniText, AValueMayHoldEqualsSigns)
 
 TEST(IniText, OnePairOfQuotesAroundAValueDoesNotCount)
 {
-    const IniText text("[A]\na=\"x\"\nb='x'\nc=\"\"\nd=''\ne=\"\"x\"\"\nf= \" x \" \n");
-
-    EXPECT_EQ(text.Value("A", "a"), "x");
-    EXPECT_EQ(text.Value("A", "b"), "x");
-    EXPECT_EQ(text.Value("A", "c"), "") << "quotes around nothing";
-    EXPECT_EQ(text.Value("A", "d"), "");
-    EXPECT_EQ(text.Value("A", "e"), "\"x\"");
-    EXPECT_EQ(text.Value("A", "f"), " x ");
-}
-
-TEST(IniText, QuotesThatAreNoPairStay)
-{
-    const IniText text("[A]\na=\"\nb='\nc=\"x'\nd='x\"\ne=\"x\nf=xyx\n");
-
-    EXPECT_EQ(text.Value("A", "a"), "\"");
-    EXPECT_EQ(text.Value("A", "b"), "'");
-    EXPECT_EQ(text.Value("A", "c"), "\"x'");
-    EXPECT_EQ(text.Value("A", "d"), "'x\"");
-    EXPECT_EQ(text.Value("A", "e"), "\"x");
-    EXPECT_EQ(text.Value("A", "f"), "xyx");
+    const std::pair<const char*, const char*> values[] = {
+        { "\"x\"", "x" },
+        { "'x'", "x" },
+        { "\"\"", "" }, // quotes around nothing
+        { "''", "" },
+        { "\"\"x\"\"", "\"x\"" },
+        { " \" x \" ", " x " },
+        // no pair
+        { "\"", "\"" },
+        { "'", "'" },
+        { "\"x'", "\"x'" },
+        { "'x\"", "'x\"" },
+        { "\"x", "\"x" },
+        { "xyx", "xyx" },
+    };
+    for (const auto& [written, read] : values)
+        EXPECT_EQ(IniText("[A]\nx=" + std::string(written) + "\n").Value("A", "x"), read)
+            << written;
 }
 
 TEST(IniText, NamesMatchInAnyCaseFromAToZAndInNoOtherLetter)

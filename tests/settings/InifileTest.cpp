@@ -385,6 +385,16 @@ TEST_F(Inifile, AListCutBetweenTwoNamesEndsWithTheLastWholeOne)
 
     EXPECT_EQ(names.size(), 1024u);
     EXPECT_EQ(names.back(), "lasts");
+
+    text = "[A]\n";
+    for (int i = 0; i < 1023; ++i)
+        text += "key0" + std::to_string(100 + i % 900) + "=\n";
+    WriteText(file, text + "lasts=\nmore=\n");
+
+    const std::vector<std::string> keys = Keys("A");
+
+    EXPECT_EQ(keys.size(), 1024u) << "and no empty one behind it";
+    EXPECT_EQ(keys.back(), "lasts");
 }
 
 TEST_F(Inifile, WithoutAPathThereIsNothing)
@@ -429,159 +439,6 @@ TEST_F(Inifile, NumbersFromText)
     EXPECT_EQ(cInifile::CLngDefault("-2.5", 7), -2);
     for (const char* text : { "", " ", "12x", "1 2", "inf", "nan", "+-1", "--1", "0x10" })
         EXPECT_EQ(cInifile::CLngDefault(text, 7), 7) << text;
-}
-
-Placement OnAScreen()
-{
-    return { .left = 1000,
-        .top = 2000,
-        .width = 3000,
-        .height = 4000,
-        .screenWidth = 15000,
-        .screenHeight = 12000 };
-}
-
-TEST_F(Inifile, KeepsAWindowsPlace)
-{
-    ini.Section("Form");
-    ini.key("mine");
-    const Placement kept = OnAScreen();
-
-    ini.SaveFormPosition(kept);
-
-    EXPECT_EQ(ini.key(), "mine");
-    EXPECT_THAT(Keys("Form"), ElementsAre("Maximised", "Left", "Top", "Width", "Height"));
-    Placement other = OnAScreen();
-    other.left = other.top = 60;
-    other.width = other.height = 900;
-    ini.LoadFormPosition(other, 100, 100);
-    EXPECT_EQ(other, kept);
-}
-
-TEST_F(Inifile, AMaximisedWindowKeepsThatOnlyAndAMinimisedOneNothing)
-{
-    ini.Section("Form");
-    Placement window = OnAScreen();
-    window.state = WindowState::Minimised;
-    ini.SaveFormPosition(window);
-    EXPECT_FALSE(std::filesystem::exists(file));
-
-    window.state = WindowState::Maximised;
-    ini.SaveFormPosition(window);
-    EXPECT_THAT(Keys("Form"), ElementsAre("Maximised"));
-
-    Placement other = OnAScreen();
-    ini.LoadFormPosition(other, 100, 100);
-    EXPECT_EQ(other.state, WindowState::Maximised);
-    EXPECT_EQ(other.left, 1000);
-}
-
-TEST_F(Inifile, AWindowIsBroughtOntoItsScreen)
-{
-    WriteText(file, "[Form]\nLeft=-500\nTop=11000\nWidth=200\nHeight=4000\n");
-    ini.Section("Form");
-    ini.key("k");
-    ini.Default("d");
-    Placement window = OnAScreen();
-
-    ini.LoadFormPosition(window, 900, 100);
-
-    EXPECT_EQ(window.left, 60) << "4 pixels of 15 twips";
-    EXPECT_EQ(window.width, 900);
-    EXPECT_EQ(window.top, 12000 - 60 - 4000);
-    EXPECT_EQ(window.height, 4000);
-    EXPECT_EQ(ini.key() + ini.Default(), "kd");
-}
-
-TEST_F(Inifile, AWindowWiderThanItsScreenIsCut)
-{
-    WriteText(file, "[Form]\nLeft=100\nTop=100\nWidth=90000\nHeight=500\n");
-    ini.Section("Form");
-    Placement window = OnAScreen();
-
-    ini.LoadFormPosition(window, 100, 100);
-
-    EXPECT_EQ(window.left, 60);
-    EXPECT_EQ(window.width, 15000 - 60 - 60);
-}
-
-TEST_F(Inifile, AScreenBelowTheLeastSizeLeavesTheWindowWhereItIs)
-{
-    WriteText(file, "[Form]\nLeft=100\nTop=100\nWidth=90000\nHeight=500\n");
-    ini.Section("Form");
-    Placement window = OnAScreen();
-
-    ini.LoadFormPosition(window, 20000, 100);
-
-    EXPECT_EQ(window, OnAScreen());
-}
-
-TEST_F(Inifile, AMaximisedFormOfASizeThatIsNoNumberIsReadByTheFallbacks)
-{
-    WriteText(file, "[Form]\nLeft=x\nTop=\nWidth=1e99\nHeight=FAIL\nMaximised=1\n");
-    ini.Section("Form");
-    ini.key("k");
-    ini.Default("d");
-    Placement window = OnAScreen();
-    const Placement before = window;
-
-    ini.LoadFormPosition(window, 100, 100);
-
-    EXPECT_EQ(window.width, before.width);
-    EXPECT_EQ(window.height, before.height);
-    EXPECT_EQ(window.state, WindowState::Maximised);
-    EXPECT_EQ(ini.key() + ini.Default(), "kd");
-}
-
-TEST_F(Inifile, AWindowThatIsHighEnoughButTooNarrowStaysToo)
-{
-    WriteText(file, "[Form]\nLeft=100\nTop=100\nWidth=500\nHeight=90000\n");
-    ini.Section("Form");
-    Placement window = OnAScreen();
-
-    ini.LoadFormPosition(window, 100, 20000);
-
-    EXPECT_EQ(window.left, OnAScreen().left);
-    EXPECT_EQ(window.height, OnAScreen().height);
-}
-
-TEST_F(Inifile, APlaceThatNoNumberTellsIsAFailure)
-{
-    WriteText(file, "[Form]\nLeft=100\nMaximised=1\n");
-    Write("Form", "Top", "100");
-    ASSERT_TRUE(ini.Success());
-    ini.key("k");
-    ini.Default("d");
-    // The margin of four pixels is beyond 32 bits in one of the directions.
-    for (std::int32_t Placement::*pixel :
-        { &Placement::twipsPerPixelX, &Placement::twipsPerPixelY }) {
-        Placement window = OnAScreen();
-        window.*pixel = 1'000'000'000;
-        const Placement before = window;
-
-        ini.LoadFormPosition(window, 100, 100);
-
-        EXPECT_EQ(window.left, before.left);
-        EXPECT_EQ(window.top, before.top);
-        EXPECT_EQ(window.width, before.width);
-        EXPECT_EQ(window.state, WindowState::Normal);
-        EXPECT_EQ(ini.LastReturnCode(), 0);
-        EXPECT_EQ(ini.key() + ini.Default(), "kd");
-    }
-}
-
-TEST_F(Inifile, AWindowThatTouchesTheMarginsIsNotMoved)
-{
-    WriteText(file, "[Form]\nLeft=60\nTop=60\nWidth=14880\nHeight=11880\n");
-    ini.Section("Form");
-    Placement window = OnAScreen();
-
-    ini.LoadFormPosition(window, 14880, 11880);
-
-    EXPECT_EQ(window.left, 60);
-    EXPECT_EQ(window.width, 15000 - 120);
-    EXPECT_EQ(window.top, 60);
-    EXPECT_EQ(window.height, 12000 - 120);
 }
 
 /// Names and values that can stand in a file as they are.

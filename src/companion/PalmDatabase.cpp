@@ -103,7 +103,7 @@ private:
     {
         std::optional<Bytes> bytes = platform::ReadWholeFile(m_workFolder + name);
         if (!bytes)
-            throw Failure(name, "this working file is missing or can't be read");
+            throw Failure(name, "it is missing or can't be read");
         return *std::move(bytes);
     }
 
@@ -111,7 +111,7 @@ private:
     {
         std::optional<Picture> picture = DecodeBmp(ReadFile(name));
         if (!picture)
-            throw Failure(name, "this working file is no picture");
+            throw Failure(name, "it can't be read as a picture");
         return *std::move(picture);
     }
 

@@ -35,7 +35,7 @@ bool Qualifies(const IconRow& row)
 void DeleteScratchFiles()
 {
     if (!DeleteWorkingFiles({ ".bin" }))
-        throw SaveFailure(WorkPath("*.bin"), "an old scratch file can't be deleted");
+        throw SaveFailure(WorkPath("*.bin"), "what an earlier save left there can't be deleted");
 }
 
 void BackUp(const std::string& path)
@@ -50,22 +50,6 @@ void BackUp(const std::string& path)
 }
 
 } // namespace
-
-SaveFailure::SaveFailure(const std::string& file, const std::string& reason)
-    : std::runtime_error(file.empty() ? reason : file + ": " + reason)
-{
-}
-
-SaveFailure::SaveFailure(const std::string& file, std::error_code error)
-    : SaveFailure(
-        platform::ExplainRefusal(file, error).path, platform::ExplainRefusal(file, error).reason)
-{
-}
-
-SaveFailure::SaveFailure(const CompileFailure& failure)
-    : SaveFailure(failure.file, failure.reason)
-{
-}
 
 void WriteVersionResource()
 {

@@ -220,7 +220,7 @@ TEST_F(Database, AMissingPictureIsAFailureAndNoFileAppears)
     const auto failure = Compile({ { "gone.bmp", "", "tAIB3500" } });
 
     ASSERT_TRUE(failure);
-    EXPECT_EQ(failure->reason, "this working file is missing or can't be read");
+    EXPECT_EQ(failure->reason, "it is missing or can't be read");
     EXPECT_EQ(failure->file, folder.File("gone.bmp"));
     EXPECT_FALSE(std::filesystem::exists(out));
 }

@@ -217,19 +217,25 @@ TEST_F(Compiling, FailuresSayWhichFileAndWhy)
     const std::string low = WorkPath("tAIB3500.bmp"), high = WorkPath("tAIB3500-d144.bmp");
 
     WriteText(high, "BM");
-    EXPECT_EQ(WhyNot(), high + ": this working file is no picture");
+    EXPECT_EQ(
+        WhyNot(), "The high-res picture of Alpha (Large Icon): it can't be read as a picture");
 
     std::filesystem::remove(low);
-    EXPECT_EQ(WhyNot(), low + ": this working file is missing or can't be read");
+    EXPECT_EQ(
+        WhyNot(), "The low-res picture of Alpha (Large Icon): it is missing or can't be read");
 }
 
 TEST_F(Compiling, AScratchFileThatCannotBeWrittenIsAFailure)
 {
     Add("Alpha (Large Icon)", 3500, true, false);
-    for (const char* name : { "tver1000.bin", "iTbl1000.bin" }) {
+    const std::pair<const char*, const char*> files[] = {
+        { "tver1000.bin", "The version text: " },
+        { "iTbl1000.bin", "The index of icons: " },
+    };
+    for (const auto& [name, words] : files) {
         MakeFolder(WorkPath(name));
 
-        EXPECT_THAT(WhyNot(), StartsWith(WorkPath(name) + ": "));
+        EXPECT_THAT(WhyNot(), StartsWith(words));
 
         std::filesystem::remove(WorkPath(name));
     }
@@ -251,7 +257,7 @@ TEST_F(Compiling, AnOldScratchFileThatCannotBeDeletedIsAFailure)
     {
         const CommonUser common;
 
-        EXPECT_EQ(WhyNot(), WorkPath("*.bin") + ": an old scratch file can't be deleted");
+        EXPECT_EQ(WhyNot(), "The working folder: what an earlier save left there can't be deleted");
     }
     fs::permissions(WorkFolder(), fs::perms::all);
     EXPECT_FALSE(FileExists(FileName));
@@ -288,7 +294,8 @@ TEST_F(Compiling, APictureTooLargeForItsRecordIsAFailureAndTheOldFileStands)
     CreateBackup = UsePackbits = false;
 
     EXPECT_EQ(WhyNot(),
-        WorkPath("tAIB3500.bmp") + ": this picture is too large for a Palm bitmap of this depth");
+        "The low-res picture of Alpha (Large Icon): this picture is too large for a Palm bitmap of "
+        "this depth");
 
     EXPECT_EQ(ReadText(FileName), "old");
     DefaultColorDepth = ColorDepth::Bits8;

@@ -290,7 +290,7 @@ TEST_F(Saving, AFailedSaveShowsNoBoxButANoteThatStays)
     EXPECT_TRUE(ask.shown.empty());
     EXPECT_TRUE(Note().isVisible());
     EXPECT_TRUE(Note().text().startsWith("The iconset was not saved."));
-    EXPECT_TRUE(Note().text().contains("tAIB3501.bmp"));
+    EXPECT_TRUE(Note().text().contains("The low-res picture of Alpha (Small Icon)"));
 
     WriteBytes(WorkPath("tAIB3501.bmp"), ReadBytes(WorkPath("tAIB3500.bmp")));
     Entry("mnuSave").trigger();

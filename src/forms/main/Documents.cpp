@@ -44,8 +44,10 @@ bool Documents::MayLeave(Leaving command)
                 .buttons = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel });
     if (opens && answer == QMessageBox::Yes)
         m_ask.Show(&m_view.form, { .text = "Not in this version :-( " });
+    if (answer != QMessageBox::No)
+        return false;
     m_changesWhenAsked = IconsetChanged.Times();
-    return answer == QMessageBox::No;
+    return true;
 }
 
 bool Documents::ChangedSinceAsked() const { return IconsetChanged.Times() != m_changesWhenAsked; }

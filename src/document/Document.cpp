@@ -39,7 +39,8 @@ void ResetDocument()
     ShareNames.clear();
     for (std::string* text : { &DroppedFileName, &SelectedNode, &LastClickedText })
         text->clear();
-    IconsetChanged = TemplateMode = SkipOpenDialog = DroppedFile = false;
+    IconsetChanged = ChangeMark();
+    TemplateMode = SkipOpenDialog = DroppedFile = false;
     LGhasTransparent = SMhasTransparent = false;
     MaskR_LG = MaskG_LG = MaskB_LG = MaskR_SM = MaskG_SM = MaskB_SM = 0;
     TransparentUse = true;

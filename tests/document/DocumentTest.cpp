@@ -41,8 +41,10 @@ TEST_F(Document, ResettingPutsEverythingBack)
 
     ResetDocument();
 
-    for (const bool flag : { FileLoaded, IconsetChanged, TemplateMode, SkipOpenDialog, DroppedFile,
-             LGloaded, SMloaded, LGhasTransparent, SMhasTransparent, StatDeletable, SettingsSaved })
+    EXPECT_EQ(IconsetChanged.Times(), 0u);
+    EXPECT_FALSE(IconsetChanged);
+    for (const bool flag : { FileLoaded, TemplateMode, SkipOpenDialog, DroppedFile, LGloaded,
+             SMloaded, LGhasTransparent, SMhasTransparent, StatDeletable, SettingsSaved })
         EXPECT_FALSE(flag);
     EXPECT_TRUE(TransparentUse);
     EXPECT_EQ(FileName + DatabaseName + Parent + DroppedFileName + SelectedNode + LastClickedText

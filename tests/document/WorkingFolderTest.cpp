@@ -95,10 +95,5 @@ TEST_F(WorkingFolder, AWildcardMayStandForNothingAndTryAgain)
     EXPECT_FALSE(FileExists(folder.File("gone/*.bmp")));
 }
 
-TEST_F(WorkingFolder, OnlyAToZHaveALowerCase)
-{
-    EXPECT_EQ(LowerCase("AZ@[az`{09\xC4"), "az@[az`{09\xC4");
-}
-
 } // namespace
 } // namespace vypx::test

@@ -35,7 +35,7 @@ TEST_F(SaveEdges, AShortTypeOrCreatorIsFilledWithBlanks)
     WriteText(folder.File("AppList.dat"), "[Alpha]\nType=appl\nCreator={A}\n");
     Add("Alpha (Large Icon)", 3500, true, false);
 
-    CompileIconset();
+    CompileIconset(TargetFromFlags());
 
     // characters 2 to 5 of "{A}" are "A}"
     EXPECT_EQ(SavedIndex(), std::string("applA}  \x0D\xAC\0\0\0\0\0\0", 16));
@@ -46,7 +46,7 @@ TEST_F(SaveEdges, IdsOfTheIndexAreThoseFrom3500To9999)
     for (const int id : { 3499, 3500, 9999, 10000 }) {
         IconTable.clear();
         Add("Alpha (Large Icon)", id, true, false);
-        CompileIconset();
+        CompileIconset(TargetFromFlags());
         EXPECT_EQ(SavedIndex().empty(), id < 3500 || id > 9999) << id;
     }
 }
@@ -56,7 +56,7 @@ TEST_F(SaveEdges, TheVersionsBlanksGoAtItsEndOnly)
     Add("Alpha (Large Icon)", 3500, true, false);
     const auto saved = [&](const std::string& version) {
         VersionString = version;
-        CompileIconset();
+        CompileIconset(TargetFromFlags());
         // The index follows at an even offset.
         const Bytes data = Saved().at(1).data;
         return std::string(data.begin(), data.end());

@@ -6,6 +6,7 @@
 #include "support/Files.h"
 #include "support/TempFolder.h"
 
+#include <QCoreApplication>
 #include <QDropEvent>
 #include <QLabel>
 #include <QMimeData>

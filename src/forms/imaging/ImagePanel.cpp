@@ -51,13 +51,14 @@ void ImagePanel::NameBySlot()
     const auto named = [&](const QString& text) {
         return QString(text).replace("%1", words).replace("%2", adjective);
     };
-    // The two panels stand level, though one has a row of commands more.
-    const int lastRow =
-        m_ui->cmdCreateLowRes->sizeHint().height() + m_ui->commandsXXLayout->verticalSpacing();
-    m_ui->commandsXXLayout->setRowMinimumHeight(3, lastRow);
     const auto& commands = m_slot.ofPicture;
-    if (std::find(commands.begin(), commands.end(), Command::CreateLowRes) == commands.end())
+    if (std::find(commands.begin(), commands.end(), Command::CreateLowRes) == commands.end()) {
+        // The two panels stand level, though one has a row of commands more.
+        QGridLayout& grid = *m_ui->commandsXXLayout;
+        grid.setRowMinimumHeight(
+            3, m_ui->cmdCreateLowRes->sizeHint().height() + grid.verticalSpacing());
         delete m_ui->cmdCreateLowRes;
+    }
     setObjectName("frame" + letters);
     setTitle(words);
     for (QWidget* control : findChildren<QWidget*>()) {

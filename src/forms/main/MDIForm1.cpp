@@ -51,7 +51,7 @@ void MDIForm1::FitForm()
 {
     const QSize least = m_child->minimumSizeHint().expandedTo(m_child->minimumSize());
     const int below = m_ui->mdiArea->viewport()->height() - m_child->y();
-    const int width = std::max(m_child->width(), m_child->sizeHint().width());
+    const int width = std::max(m_child->width(), least.width());
     const QSize size(width, std::max(least.height(), below));
     if (m_child->size() != size)
         m_child->resize(size);

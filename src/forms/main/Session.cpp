@@ -93,7 +93,9 @@ void Session::ShowInFrame()
     m_view.frame.resize(std::max(PixelsFromTwips(MainWinWidth), LeastSide),
         std::max(PixelsFromTwips(MainWinHeight), LeastSide));
     m_view.frame.show();
-    m_view.form.parentWidget()->show();
+    QWidget& child = *m_view.form.parentWidget();
+    child.resize(child.sizeHint().width(), child.height()); // the frame sees to the height
+    child.show();
 }
 
 void Session::Exit()

@@ -11,6 +11,7 @@ namespace vypx {
 namespace {
 
 constexpr int WidestHint = 330, NarrowestHint = 160; // pixels
+constexpr int Endless = 10000; // no caption is wider
 constexpr int Margin = 2;
 constexpr int Flags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap | Qt::TextShowMnemonic;
 
@@ -53,7 +54,7 @@ int Wrapping<Button>::TextLeft() const
 template <typename Button>
 QSize Wrapping<Button>::TextSize(int width) const
 {
-    const QRect room(0, 0, std::max(width, 1), QWIDGETSIZE_MAX);
+    const QRect room(0, 0, std::max(width, 1), Endless);
     return this->fontMetrics().boundingRect(room, Flags, this->text()).size();
 }
 
@@ -67,7 +68,7 @@ int Wrapping<Button>::heightForWidth(int width) const
 template <typename Button>
 QSize Wrapping<Button>::sizeHint() const
 {
-    const int whole = TextLeft() + TextSize(QWIDGETSIZE_MAX).width() + 2 * Margin;
+    const int whole = TextLeft() + TextSize(Endless).width() + 2 * Margin;
     const int width = std::min(whole, WidestHint);
     return { width, heightForWidth(width) };
 }

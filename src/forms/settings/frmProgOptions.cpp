@@ -23,6 +23,8 @@ constexpr int OpenAt = 300; // twips from the left and the top
 QSize SizeOnScreen(const QDialog& window, const QWidget& options, const QScrollArea& area)
 {
     constexpr int FrameOfWindow = 40; // pixels, with its title
+    for (QLayout* layout : window.findChildren<QLayout*>())
+        layout->invalidate(); // captions and look have changed since they were measured
     const int bar = area.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     const QSize chrome = window.sizeHint() - area.sizeHint();
     const QSize free = window.screen()->availableGeometry().size();

@@ -138,6 +138,8 @@ TEST_F(Panel, FilesDroppedOnAnyPartOfItAreHandedOn)
 
     for (QWidget* target : { static_cast<QWidget*>(&panel), &In<QWidget>(panel, "frameTC_SM"),
              &In<QWidget>(panel, "picSMfrm"), &In<QWidget>(panel, "picSM") }) {
+        QDragEnterEvent enter({ 1, 1 }, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(target, &enter);
         QDropEvent drop({ 1, 1 }, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
         drop.ignore();
         QCoreApplication::sendEvent(target, &drop);

@@ -6,7 +6,27 @@
 #include "writer/CompileIconset.h"
 #include "writer/SaveChecks.h"
 
+#include <algorithm>
+
 namespace vypx {
+
+namespace {
+
+/// The name is written as it was given; what a reader will not show of it is told.
+std::string NameToWrite(const std::string& utf8)
+{
+    const std::string name = Latin1FromUtf8(utf8);
+    const auto isKept = [](char letter) {
+        return CanStandInName(static_cast<unsigned char>(letter));
+    };
+    if (!std::all_of(name.begin(), name.end(), isKept))
+        Tell("--name: readers end the name before the first character outside of 32 to 126");
+    if (name.size() > LongestName)
+        Tell("--name: only the first 31 characters are written");
+    return name;
+}
+
+} // namespace
 
 int Convert(const ConvertOptions& options)
 {
@@ -24,7 +44,7 @@ int Convert(const ConvertOptions& options)
     if (options.versionString)
         VersionString = Latin1FromUtf8(*options.versionString);
     if (options.databaseName)
-        DatabaseName = Latin1FromUtf8(*options.databaseName);
+        DatabaseName = NameToWrite(*options.databaseName);
     try {
         Tell(NoteOf(CompileIconset({ .path = options.out }))); // OUT is complete all the same
     } catch (const SaveFailure& failure) {

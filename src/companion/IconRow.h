@@ -20,6 +20,10 @@ struct Owner {
     friend bool operator==(const Owner&, const Owner&) = default;
 };
 
+/// What stands behind a resource's key in the name of the working file of its high-res image; of
+/// its low-res one nothing does. ".bmp" follows.
+inline constexpr std::string_view HighResSuffix = "-d144";
+
 /// One row of `IconTable`: one icon of one application, or of the launcher, in one size class.
 /// Texts are single bytes (Latin-1).
 struct IconRow {

@@ -136,7 +136,7 @@ private:
 
 Bytes Header(const std::string& databaseName, std::size_t count)
 {
-    constexpr std::size_t NameSize = 32, LongestName = 31;
+    constexpr std::size_t NameSize = 32;
     constexpr unsigned ResourceDatabase = 0x0001;
     Bytes bytes;
     AppendText(bytes, std::string_view(databaseName).substr(0, LongestName), NameSize);

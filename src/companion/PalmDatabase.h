@@ -11,6 +11,10 @@
 /// The database half of the module: plain operations without state. Paths are UTF-8.
 namespace vypx {
 
+/// Whether a database name can hold the character: a reader ends the name at any other.
+constexpr bool CanStandInName(char32_t character) { return character >= 32 && character <= 126; }
+inline constexpr std::size_t LongestName = 31; ///< characters
+
 /// One application's record of the icon index, as the compile collects it. IDs are 0 to 65535; 0:
 /// there is no such icon.
 struct ItblValue {

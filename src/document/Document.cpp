@@ -40,7 +40,7 @@ void ResetDocument()
     for (std::string* text : { &DroppedFileName, &SelectedNode, &LastClickedText })
         text->clear();
     IconsetChanged = ChangeMark();
-    TemplateMode = SkipOpenDialog = DroppedFile = false;
+    TemplateMode = SkipOpenDialog = DroppedFile = DuplicateResource = false;
     LGhasTransparent = SMhasTransparent = false;
     MaskR_LG = MaskG_LG = MaskB_LG = MaskR_SM = MaskG_SM = MaskB_SM = 0;
     TransparentUse = true;

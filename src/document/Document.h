@@ -74,9 +74,10 @@ inline std::string DatabaseName; ///< database name of the document, 31 characte
 inline std::string FileName;     ///< path of the open iconset; empty for a new one not yet saved
 inline bool FileLoaded = false;
 inline ChangeMark IconsetChanged;
-inline bool TemplateMode = false;   ///< the next load reads a template
-inline bool SkipOpenDialog = false; ///< FileName is set already; lives for one load
-inline bool DroppedFile = false;    ///< DroppedFileName replaces the file dialog
+inline bool TemplateMode = false;      ///< the next load reads a template
+inline bool SkipOpenDialog = false;    ///< FileName is set already; lives for one load
+inline bool DuplicateResource = false; ///< the next load reads no pictures; nothing sets it
+inline bool DroppedFile = false;       ///< DroppedFileName replaces the file dialog
 inline std::string DroppedFileName;
 
 /// What the main form shows and remembers of the selected icon.

@@ -67,7 +67,9 @@ std::error_code TakeRights(int file, const struct stat& model)
         || ::fchown(file, model.st_uid, model.st_gid) == 0;
     if (!isKept && own.st_gid != model.st_gid
         && ::fchown(file, static_cast<uid_t>(-1), model.st_gid) != 0)
-        mode &= ~static_cast<mode_t>(S_IRWXG) | (mode & S_IRWXO) << 3;
+        // Whoever was in the old group is one of all others now, and gets no more than before.
+        mode &= (~static_cast<mode_t>(S_IRWXG) | (mode & S_IRWXO) << 3)
+            & (~static_cast<mode_t>(S_IRWXO) | (mode & S_IRWXG) >> 3);
     return ::fchmod(file, mode) == 0 ? std::error_code() : LastError();
 }
 

@@ -55,7 +55,15 @@ std::error_code Rename(const std::filesystem::path& passing, const std::filesyst
     const bool done = replaces
         ? ::ReplaceFileW(target.c_str(), passing.c_str(), nullptr, 0, nullptr, nullptr) != 0
         : ::MoveFileExW(passing.c_str(), target.c_str(), MOVEFILE_WRITE_THROUGH) != 0;
-    return done ? std::error_code() : LastError();
+    if (done)
+        return {};
+    const std::error_code error = LastError();
+    // It may fail with the old file taken away already; the new one then takes its place.
+    const bool isGone = ::GetFileAttributesW(target.c_str()) == INVALID_FILE_ATTRIBUTES;
+    if (replaces && isGone
+        && ::MoveFileExW(passing.c_str(), target.c_str(), MOVEFILE_WRITE_THROUGH) != 0)
+        return {};
+    return error;
 }
 
 /// Whether another writer of the same file may have come between: it had the target open, made or

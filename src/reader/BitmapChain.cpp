@@ -1,6 +1,7 @@
 #include "reader/BitmapChain.h"
 
 #include "companion/DensityMark.h"
+#include "companion/IconRow.h"
 #include "reader/ResourceList.h"
 
 namespace vypx {
@@ -48,7 +49,8 @@ void WalkMembers(WalkState& walk)
             walk.PFcnt += static_cast<std::int32_t>(DensityMarkSize);
         }
         advance = AdvanceToNext(walk, highDensity);
-        walk.BitmapStem = highDensity ? walk.ResourceName + "-d144" : walk.ResourceName;
+        walk.BitmapStem =
+            highDensity ? walk.ResourceName + std::string(HighResSuffix) : walk.ResourceName;
         NoteMember(walk, { .depth = PixelSizeHere(walk), .density = highDensity ? 2 : 1 });
     } while (advance != 0);
 }

@@ -119,7 +119,8 @@ void BitmapDecoder::DecodeHighDensity(std::size_t position)
 
 void BitmapDecoder::Pick(std::size_t position, std::size_t size, bool highDensity)
 {
-    const std::string file = m_load.ResourceName + (highDensity ? "-d144.bmp" : ".bmp");
+    const std::string file =
+        m_load.ResourceName + std::string(highDensity ? HighResSuffix : "") + ".bmp";
     if (const auto rows = m_rowsByKey.find(m_load.ResourceName); rows != m_rowsByKey.end())
         for (const std::size_t row : rows->second)
             (highDensity ? IconTable[row].HighResFile : IconTable[row].LowResFile) = file;

@@ -16,6 +16,8 @@ bool SizeIsSound(const WalkState& walk)
 
 void ExtractBitmaps(WalkState& walk, LoadListener& listener)
 {
+    if (walk.withoutPictures)
+        return;
     listener.ProgressShown();
     BitmapDecoder decoder(walk, listener);
     const int count = ReadResourceCount();

@@ -211,7 +211,7 @@ LoadReport LoadFile(const LoadRequest& request, LoadListener& listener)
         }
         DeleteWorkingFiles({ ".bmp" }); // the open document's pictures, so not a moment before
     }
-    WalkState walk{ .asTemplate = request.asTemplate };
+    WalkState walk{ .asTemplate = request.asTemplate, .withoutPictures = request.withoutPictures };
     LoadReport report{ .result = ReplaceDocument(request, walk, listener) };
     report.picturesNotStored = walk.picturesNotStored;
     report.whyNotStored = walk.whyNotStored;

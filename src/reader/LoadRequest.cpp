@@ -17,6 +17,7 @@ LoadRequest RequestFromFlags(const std::string& chosen)
         .asTemplate = TemplateMode,
         .chosenBefore = chosenBefore,
         .dropped = dropped,
+        .withoutPictures = DuplicateResource,
     };
 }
 

@@ -5,14 +5,15 @@
 namespace vypx {
 
 /// What a load is to do. The command that begins it fills this in; nothing below reads the flags
-/// TemplateMode, SkipOpenDialog and DroppedFile.
+/// TemplateMode, SkipOpenDialog, DroppedFile and DuplicateResource.
 struct LoadRequest {
     std::string path;        ///< of the file (UTF-8)
     bool asTemplate = false; ///< it is a template
     /// The caller knew the path already: the working folder is not cleaned and the ending of the
     /// name not looked at.
     bool chosenBefore = false;
-    bool dropped = false; ///< it came by drag and drop
+    bool dropped = false;         ///< it came by drag and drop
+    bool withoutPictures = false; ///< none are read
 
     /// Whether the user has to be asked for the file.
     bool MustBeChosen() const { return !chosenBefore && !dropped; }

@@ -1,5 +1,6 @@
 #include "reader/ResourceList.h"
 
+#include "companion/PalmDatabase.h"
 #include "document/Document.h"
 
 namespace vypx {
@@ -13,7 +14,7 @@ std::string ReadDatabaseName()
     const ByteView field = FileByIndex().Part(DatabaseNameOffset + 1, DatabaseNameSize);
     std::string name;
     for (const std::uint8_t byte : field.Span()) {
-        if (byte < 32 || byte > 126)
+        if (!CanStandInName(byte))
             break;
         name += static_cast<char>(byte);
     }

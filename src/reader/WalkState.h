@@ -19,7 +19,8 @@ inline constexpr std::size_t MaxFamilyMembers = 11;
 /// Where the walks over one file stand. LoadFile makes it and hands it along; it goes with the
 /// load.
 struct WalkState {
-    bool asTemplate = false; ///< the file is read as a template
+    bool asTemplate = false;      ///< the file is read as a template
+    bool withoutPictures = false; ///< none are read
 
     std::int32_t FCin = 0; ///< index into FileCashe of the current list entry
     int Rcntr = 0;         ///< number of the current resource, from 1

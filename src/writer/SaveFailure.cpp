@@ -24,7 +24,7 @@ std::string SubjectOf(const std::string& file)
     if (FolderOf(file) != WorkFolder())
         return file;
     const std::string name = LastComponent(file);
-    constexpr std::string_view High = "-d144.bmp", Low = ".bmp";
+    const std::string High = std::string(HighResSuffix) + ".bmp", Low = ".bmp";
     if (name.ends_with(High))
         return "The high-res picture of " + OwnerOf(name, &IconRow::HighResFile, High);
     if (name.ends_with(Low))

@@ -10,6 +10,8 @@ namespace vypx::test {
 
 namespace {
 
+using ::testing::HasSubstr;
+
 using nlohmann::json;
 
 class Convert : public ::testing::Test {
@@ -191,6 +193,18 @@ TEST_F(Convert, OptionsChangeWhatIsWritten)
     const std::size_t first = ByteView(ReadBytes(folder.File("out.prc"))).U32(78 + 6);
     EXPECT_EQ(file[first + 8], 8) << "bits";
     EXPECT_EQ(file[first + 6] & 0x80, 0x80) << "packed";
+}
+
+TEST_F(Convert, TellsWhatReadersWillNotShowOfAName)
+{
+    const ToolRun accent = Run({ "--name", "Caf\xC3\xA9" });
+    EXPECT_EQ(accent.exitCode, 0);
+    EXPECT_THAT(accent.errors, HasSubstr("readers end the name before"));
+    EXPECT_EQ(Dumped("out.prc")["databaseName"], "Caf");
+
+    const ToolRun tooLong = Run({ "--name", "ABCDEFGHIJKLMNOPQRSTUVWXYZ012345" });
+    EXPECT_THAT(tooLong.errors, HasSubstr("only the first 31 characters"));
+    EXPECT_EQ(Dumped("out.prc")["databaseName"], "ABCDEFGHIJKLMNOPQRSTUVWXYZ01234");
 }
 
 TEST_F(Convert, TheChecksOfASaveStopIt)

@@ -1,14 +1,12 @@
 #include "forms/common/NameValidator.h"
 
+#include "companion/PalmDatabase.h"
+
 namespace vypx {
 
 namespace {
 
-bool CanStand(QChar character)
-{
-    constexpr ushort First = 32, Last = 126;
-    return character.unicode() >= First && character.unicode() <= Last;
-}
+bool CanStand(QChar character) { return CanStandInName(character.unicode()); }
 
 } // namespace
 
@@ -25,7 +23,7 @@ QValidator::State NameValidator::validate(QString& text, int& cursor) const
         if (CanStand(text[i])) {
             kept += text[i];
             keptBeforeCursor += i < cursor;
-        } else if (!dropped.contains(text[i])) {
+        } else {
             dropped += text[i];
         }
     }
@@ -39,7 +37,17 @@ QValidator::State NameValidator::validate(QString& text, int& cursor) const
 
 QString DroppedCharactersText(const QString& characters)
 {
-    return QObject::tr("The name on the handheld can't hold: %1").arg(characters.simplified());
+    QStringList words;
+    for (const char32_t code : characters.toUcs4()) {
+        if (code == U'\t')
+            words << QObject::tr("a tab");
+        else if (code == U'\n' || code == U'\r')
+            words << QObject::tr("a line break");
+        else
+            words << QString::fromUcs4(&code, 1);
+    }
+    words.removeDuplicates();
+    return QObject::tr("The name on the handheld can't hold: %1").arg(words.join(", "));
 }
 
 } // namespace vypx

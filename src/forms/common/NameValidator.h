@@ -17,7 +17,7 @@ public:
     State validate(QString& text, int& cursor) const override;
 
 signals:
-    /// These were left out, each once.
+    /// These were left out.
     void Dropped(const QString& characters) const;
 };
 

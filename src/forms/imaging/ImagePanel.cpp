@@ -9,6 +9,7 @@
 #include "ui_ImagePanel.h"
 
 #include <QEvent>
+#include <QMenu>
 #include <algorithm>
 
 namespace vypx {
@@ -61,11 +62,18 @@ void ImagePanel::NameBySlot()
     }
     setObjectName("frame" + letters);
     setTitle(words);
+    for (QObject* part : findChildren<QObject*>())
+        part->setObjectName(part->objectName().replace("XX", letters));
     for (QWidget* control : findChildren<QWidget*>()) {
-        control->setObjectName(control->objectName().replace("XX", letters));
         control->setToolTip(named(control->toolTip()));
         control->setAccessibleName(named(control->accessibleName()));
     }
+}
+
+void ImagePanel::TakeMenu(QMenu& menu)
+{
+    menu.setParent(this, menu.windowFlags());
+    m_menu = &menu;
 }
 
 void ImagePanel::Draw()

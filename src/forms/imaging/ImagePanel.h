@@ -6,6 +6,7 @@
 #include <QGroupBox>
 #include <memory>
 
+class QMenu;
 class QMimeData;
 
 namespace Ui {
@@ -27,6 +28,10 @@ public:
     ~ImagePanel() override;
 
     const vypx::Slot& Shows() const { return m_slot; }
+
+    /// The panel's pop-up menu, which becomes a part of it.
+    void TakeMenu(QMenu& menu);
+    QMenu* Menu() const { return m_menu; }
 
     /// Shows the picture that the slot's fields of the document name; clears the size text if
     /// there is none.
@@ -59,6 +64,7 @@ private:
     std::unique_ptr<Ui::ImagePanel> m_ui;
     const vypx::Slot& m_slot;
     PictureBox& m_imageBuffer;
+    QMenu* m_menu = nullptr;
 };
 
 } // namespace vypx

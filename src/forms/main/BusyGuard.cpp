@@ -48,16 +48,15 @@ void BusyGuard::Run(const std::function<void()>& work)
         throw;
     }
     End();
-    if (IsBusy())
-        return;
-    if (const auto act = std::exchange(m_whenIdle, {}))
-        act();
 }
 
 void BusyGuard::End()
 {
-    if (--m_depth == 0)
-        qApp->removeEventFilter(this);
+    if (--m_depth > 0)
+        return;
+    qApp->removeEventFilter(this);
+    if (const auto act = std::exchange(m_whenIdle, {}))
+        act();
 }
 
 void BusyGuard::WhenIdle(std::function<void()> act)

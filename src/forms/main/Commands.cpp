@@ -8,7 +8,9 @@ Commands::Commands(QWidget& frame, QWidget& form)
 {
     for (const CommandRow& row : CommandRows()) {
         Control control;
-        control.entry = frame.findChild<QAction*>(row.name);
+        for (QWidget* place : { &frame, &form })
+            if (!control.entry)
+                control.entry = place->findChild<QAction*>(row.name);
         control.widget = control.entry ? nullptr : form.findChild<QWidget*>(row.name);
         control.button = qobject_cast<QAbstractButton*>(control.widget);
         if (!control.entry && !control.widget)

@@ -14,8 +14,8 @@ namespace vypx {
 /// The controls of all commands. The one way to enable a command.
 class Commands {
 public:
-    /// Takes the menu entries out of `frame` and the buttons and panels out of `form`, by name,
-    /// gives them caption and keys, and enables what needs nothing.
+    /// Takes the menu entries out of `frame` and `form`, the buttons and panels out of `form`, by
+    /// name, gives buttons their captions, and enables what needs nothing.
     Commands(QWidget& frame, QWidget& form);
 
     void Enable(Command command, bool on);

@@ -25,6 +25,10 @@ Documents::Documents(const View& view, Ask& ask, BusyGuard& busy, LoadWatcher& w
     view.commands.Connect(Command::Open, this, &Documents::Open);
     view.commands.Connect(Command::CloseIconset, this, &Documents::Close);
     connect(&settings, &SettingsWindows::DepthDone, this, &Documents::GoOn);
+    connect(&settings, &SettingsWindows::DepthGivenUp, this, [this] {
+        if (!AsksForName())
+            m_settings.TakeBackChoices();
+    });
     connect(&watcher, &LoadWatcher::DocumentOpened, this, &Documents::DocumentOpened);
     connect(&watcher, &LoadWatcher::Cleared, &icons, &IconCommands::ShowTree);
     connect(&watcher, &LoadWatcher::Counted, &icons, &IconCommands::ShowCount);
@@ -44,10 +48,9 @@ bool Documents::MayLeave(Leaving command)
                 .buttons = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel });
     if (opens && answer == QMessageBox::Yes)
         m_ask.Show(&m_view.form, { .text = "Not in this version :-( " });
-    if (answer != QMessageBox::No)
-        return false;
-    m_changesWhenAsked = IconsetChanged.Times();
-    return true;
+    if (asks && answer == QMessageBox::No)
+        m_changesWhenAsked = IconsetChanged.Times();
+    return answer == QMessageBox::No;
 }
 
 bool Documents::ChangedSinceAsked() const { return IconsetChanged.Times() != m_changesWhenAsked; }
@@ -101,13 +104,25 @@ void Documents::GoOn()
         LoadFile();
 }
 
-/// No document came of the command: the open one keeps its depth and resolution.
+/// No document came of the command: the open one keeps its depth and resolution. As long as one of
+/// the two windows stands, what was chosen is still meant for the document that it asks about.
 void Documents::GiveUp()
 {
+    if (m_settings.AsksForDepth() || AsksForName())
+        return;
     if (FileLoaded)
         m_settings.TakeBackChoices();
     else
         m_settings.KeepChoices();
+}
+
+bool Documents::AsksForName() const { return m_newIconset && m_newIconset->isVisible(); }
+
+void Documents::CloseWindows()
+{
+    m_settings.CloseAll();
+    if (m_newIconset)
+        m_newIconset->close();
 }
 
 void Documents::ShowNewIconset()
@@ -146,6 +161,8 @@ void Documents::MakeNewIconset(const QString& name)
         m_icons.ShowTree();
         EmptyTables();
         DocumentBegan();
+    } else {
+        GiveUp(); // the open one stays
     }
     // On purpose: without a name as well.
     FileLoaded = true;
@@ -165,26 +182,24 @@ void Documents::Close()
         if (answer != QMessageBox::Ok)
             return;
     }
-    EndDocument();
-}
-
-/// There is no document any more; the status bar keeps its texts.
-void Documents::EndDocument()
-{
     Tree.Clear();
-    m_icons.ShowTree();
-    m_view.commands.Enable(When::Document, false);
-    m_view.commands.Enable(Command::ClearDeleted, false);
-    FileLoaded = false;
-    m_view.notes.DocumentEnded();
     EmptyTables();
     Itbl.assign(1, {});
     FileCashe.assign(1, 0);
-    IconsetChanged = false;
+    FileLoaded = IconsetChanged = false;
+    ShowNoDocument();
+}
+
+/// The status bar keeps its texts.
+void Documents::ShowNoDocument()
+{
+    m_icons.ShowTree();
+    m_view.commands.Enable(When::Document, false);
+    m_view.notes.DocumentEnded();
+    ShowNoIcons();
     m_icons.UpdateIconStats();
 }
 
-/// There are no icons any more, no pictures on show and no commands for them.
 void Documents::EmptyTables()
 {
     IconTable.assign(1, {});
@@ -192,6 +207,12 @@ void Documents::EmptyTables()
     BitmapRow = 0;
     ShareNames.assign(1, {});
     ClearSlots();
+    ShowNoIcons();
+}
+
+/// No pictures on show, and no commands for icons.
+void Documents::ShowNoIcons()
+{
     for (ImagePanel* panel : m_view.panels)
         panel->Clear();
     m_icons.OfferNothing();
@@ -252,27 +273,27 @@ void Documents::EndLoad(const LoadRequest& request, const LoadReport& report)
 {
     QStringList notes;
     if (report.result == LoadResult::Failed) { // without words
-        EndDocument();
+        ShowNoDocument();
         m_view.status.Clear();
         notes << tr("%1 could not be read.").arg(PathText(LastComponent(request.path)));
     } else {
         notes << QString::fromStdString(NoteOf(report));
     }
+    if (report.result != LoadResult::WrongFileType)
+        m_icons.ShowTree();
+    m_icons.ShowCount();
     if (report.result == LoadResult::Recovered) {
         m_view.notes.DocumentEnded();
         m_view.commands.Enable({ Command::AddIcon, Command::ClearDeleted }, false);
         m_icons.OfferNothing();
     }
-    if (report.result != LoadResult::WrongFileType)
-        m_icons.ShowTree();
     if (report.result != LoadResult::Opened)
         GiveUp();
     m_watcher.End();
     notes << m_watcher.WhatWasNotShown();
     notes.removeAll(QString());
-    if (!notes.isEmpty())
+    if (!notes.isEmpty() || !FileLoaded)
         m_view.notes.Tell(Notes::Kind::Load, notes.join('\n'));
-    m_icons.ShowCount();
     m_view.tree.setFocus(); // which passed to another control while the tree was hidden
 }
 

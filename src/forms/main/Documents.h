@@ -38,6 +38,9 @@ public:
     /// Asks for an iconset, or takes the one that is waiting, and opens it.
     void LoadFile();
 
+    /// Closes the windows that lead to another document; what was chosen in them is taken back.
+    void CloseWindows();
+
 private:
     /// A command that leaves the open document.
     enum class Leaving { ForNew, ForOpen };
@@ -48,12 +51,14 @@ private:
     void ShowNewIconset();
     void MakeNewIconset(const QString& name);
     void GiveUp();
+    bool AsksForName() const;
 
     QString ChooseIconset();
     void LeaveCancelledLoad();
     LoadReport Load(const LoadRequest& request);
     void EndLoad(const LoadRequest& request, const LoadReport& report);
-    void EndDocument();
+    void ShowNoDocument();
+    void ShowNoIcons();
     void DocumentBegan();
     void DocumentOpened();
     void EmptyTables();

@@ -2,8 +2,10 @@
 
 #include "document/Slot.h"
 #include "forms/common/DropTarget.h"
+#include "forms/common/Text.h"
 #include "forms/main/Documents.h"
 #include "forms/main/FormKeys.h"
+#include "forms/main/Menus.h"
 #include "forms/main/Saving.h"
 #include "forms/main/Session.h"
 #include "ui_Form1.h"
@@ -14,6 +16,18 @@
 static void InitArt() { Q_INIT_RESOURCE(art); }
 
 namespace vypx {
+
+namespace {
+
+/// A panel with all that belongs to it.
+ImagePanel* MakePanel(const vypx::Slot& slot, PictureBox& imageBuffer, QWidget& form)
+{
+    auto* const panel = new ImagePanel(slot, imageBuffer, &form);
+    panel->TakeMenu(*MakePopUp(FromLatin1(slot.letters), *panel));
+    return panel;
+}
+
+} // namespace
 
 /// What does the work, in the order in which it is made: each knows those before it.
 struct Form1::Parts {
@@ -33,8 +47,7 @@ struct Form1::Parts {
     FormKeys keys;
 
     Parts(QWidget& frame, Form1& form, Ui::Form1& ui, Ask& ask)
-        : panels{ new ImagePanel(SlotLG, *ui.ImageBUF, &form),
-            new ImagePanel(SlotSM, *ui.ImageBUF, &form) }
+        : panels{ MakePanel(SlotLG, *ui.ImageBUF, form), MakePanel(SlotSM, *ui.ImageBUF, form) }
         , commands(frame, form)
         , notes(*ui.lblNotSaved, *ui.lblNote)
         , status(*ui.StatusBar1, frame)
@@ -47,7 +60,7 @@ struct Form1::Parts {
               icons, windows)
         , saving({ form, commands, status, notes }, ask, icons, settings)
         , session({ frame, form, panels, commands, views, notes, *ui.lblWorking }, ask, busy,
-              settings, windows)
+              settings, windows, documents)
         , keys(form, *ui.TreeView1, [this] { icons.RemoveSelected(); })
     {
     }

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTextEdit>
+#include <utility>
 
 namespace vypx {
 
@@ -74,12 +75,12 @@ bool FormKeys::eventFilter(QObject* watched, QEvent* event)
 
 /// By itself a button would wait for a tenth of a second, and meanwhile another icon could be
 /// selected.
-bool FormKeys::TakesMnemonic(QObject& watched) const
+bool FormKeys::TakesMnemonic(QObject& watched)
 {
     auto* const button = qobject_cast<QAbstractButton*>(&watched);
     if (!button || !IsInForm(watched))
         return false;
-    if (!m_isRepeat)
+    if (!std::exchange(m_isRepeat, false))
         button->click();
     return true;
 }

@@ -32,7 +32,7 @@ public:
 
 private:
     bool eventFilter(QObject* watched, QEvent* event) override;
-    bool TakesMnemonic(QObject& watched) const;
+    bool TakesMnemonic(QObject& watched);
     bool TakesRemoveKey(QObject& watched, const QKeyEvent& press);
     bool IsInForm(const QObject& object) const;
 

@@ -6,6 +6,7 @@
 #include "forms/common/Text.h"
 
 #include <QCoreApplication>
+#include <QScopeGuard>
 #include <QTimer>
 #include <utility>
 
@@ -32,11 +33,11 @@ void IconCommands::NodeClick(const QTreeWidgetItem& node)
     if (m_isClicking)
         return;
     m_isClicking = true;
+    const auto end = qScopeGuard([this] { m_isClicking = false; });
     ShowSelected(node);
     while (std::exchange(m_isClickedAgain, false))
         if (const QTreeWidgetItem* next = m_view.tree.selectedItems().value(0))
             ShowSelected(*next);
-    m_isClicking = false;
 }
 
 void IconCommands::ShowSelected(const QTreeWidgetItem& node)

@@ -37,6 +37,7 @@ public:
     {
         auto* const edit = new QLineEdit(parent);
         edit->setObjectName("txtLabelEdit");
+        edit->setAcceptDrops(false); // a file that is dropped on it is meant for the tree
         auto* const validator = new NameValidator(edit);
         QObject::connect(
             validator, &NameValidator::Dropped, &m_tree, &IconTreeView::CharactersDropped);

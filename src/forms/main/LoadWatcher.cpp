@@ -12,6 +12,13 @@ namespace {
 /// Lets the form paint; the guard keeps the user's input out.
 void RunPendingEvents() { QCoreApplication::processEvents(); }
 
+/// A text without the resource that it names: a broken file has it for each of its pictures.
+std::string KindOf(std::string_view text)
+{
+    constexpr std::string_view Following = " following ";
+    return std::string(text.substr(0, text.find(Following)));
+}
+
 } // namespace
 
 LoadWatcher::LoadWatcher(const View& view, Ask& ask)
@@ -22,7 +29,7 @@ LoadWatcher::LoadWatcher(const View& view, Ask& ask)
 
 void LoadWatcher::Begin()
 {
-    m_timesOfText.clear();
+    m_told.clear();
     m_sincePaint.start();
 }
 
@@ -36,16 +43,19 @@ void LoadWatcher::End()
 QString LoadWatcher::WhatWasNotShown() const
 {
     QStringList sentences;
-    for (const auto& [text, times] : m_timesOfText)
-        if (times > MostBoxesOfOneText)
-            sentences
-                << tr("%1 more messages: %2").arg(times - MostBoxesOfOneText).arg(FromLatin1(text));
+    for (const auto& [kind, told] : m_told)
+        if (told.times > MostBoxesOfOneText)
+            sentences << tr("%1 more messages: %2")
+                             .arg(told.times - MostBoxesOfOneText)
+                             .arg(FromLatin1(told.last));
     return sentences.join('\n');
 }
 
 void LoadWatcher::Message(std::string_view text)
 {
-    if (++m_timesOfText[std::string(text)] <= MostBoxesOfOneText)
+    Told& told = m_told[KindOf(text)];
+    told.last = text;
+    if (++told.times <= MostBoxesOfOneText)
         m_ask.Show(&m_view.form, { .text = FromLatin1(text) });
 }
 

@@ -32,8 +32,8 @@ public:
         QProgressBar& progress;
     };
 
-    /// Of one text so many boxes are shown in a load; a broken file could ask for one for each of
-    /// its icons.
+    /// Of one text, whatever picture it names, so many boxes are shown in a load; a broken file
+    /// could ask for one for each of its icons.
     static constexpr int MostBoxesOfOneText = 3;
 
     LoadWatcher(const View& view, Ask& ask);
@@ -77,7 +77,11 @@ private:
     View m_view;
     Ask& m_ask;
     QElapsedTimer m_sincePaint;
-    std::map<std::string, int> m_timesOfText;
+    struct Told {
+        int times = 0;
+        std::string last; // text
+    };
+    std::map<std::string, Told> m_told; // by the text without what it names
 };
 
 } // namespace vypx

@@ -33,7 +33,7 @@ MDIForm1::MDIForm1(Ask& ask)
     m_ui->setupUi(this);
     setWindowIcon(ProgramIcon());
     setAcceptDrops(true);
-    MakeMenus(*m_ui->menuBar, *this);
+    MakeMenus(*m_ui->menuBar);
     m_form = new Form1(*this, ask);
     // A title and nothing more: buttons in there would end the program or hide all that there is.
     m_child = m_ui->mdiArea->addSubWindow(

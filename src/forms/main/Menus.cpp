@@ -96,18 +96,26 @@ void FillMenu(QMenu& menu, const std::vector<Entry>& entries)
 
 } // namespace
 
-void MakeMenus(QMenuBar& bar, QWidget& owner)
+void MakeMenus(QMenuBar& bar)
 {
     for (const MenuRow& row : MenuRows()) {
         QMenu* const menu = bar.addMenu(row.caption);
         menu->setObjectName(row.name);
         FillMenu(*menu, row.entries);
     }
+}
+
+QMenu* MakePopUp(const QString& letters, QWidget& owner)
+{
     for (const MenuRow& row : PopUpRows()) {
+        if (!QString(row.name).endsWith(letters))
+            continue;
         auto* const menu = new QMenu(row.caption, &owner);
         menu->setObjectName(row.name);
         FillMenu(*menu, row.entries);
+        return menu;
     }
+    return nullptr;
 }
 
 } // namespace vypx

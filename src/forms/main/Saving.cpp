@@ -148,6 +148,7 @@ bool Saving::Compile()
         m_view.notes.Tell(Notes::Kind::Save, FromLatin1(note));
         return true;
     } catch (const std::exception& failure) {
+        m_view.notes.Tell(Notes::Kind::Save, {}); // of an earlier one
         m_view.notes.SaveFailed(QString::fromStdString(failure.what()));
         return false;
     }

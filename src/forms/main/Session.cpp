@@ -21,13 +21,14 @@ constexpr int LeastSide = 200;
 
 } // namespace
 
-Session::Session(
-    const View& view, Ask& ask, BusyGuard& busy, SavedSettings& settings, SettingsWindows& windows)
+Session::Session(const View& view, Ask& ask, BusyGuard& busy, SavedSettings& settings,
+    SettingsWindows& windows, Documents& documents)
     : m_view(view)
     , m_ask(ask)
     , m_busy(busy)
     , m_settings(settings)
     , m_windows(windows)
+    , m_documents(documents)
 {
     view.commands.Connect(Command::Exit, &view.form, [this] { Exit(); });
 }
@@ -37,7 +38,6 @@ void Session::StartUp(const QString& programFolder, const QString& userFolder)
     AppFolder = ResolveAppFolder(programFolder.toStdString(), userFolder.toStdString());
     RememberPreviewColor = false;
     TransparentUse = true;
-    MakeFolder(AppFolder + BelowFolder("temp"));
     m_settings.Load();
     TakeWorkingFolder();
     ChooseColours();
@@ -109,7 +109,7 @@ void Session::End()
     if (m_hasEnded)
         return;
     m_hasEnded = true;
-    m_windows.CloseAll(); // what they take back or take over is to be saved
+    m_documents.CloseWindows(); // what they take back or take over is to be saved
     // On purpose: the first copy never changes the count, and one that is not the last to leave
     // may hand its number to a later one.
     if (InstanceNumber >= 1)

@@ -5,6 +5,7 @@
 #include "forms/imaging/Panels.h"
 #include "forms/main/BusyGuard.h"
 #include "forms/main/Commands.h"
+#include "forms/main/Documents.h"
 #include "forms/main/Notes.h"
 #include "forms/main/SavedSettings.h"
 #include "forms/main/SettingsWindows.h"
@@ -31,7 +32,7 @@ public:
     };
 
     Session(const View& view, Ask& ask, BusyGuard& busy, SavedSettings& settings,
-        SettingsWindows& windows);
+        SettingsWindows& windows, Documents& documents);
 
     /// From the first step to the idle main window. Folders are the platform's own paths. Throws
     /// std::filesystem::filesystem_error when a working folder can't be made.
@@ -54,6 +55,7 @@ private:
     BusyGuard& m_busy;
     SavedSettings& m_settings;
     SettingsWindows& m_windows;
+    Documents& m_documents;
     RunningCopies m_copies;
     bool m_hasEnded = false;
 };

@@ -59,7 +59,7 @@ void SettingsWindows::AskForDepth()
             if (m_options)
                 m_options->ShowChoices();
         });
-        connect(m_depthWindow, &frmSelectCDepth::GivenUp, this, &SettingsWindows::TakeBackChoices);
+        connect(m_depthWindow, &frmSelectCDepth::GivenUp, this, &SettingsWindows::DepthGivenUp);
         connect(m_depthWindow, &frmSelectCDepth::Done, this, [this] {
             ShowDepth();
             emit DepthDone();

@@ -40,6 +40,8 @@ public:
 signals:
     /// The depth is chosen: on to the document.
     void DepthDone();
+    /// The depth window was left by its frame or by Escape.
+    void DepthGivenUp();
     /// The options window was closed: the settings are to be saved.
     void OptionsDone();
 

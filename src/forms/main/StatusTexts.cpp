@@ -59,6 +59,8 @@ void StatusTexts::ShowTitle()
         QString name = PathText(LastComponent(FileName));
         if (name.isEmpty())
             name = FromLatin1(DatabaseName);
+        if (name.isEmpty())
+            name = QObject::tr("Untitled");
         title = TitleText(name) + (IconsetChanged ? "* - " : " - ") + title;
     }
     m_frame.setWindowTitle(title);

@@ -35,15 +35,16 @@ frmNewIconset::~frmNewIconset() = default;
 void frmNewIconset::cmdDoneName_Click()
 {
     m_isDone = true;
+    hide();
     emit Done(m_ui->txtNewIconsetDBName->text());
     close();
 }
 
 void frmNewIconset::reject()
 {
+    QDialog::reject();
     if (!m_isDone)
         emit GivenUp();
-    QDialog::reject();
 }
 
 /// Into an empty box no character below "A" can be typed, Enter no more than a digit; it can be

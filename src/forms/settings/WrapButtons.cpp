@@ -11,7 +11,7 @@ namespace vypx {
 namespace {
 
 constexpr int WidestHint = 330, NarrowestHint = 160; // pixels
-constexpr int Endless = 10000; // no caption is wider
+constexpr int Endless = 10000;                       // no caption is wider
 constexpr int Margin = 2;
 constexpr int Flags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap | Qt::TextShowMnemonic;
 
@@ -77,6 +77,15 @@ template <typename Button>
 QSize Wrapping<Button>::minimumSizeHint() const
 {
     return { std::min(sizeHint().width(), NarrowestHint), heightForWidth(WidestHint) };
+}
+
+/// The mark and all lines of the caption.
+template <typename Button>
+bool Wrapping<Button>::hitButton(const QPoint& point) const
+{
+    const int text = TextSize(this->width() - TextLeft() - Margin).width();
+    const QRect hit(0, 0, TextLeft() + text + Margin, this->height());
+    return QStyle::visualRect(this->layoutDirection(), this->rect(), hit).contains(point);
 }
 
 template <typename Button>

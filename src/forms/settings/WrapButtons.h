@@ -18,7 +18,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    bool hitButton(const QPoint& point) const override { return this->rect().contains(point); }
+    bool hitButton(const QPoint& point) const override;
 
 private:
     QSize IndicatorSize() const;

@@ -47,8 +47,9 @@ frmProgOptions::frmProgOptions(QWidget* parent)
     move(PixelsFromTwips(OpenAt), PixelsFromTwips(OpenAt));
     for (QLineEdit* edit : { m_ui->txtPalmUserID, m_ui->txtVstring })
         edit->setValidator(Latin1Validator(*edit));
-    ShowSettings();
+    ShowDepthWarning(*m_ui, true); // there is room for it, whether it is needed now or not
     resize(SizeOnScreen(*this, *m_ui->allOptions, *m_ui->scrollOptions));
+    ShowSettings();
     ConnectBoxes();
     ConnectDepths();
     ConnectResolutions();

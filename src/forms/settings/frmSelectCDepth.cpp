@@ -68,8 +68,8 @@ void frmSelectCDepth::ShowChoices()
 
 void frmSelectCDepth::reject()
 {
-    emit GivenUp();
     QDialog::reject();
+    emit GivenUp();
 }
 
 void frmSelectCDepth::cmdDoneCDepth_Click()

@@ -193,5 +193,79 @@ TEST_F(AskedAgain, WithoutADocumentTheChoicesStand)
     EXPECT_EQ(DefaultColorDepth, ColorDepth::Bits4);
 }
 
+TEST_F(AskedAgain, AnEmptyNameLeavesTheOpenDocumentItsDepth)
+{
+    Entry("mnuNew").trigger();
+    Click("opt4Bit");
+    Click("cmdDoneCDepth");
+
+    Click("cmdDoneName");
+
+    EXPECT_TRUE(AlphaIsOpen());
+    EXPECT_EQ(DefaultColorDepth, ColorDepth::Bits16);
+}
+
+TEST_F(AskedAgain, AnExitUnderTheNameWindowSavesTheDepthOfTheOpenDocument)
+{
+    Entry("mnuNew").trigger();
+    Click("opt4Bit");
+    Click("cmdDoneCDepth");
+
+    Entry("mnuExit").trigger();
+
+    EXPECT_NE(Settings().find("User Color Depth=16-Bit"), std::string::npos) << Settings();
+}
+
+TEST_F(AskedAgain, ACancelledNameLeavesWhatTheDepthWindowStillAsksAbout)
+{
+    Entry("mnuNew").trigger();
+    Click("cmdDoneCDepth");
+    Entry("mnuOpen").trigger();
+    Click("opt4Bit");
+
+    Click("cmdCancelName");
+    EXPECT_TRUE(Find<QRadioButton>("opt4Bit").isChecked());
+    EXPECT_EQ(DefaultColorDepth, ColorDepth::Bits4);
+
+    Find<QDialog>("frmSelectCDepth").close();
+    EXPECT_EQ(DefaultColorDepth, ColorDepth::Bits16);
+}
+
+TEST_F(AskedAgain, ACancelledFileDialogLeavesWhatTheNameStillAsksAbout)
+{
+    Entry("mnuNew").trigger();
+    Click("opt4Bit");
+    Click("cmdDoneCDepth");
+    Entry("mnuOpen").trigger();
+    ask.CancelDialog();
+    Click("cmdDoneCDepth");
+    TypeName("Fresh");
+
+    Click("cmdDoneName");
+
+    EXPECT_EQ(DatabaseName, "Fresh");
+    EXPECT_EQ(DefaultColorDepth, ColorDepth::Bits4);
+}
+
+TEST_F(AskedAgain, NewAsksAboutWhatOpenPassedWithoutAQuestion)
+{
+    Entry("mnuNew").trigger();
+    Click("cmdDoneCDepth");
+    for (const char* label : { "Alpha (Large Icon)", "Alpha (Small Icon)" }) {
+        Nodes().setCurrentItem(Nodes().NodeOf(label));
+        QTest::keyClick(&Nodes(), Qt::Key_R);
+    }
+    Entry("mnuOpen").trigger(); // asks nothing: no icon that stays has a picture
+    ASSERT_TRUE(ask.shown.empty());
+    Find<QDialog>("frmSelectCDepth").close();
+    TypeName("Fresh");
+    ask.Answer(QMessageBox::Cancel);
+
+    Click("cmdDoneName");
+
+    EXPECT_EQ(Messages(), QStringList(Question));
+    EXPECT_EQ(DatabaseName, "Set");
+}
+
 } // namespace
 } // namespace vypx::test

@@ -45,9 +45,16 @@ TEST(BusyGuard, WorkThatFailsLeavesTheProgramUsable)
 {
     BusyGuard guard;
 
-    EXPECT_THROW(guard.Run([] { throw std::runtime_error("no"); }), std::runtime_error);
+    bool ran = false;
+
+    const auto fail = [&] {
+        guard.WhenIdle([&] { ran = true; });
+        throw std::runtime_error("no");
+    };
+    EXPECT_THROW(guard.Run(fail), std::runtime_error);
 
     EXPECT_FALSE(guard.IsBusy());
+    EXPECT_TRUE(ran) << "what was put off";
 }
 
 TEST(BusyGuard, WhatIsPutOffRunsOnceAtTheEnd)

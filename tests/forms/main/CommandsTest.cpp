@@ -18,9 +18,11 @@ class CommandsTest : public ::testing::Test {
 protected:
     CommandsTest()
     {
-        MakeMenus(bar, frame);
+        MakeMenus(bar);
+        MakePopUp("LG", form);
+        MakePopUp("SM", form);
         for (const CommandRow& row : CommandRows())
-            if (!frame.findChild<QAction*>(row.name))
+            if (!frame.findChild<QAction*>(row.name) && !form.findChild<QAction*>(row.name))
                 (new QPushButton(&form))->setObjectName(row.name);
     }
 

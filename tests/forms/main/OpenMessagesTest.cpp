@@ -163,5 +163,48 @@ TEST_F(OpenMessages, AfterALoadThatFailsWithoutWordsThereIsNoDocument)
     EXPECT_EQ(frame->windowTitle(), "VY Pixelworks");
 }
 
+TEST_F(OpenMessages, BrokenChainsOfManyPicturesShowThreeBoxes)
+{
+    std::vector<Resource> resources;
+    for (int id = 3500; id < 3510; ++id) {
+        resources.push_back(Picture(id));
+        PutU16(resources.back().data, 10, 0x4000);
+    }
+    for (int box = 0; box < 3; ++box)
+        ask.Answer(QMessageBox::Ok);
+
+    Open(Written(Iconset{ .resources = resources }.File()));
+
+    EXPECT_EQ(ask.shown.size(), 3u);
+    EXPECT_EQ(Messages().first(), "Error parsing file following tAIB3500.");
+    EXPECT_EQ(
+        Find<QLabel>("lblNote").text(), "7 more messages: Error parsing file following tAIB3509.");
+}
+
+TEST_F(OpenMessages, ARefusedFileOffersNothingOfTheDocumentBefore)
+{
+    Open(
+        Written(Iconset{ .resources = { { "iTbl", 1000, {} }, Picture(3500) } }.File(), "old.prc"));
+    ASSERT_TRUE(Find<QPushButton>("cmdClrDeleted").isEnabled()) << "an orphan is marked";
+
+    ExpectSays(Bytes(68, 'x'), { "Error! Invalid file!" });
+
+    EXPECT_FALSE(Find<QPushButton>("cmdClrDeleted").isEnabled());
+}
+
+TEST_F(OpenMessages, PicturesThatCouldNotBeStoredAreTold)
+{
+    const QString path = Written(Iconset{ .resources = { Picture(3500), Picture(3501) } }.File());
+    std::filesystem::remove_all(WorkFolder());
+
+    Open(path);
+
+    EXPECT_TRUE(ask.shown.empty());
+    EXPECT_TRUE(FileLoaded);
+    const QString note = Find<QLabel>("lblNote").text();
+    EXPECT_TRUE(note.startsWith("2 pictures could not be stored")) << note.toStdString();
+    EXPECT_FALSE(note.contains(".bmp"));
+}
+
 } // namespace
 } // namespace vypx::test

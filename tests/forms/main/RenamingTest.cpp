@@ -117,7 +117,7 @@ TEST_F(Renaming, WhatAReaderEndsANameAtIsLeftOutAndTold)
     edit.insert(QString::fromUtf8("Caf\xC3\xA9 au \xE2\x82\xAC lait")); // as a paste brings it
     EXPECT_EQ(edit.text(), "Caf au  lait");
     EXPECT_EQ(Find<QLabel>("lblNote").text(),
-        QString::fromUtf8("The name on the handheld can't hold: \xC3\xA9\xE2\x82\xAC"));
+        QString::fromUtf8("The name on the handheld can't hold: \xC3\xA9, \xE2\x82\xAC"));
     QTest::keyClick(&edit, Qt::Key_Return);
     QCoreApplication::processEvents();
     EXPECT_EQ(DatabaseName, "Caf au  lait");

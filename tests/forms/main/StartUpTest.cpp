@@ -257,11 +257,20 @@ TEST_F(StartUp, AProgramFolderThatCannotBeWrittenGivesWayToTheUsers)
 
 TEST_F(StartUp, AWorkingFolderThatCannotBeMadeIsNotCaught)
 {
-    WriteText(program.File("temp"), "a file in the way");
+    namespace fs = std::filesystem;
     frame = std::make_unique<MDIForm1>(ask);
-
-    EXPECT_THROW(frame->Start(QString::fromStdString(program.Path()), {}),
-        std::filesystem::filesystem_error);
+    fs::permissions(program.Path(), fs::perms::all);
+    fs::permissions(program.Path(),
+        fs::perms::all
+            & ~(fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write));
+    for (int box = 0; box < 3; ++box) // settings that can't be kept
+        ask.Answer(QMessageBox::Ok);
+    {
+        const CommonUser common;
+        EXPECT_THROW(frame->Start(QString::fromStdString(program.Path()), {}),
+            std::filesystem::filesystem_error);
+    }
+    fs::permissions(program.Path(), fs::perms::all);
 }
 
 TEST_F(StartUp, AfterACopyEndedWithoutAnExitTheNextOneIsTheFirstAgain)
@@ -309,6 +318,32 @@ TEST_F(StartUp, TheUsersFolderIsFilledFromAProgramFolderThatCanOnlyBeRead)
 }
 
 #endif
+
+TEST_F(StartUp, ACatalogWithTooManyNamesIsToldInANote)
+{
+    std::string catalog;
+    for (int i = 0; i < 1100; ++i)
+        catalog += "[Item " + std::to_string(1000 + i) + "]\nID=" + std::to_string(i) + "\n";
+    WriteText(program.File("VY_Icons.dat"), catalog);
+
+    Start();
+
+    const auto& note = Find<QLabel>("lblNote");
+    EXPECT_TRUE(note.isVisible());
+    EXPECT_TRUE(note.text().contains("of the 1100 names in VY_Icons.dat"))
+        << note.text().toStdString();
+    EXPECT_TRUE(ask.shown.empty());
+}
+
+TEST_F(StartUp, AFileInTheWayOfTheFirstFolderDoesNotKeepTheProgramFromStarting)
+{
+    WriteText(program.File("temp"), "a file");
+
+    Start();
+
+    EXPECT_TRUE(DirExists(WorkFolder()));
+    EXPECT_NE(WorkFolder(), program.File("temp"));
+}
 
 } // namespace
 } // namespace vypx::test

@@ -78,5 +78,55 @@ TEST_F(Titles, TheFormFillsTheHeightOfTheFrameAndShrinksTo470Pixels)
     EXPECT_LE(Find<QWidget>("Form1").minimumSizeHint().height(), 470);
 }
 
+TEST_F(Titles, AnIconsetWithoutAnyNameIsUntitled)
+{
+    Entry("mnuNew").trigger();
+    Click("cmdDoneName");
+
+    EXPECT_EQ(Title(), "Untitled - VY Pixelworks");
+}
+
+TEST_F(Titles, BothPanelsStandLevel)
+{
+    const auto& form = Find<QWidget>("Form1");
+    const std::pair<const char*, const char*> twins[] = { { "picLGfrm", "picSMfrm" },
+        { "cmdImportLG", "cmdImportSM" }, { "cmdUndoLG", "cmdUndoSM" } };
+    for (const auto& [high, low] : twins) {
+        const QRect left = Find<QWidget>(high).rect(), right = Find<QWidget>(low).rect();
+        EXPECT_EQ(Find<QWidget>(high).mapTo(&form, left.topLeft()).y(),
+            Find<QWidget>(low).mapTo(&form, right.topLeft()).y())
+            << high;
+        EXPECT_EQ(left.height(), right.height()) << high;
+    }
+}
+
+TEST_F(Titles, TheFormsDoorsLeadToItsParts)
+{
+    OpenAlpha();
+    SelectAlpha();
+    Form1& form = frame->Form();
+
+    form.RemoveSelected();
+    EXPECT_EQ(IconTable[0].IconState, 0);
+    form.RebuildTree();
+    EXPECT_TRUE(NodeTexts().empty());
+    ask.Answer(QMessageBox::Cancel);
+    form.mnuCloseIconset_Click();
+    EXPECT_TRUE(FileLoaded);
+    ask.Answer(QMessageBox::Ok);
+    form.ClearDeletedIcons();
+    EXPECT_EQ(IconTable[0].IconLabel, "");
+    ask.Answer(QMessageBox::Ok);
+    form.mnuSaveAs_Click();
+    EXPECT_EQ(Messages().last(), "Can't save. The iconset doesn't contain any icons.");
+    ask.Answer(QMessageBox::Cancel);
+    form.mnuNew_Click();
+    ask.CancelDialog();
+    form.mnuOpen_Click();
+    EXPECT_FALSE(IconsetChanged);
+    form.mnuExit_Click();
+    EXPECT_FALSE(frame->isVisible());
+}
+
 } // namespace
 } // namespace vypx::test

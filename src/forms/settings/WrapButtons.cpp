@@ -76,7 +76,7 @@ QSize Wrapping<Button>::sizeHint() const
 template <typename Button>
 QSize Wrapping<Button>::minimumSizeHint() const
 {
-    return { std::min(sizeHint().width(), NarrowestHint), heightForWidth(WidestHint) };
+    return { std::min(sizeHint().width(), NarrowestHint), heightForWidth(Endless) };
 }
 
 /// The mark and all lines of the caption.

@@ -18,6 +18,17 @@ namespace {
 
 constexpr int OpenAt = 300; // twips from the left and the top
 
+/// What the column of the longest plain text lacks to show it in one line.
+int ForWholeLines(const QWidget& options)
+{
+    int lacking = 0;
+    for (const QLabel* label : options.findChildren<QLabel*>())
+        lacking = std::max(lacking,
+            label->fontMetrics().horizontalAdvance(label->text()) + 4
+                - label->parentWidget()->layout()->sizeHint().width());
+    return lacking + 20; // the frame's margins
+}
+
 /// As large as the options need, but never beyond the screen's free area: what has no room then
 /// scrolls, and the row with the button stays in sight.
 QSize SizeOnScreen(const QDialog& window, const QWidget& options, const QScrollArea& area)
@@ -30,7 +41,8 @@ QSize SizeOnScreen(const QDialog& window, const QWidget& options, const QScrollA
     const QSize free = window.screen()->availableGeometry().size();
     const int left = PixelsFromTwips(OpenAt);
     const QSize most(free.width() - left - 4, free.height() - left - FrameOfWindow);
-    const int width = std::min(options.sizeHint().width() + chrome.width() + bar, most.width());
+    const int width = std::min(
+        options.sizeHint().width() + ForWholeLines(options) + chrome.width() + bar, most.width());
     const int height = options.layout()->heightForWidth(width - chrome.width() - bar);
     return { width, std::min(height + chrome.height(), most.height()) };
 }

@@ -247,6 +247,7 @@ TEST_F(Options, LettersThatTheFileCannotHoldCannotBeTyped)
 
 TEST_F(Options, HasItsOwnColourBehindEverything)
 {
+    QCoreApplication::processEvents(); // which ends the layout
     const QImage seen = Find<QDialog>("frmProgOptions").grab().toImage();
     EXPECT_EQ(seen.pixelColor(2, 2), QColor(224, 223, 227));
     const auto& depths = Find<QGroupBox>("frameCD");

@@ -1,11 +1,11 @@
 // A click on a node until both pictures are drawn, and a recount, with 4000 rows in the tree.
 // Without a screen: QT_QPA_PLATFORM=offscreen.
 
+#include "NoAsk.h"
 #include "companion/BmpFile.h"
 #include "document/Catalogs.h"
 #include "document/Document.h"
 #include "document/WorkingFolder.h"
-#include "forms/common/Ask.h"
 #include "forms/main/Form1.h"
 #include "forms/main/IconTreeView.h"
 #include "forms/main/MDIForm1.h"
@@ -20,12 +20,6 @@ namespace {
 using namespace vypx;
 
 constexpr int Rows = 4000;
-
-class NoAsk : public Ask {
-    QMessageBox::StandardButton Show(QWidget*, const Box&) override { return QMessageBox::Ok; }
-    QString OpenFile(QWidget*, const OpenQuestion&) override { return {}; }
-    std::optional<QString> SaveFile(QWidget*, const SaveQuestion&) override { return {}; }
-};
 
 /// The program with an open document of 4000 rows, each with both pictures.
 struct Program {

@@ -1,9 +1,9 @@
 // A load of 2000 resources in the window, beside the same load as the tool does it and the filling
 // of the tree. Without a screen: QT_QPA_PLATFORM=offscreen.
 
+#include "NoAsk.h"
 #include "document/Document.h"
 #include "document/WorkingFolder.h"
-#include "forms/common/Ask.h"
 #include "forms/main/Form1.h"
 #include "forms/main/IconTreeView.h"
 #include "forms/main/MDIForm1.h"
@@ -20,12 +20,6 @@
 namespace {
 
 using namespace vypx;
-
-class NoAsk : public Ask {
-    QMessageBox::StandardButton Show(QWidget*, const Box&) override { return QMessageBox::Ok; }
-    QString OpenFile(QWidget*, const OpenQuestion&) override { return {}; }
-    std::optional<QString> SaveFile(QWidget*, const SaveQuestion&) override { return {}; }
-};
 
 class Silent : public LoadListener {
     void Message(std::string_view) override { }

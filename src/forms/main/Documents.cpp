@@ -2,7 +2,6 @@
 
 #include "document/Document.h"
 #include "document/IconStats.h"
-#include "document/WorkingFolder.h"
 #include "forms/common/Text.h"
 #include "forms/main/frmNewIconset.h"
 #include "forms/settings/frmSelectCDepth.h"
@@ -12,12 +11,11 @@
 
 namespace vypx {
 
-Documents::Documents(const View& view, Ask& ask, BusyGuard& busy, LoadWatcher& watcher,
-    IconCommands& icons, SettingsWindows& settings)
+Documents::Documents(
+    const View& view, Ask& ask, Loading& loading, IconCommands& icons, SettingsWindows& settings)
     : m_view(view)
     , m_ask(ask)
-    , m_busy(busy)
-    , m_watcher(watcher)
+    , m_loading(loading)
     , m_icons(icons)
     , m_settings(settings)
 {
@@ -29,9 +27,9 @@ Documents::Documents(const View& view, Ask& ask, BusyGuard& busy, LoadWatcher& w
         if (!AsksForName())
             m_settings.TakeBackChoices();
     });
-    connect(&watcher, &LoadWatcher::DocumentOpened, this, &Documents::DocumentOpened);
-    connect(&watcher, &LoadWatcher::Cleared, &icons, &IconCommands::ShowTree);
-    connect(&watcher, &LoadWatcher::Counted, &icons, &IconCommands::ShowCount);
+    connect(&loading, &Loading::Opened, this, &Documents::DocumentOpened);
+    connect(&loading, &Loading::NotOpened, this, &Documents::GiveUp);
+    connect(&loading, &Loading::NothingLeft, this, &Documents::ShowNoDocument);
 }
 
 /// The question before a changed document is left. On purpose: Yes never saves.
@@ -88,7 +86,7 @@ void Documents::Open()
     if (PromptColorDepth)
         m_settings.AskForDepth();
     else
-        LoadFile();
+        m_loading.LoadFile();
 }
 
 /// The depth is chosen: on to what was asked for.
@@ -101,7 +99,7 @@ void Documents::GoOn()
     if (ChangedSinceAsked() && !MayLeave(Leaving::ForOpen))
         GiveUp();
     else
-        LoadFile();
+        m_loading.LoadFile();
 }
 
 /// No document came of the command: the open one keeps its depth and resolution. As long as one of
@@ -216,85 +214,6 @@ void Documents::ShowNoIcons()
     for (ImagePanel* panel : m_view.panels)
         panel->Clear();
     m_icons.OfferNothing();
-}
-
-void Documents::LoadFile()
-{
-    if (m_busy.IsBusy())
-        return;
-    for (ImagePanel* panel : m_view.panels)
-        panel->ClearPicture();
-    m_icons.DisableSlotCommands();
-    LoadRequest request = RequestFromFlags();
-    if (request.MustBeChosen()) {
-        request.path = ChooseIconset().toStdString();
-        if (request.path.empty()) {
-            LeaveCancelledLoad();
-            return;
-        }
-    }
-    m_busy.Run([&] { EndLoad(request, Load(request)); });
-}
-
-/// Empty when the dialog was cancelled.
-QString Documents::ChooseIconset()
-{
-    OpenQuestion question{
-        .title = TemplateMode ? tr("Load Template") : tr("Open Iconset"),
-        .folder = {},
-        .filters = { TemplateMode ? "VYPX Template File (*.vpt)" : "Vantry Iconset (*.prc *.pdb)" },
-    };
-    if (UseLastDirs && DirExists(LastDirIconsetLoad))
-        question.folder = PathText(LastDirIconsetLoad);
-    return m_ask.OpenFile(&m_view.form, question);
-}
-
-void Documents::LeaveCancelledLoad()
-{
-    LeaveFailedLoad();
-    m_watcher.End();
-    m_view.status.ShowTitle();
-    GiveUp();
-}
-
-/// What goes wrong beyond what a bad file can do ends the load as well.
-LoadReport Documents::Load(const LoadRequest& request)
-{
-    m_watcher.Begin();
-    try {
-        return vypx::LoadFile(request, m_watcher);
-    } catch (const std::exception&) {
-        LeaveFailedLoad();
-        return { .result = LoadResult::Failed };
-    }
-}
-
-void Documents::EndLoad(const LoadRequest& request, const LoadReport& report)
-{
-    QStringList notes;
-    if (report.result == LoadResult::Failed) { // without words
-        ShowNoDocument();
-        m_view.status.Clear();
-        notes << tr("%1 could not be read.").arg(PathText(LastComponent(request.path)));
-    } else {
-        notes << QString::fromStdString(NoteOf(report));
-    }
-    if (report.result != LoadResult::WrongFileType)
-        m_icons.ShowTree();
-    m_icons.ShowCount();
-    if (report.result == LoadResult::Recovered) {
-        m_view.notes.DocumentEnded();
-        m_view.commands.Enable({ Command::AddIcon, Command::ClearDeleted }, false);
-        m_icons.OfferNothing();
-    }
-    if (report.result != LoadResult::Opened)
-        GiveUp();
-    m_watcher.End();
-    notes << m_watcher.WhatWasNotShown();
-    notes.removeAll(QString());
-    if (!notes.isEmpty() || !FileLoaded)
-        m_view.notes.Tell(Notes::Kind::Load, notes.join('\n'));
-    m_view.tree.setFocus(); // which passed to another control while the tree was hidden
 }
 
 /// One was opened or made: with the depth that was chosen last, wherever.

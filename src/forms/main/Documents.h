@@ -1,11 +1,9 @@
 #pragma once
 
 #include "forms/common/Ask.h"
-#include "forms/main/BusyGuard.h"
 #include "forms/main/IconCommands.h"
-#include "forms/main/LoadWatcher.h"
+#include "forms/main/Loading.h"
 #include "forms/main/SettingsWindows.h"
-#include "reader/LoadFile.h"
 
 #include <QObject>
 #include <QPointer>
@@ -22,22 +20,18 @@ class Documents : public QObject {
 public:
     struct View {
         QWidget& form;
-        IconTreeView& tree;
         Panels panels;
         Commands& commands;
         StatusTexts& status;
         Notes& notes;
     };
 
-    Documents(const View& view, Ask& ask, BusyGuard& busy, LoadWatcher& watcher,
-        IconCommands& icons, SettingsWindows& settings);
+    Documents(const View& view, Ask& ask, Loading& loading, IconCommands& icons,
+        SettingsWindows& settings);
 
     void New();
     void Open();
     void Close();
-    /// Asks for an iconset, or takes the one that is waiting, and opens it.
-    void LoadFile();
-
     /// Closes the windows that lead to another document; what was chosen in them is taken back.
     void CloseWindows();
 
@@ -53,10 +47,6 @@ private:
     void GiveUp();
     bool AsksForName() const;
 
-    QString ChooseIconset();
-    void LeaveCancelledLoad();
-    LoadReport Load(const LoadRequest& request);
-    void EndLoad(const LoadRequest& request, const LoadReport& report);
     void ShowNoDocument();
     void ShowNoIcons();
     void DocumentBegan();
@@ -65,8 +55,7 @@ private:
 
     View m_view;
     Ask& m_ask;
-    BusyGuard& m_busy;
-    LoadWatcher& m_watcher;
+    Loading& m_loading;
     IconCommands& m_icons;
     SettingsWindows& m_settings;
     QPointer<frmNewIconset> m_newIconset;

@@ -41,6 +41,7 @@ struct Form1::Parts {
     SettingsWindows windows;
     IconCommands icons;
     LoadWatcher watcher;
+    Loading loading;
     Documents documents;
     Saving saving;
     Session session;
@@ -56,8 +57,9 @@ struct Form1::Parts {
         , windows(form, commands, views, *ui.lblTargetCD)
         , icons({ *ui.TreeView1, panels, commands, status, notes, *ui.lblSearchingApp }, ask)
         , watcher({ form, *ui.TreeView1, panels, status, *ui.lblWorking, *ui.ProgressBar1 }, ask)
-        , documents({ form, *ui.TreeView1, panels, commands, status, notes }, ask, busy, watcher,
-              icons, windows)
+        , loading(
+              { form, *ui.TreeView1, panels, commands, status, notes }, ask, busy, watcher, icons)
+        , documents({ form, panels, commands, status, notes }, ask, loading, icons, windows)
         , saving({ form, commands, status, notes }, ask, icons, settings)
         , session({ frame, form, panels, commands, views, notes, *ui.lblWorking }, ask, busy,
               settings, windows, documents)
@@ -126,7 +128,7 @@ void Form1::mnuNew_Click() { m_parts->documents.New(); }
 void Form1::mnuOpen_Click() { m_parts->documents.Open(); }
 void Form1::mnuCloseIconset_Click() { m_parts->documents.Close(); }
 void Form1::mnuExit_Click() { ExitProgram(); }
-void Form1::LoadFile() { m_parts->documents.LoadFile(); }
+void Form1::LoadFile() { m_parts->loading.LoadFile(); }
 void Form1::SaveIconset() { m_parts->saving.SaveIconset(); }
 void Form1::mnuSaveAs_Click() { m_parts->saving.SaveAs(); }
 

@@ -106,23 +106,30 @@ void LoadWatcher::ProgressMaximum(int maximum) { m_view.progress.setMaximum(maxi
 
 void LoadWatcher::ProgressShown()
 {
+    m_count = 0;
     m_view.progress.setValue(0);
     m_view.progress.setVisible(true);
 }
 
+/// The bar formats and paints itself at every value, so it gets those that are seen.
 void LoadWatcher::Progress(int count)
 {
     constexpr qint64 BetweenPaints = 16; // milliseconds
     if (m_view.progress.maximum() < count)
         return;
-    m_view.progress.setValue(count);
+    m_count = count;
     if (m_sincePaint.elapsed() < BetweenPaints)
         return;
     m_sincePaint.restart();
+    m_view.progress.setValue(count);
     RunPendingEvents();
 }
 
-void LoadWatcher::ProgressHidden() { m_view.progress.setVisible(false); }
+void LoadWatcher::ProgressHidden()
+{
+    m_view.progress.setValue(m_count);
+    m_view.progress.setVisible(false);
+}
 
 void LoadWatcher::Opened()
 {

@@ -77,6 +77,7 @@ private:
     View m_view;
     Ask& m_ask;
     QElapsedTimer m_sincePaint;
+    int m_count = 0; // of the progress bar
     struct Told {
         int times = 0;
         std::string last; // text

@@ -81,10 +81,8 @@ void Loading::EndLoad(const LoadRequest& request, const LoadReport& report)
     } else {
         notes << QString::fromStdString(NoteOf(report));
     }
-    if (report.result != LoadResult::WrongFileType)
-        m_icons.ShowTree();
-    m_icons.ShowCount();
     if (report.result == LoadResult::Recovered) {
+        m_icons.ShowTree();
         m_view.notes.DocumentEnded();
         m_view.commands.Enable({ Command::AddIcon, Command::ClearDeleted }, false);
         m_icons.OfferNothing();
@@ -92,6 +90,7 @@ void Loading::EndLoad(const LoadRequest& request, const LoadReport& report)
     if (report.result != LoadResult::Opened)
         emit NotOpened();
     m_watcher.End();
+    m_view.status.ShowTitle();
     notes << m_watcher.WhatWasNotShown();
     notes.removeAll(QString());
     if (!notes.isEmpty() || !FileLoaded)

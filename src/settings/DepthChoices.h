@@ -17,6 +17,9 @@ public:
     /// Sets HighResOnly and LowResOnly.
     void ChooseResolution(bool highResOnly, bool lowResOnly);
 
+    /// The depth of the document that is open, whatever was chosen for the next one.
+    ColorDepth DepthOfDocument() const { return m_depthBefore.value_or(DefaultColorDepth); }
+
     /// Another window chose.
     void ForgetDepth() { m_depthBefore.reset(); }
     void ForgetResolution() { m_resolutionBefore.reset(); }

@@ -121,8 +121,8 @@ SaveReport CompileIconset(const CompileTarget& target)
     if (target.backUp)
         BackUp(target.path);
     const auto failure =
-        CompilePRC(resources, transparency, Palette8, Palette4, BitsOf(DefaultColorDepth),
-            UsePackbits, target.path, DatabaseName, WorkFolder() + platform::PathSeparator);
+        CompilePRC(resources, transparency, Palette8, Palette4, BitsOf(target.depth), UsePackbits,
+            target.path, DatabaseName, WorkFolder() + platform::PathSeparator);
     if (failure)
         throw SaveFailure(*failure);
     return report;

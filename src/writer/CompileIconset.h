@@ -1,6 +1,7 @@
 #pragma once
 
 #include "companion/PalmDatabase.h"
+#include "settings/ColorDepth.h"
 #include "writer/SaveFailure.h"
 #include "writer/SaveReport.h"
 
@@ -15,8 +16,9 @@ inline bool SavingAs = false;
 /// Where a compile writes. The command that begins it fills this in; nothing below reads FileName
 /// and SavingAs.
 struct CompileTarget {
-    std::string path;    ///< of the database (UTF-8)
-    bool backUp = false; ///< the file that stands there is kept under ".bak"
+    std::string path;                     ///< of the database (UTF-8)
+    bool backUp = false;                  ///< the file that stands there is kept under ".bak"
+    ColorDepth depth = DefaultColorDepth; ///< of the pictures
 };
 
 /// The target that the flags ask for: FileName, with a backup where CreateBackup is on and SavingAs

@@ -60,7 +60,7 @@ struct Form1::Parts {
         , loading(
               { form, *ui.TreeView1, panels, commands, status, notes }, ask, busy, watcher, icons)
         , documents({ form, panels, commands, status, notes }, ask, loading, icons, windows)
-        , saving({ form, commands, status, notes }, ask, icons, settings)
+        , saving({ form, commands, status, notes }, ask, icons, settings, windows)
         , session({ frame, form, panels, commands, views, notes, *ui.lblWorking }, ask, busy,
               settings, windows, documents)
         , keys(form, *ui.TreeView1, [this] { icons.RemoveSelected(); })

@@ -15,11 +15,13 @@ constexpr const char* NoImages = "Can't save. The iconset doesn't contain any im
 
 } // namespace
 
-Saving::Saving(const View& view, Ask& ask, IconCommands& icons, SavedSettings& settings)
+Saving::Saving(const View& view, Ask& ask, IconCommands& icons, SavedSettings& settings,
+    const SettingsWindows& windows)
     : m_view(view)
     , m_ask(ask)
     , m_icons(icons)
     , m_settings(settings)
+    , m_windows(windows)
 {
     view.commands.Connect(Command::Save, this, &Saving::SaveIconset);
     view.commands.Connect(Command::SaveAs, this, &Saving::SaveAs);
@@ -143,7 +145,9 @@ void Saving::TakeTargetFolder()
 bool Saving::Compile()
 {
     try {
-        const std::string note = NoteOf(CompileIconset(TargetFromFlags()));
+        CompileTarget target = TargetFromFlags();
+        target.depth = m_windows.DepthOfDocument();
+        const std::string note = NoteOf(CompileIconset(target));
         m_view.notes.SaveSucceeded();
         m_view.notes.Tell(Notes::Kind::Save, FromLatin1(note));
         return true;

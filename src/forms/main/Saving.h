@@ -5,6 +5,7 @@
 #include "forms/main/IconCommands.h"
 #include "forms/main/Notes.h"
 #include "forms/main/SavedSettings.h"
+#include "forms/main/SettingsWindows.h"
 #include "forms/main/StatusTexts.h"
 
 #include <QObject>
@@ -25,7 +26,8 @@ public:
         Notes& notes;
     };
 
-    Saving(const View& view, Ask& ask, IconCommands& icons, SavedSettings& settings);
+    Saving(const View& view, Ask& ask, IconCommands& icons, SavedSettings& settings,
+        const SettingsWindows& windows);
 
     /// Checks that the document can be saved, and saves it under its name or a new one.
     void SaveIconset();
@@ -44,6 +46,7 @@ private:
     Ask& m_ask;
     IconCommands& m_icons;
     SavedSettings& m_settings;
+    const SettingsWindows& m_windows;
 };
 
 } // namespace vypx

@@ -32,6 +32,8 @@ public:
     /// No document came of them: the open one keeps its depth and resolution.
     void TakeBackChoices();
 
+    /// Of the open document, while another one may be chosen for the next.
+    ColorDepth DepthOfDocument() const { return m_choices.DepthOfDocument(); }
     void ShowDepth();
     /// An iconset was opened or closed: the colour depth can only be changed without one.
     void ShowDepthLock();

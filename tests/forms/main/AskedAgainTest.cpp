@@ -267,5 +267,19 @@ TEST_F(AskedAgain, NewAsksAboutWhatOpenPassedWithoutAQuestion)
     EXPECT_EQ(DatabaseName, "Set");
 }
 
+TEST_F(AskedAgain, ASaveUnderTheDepthWindowKeepsTheDepthOfTheOpenDocument)
+{
+    WarnOverwrite = false;
+    Entry("mnuOpen").trigger();
+    Click("opt4Bit");
+
+    Entry("mnuSave").trigger();
+
+    const Bytes saved = ReadBytes(program.File("set.prc"));
+    const ByteView file(saved);
+    constexpr std::size_t OffsetOfFirst = 78 + 6, PixelSize = 8;
+    EXPECT_EQ(file.U8(file.U32(OffsetOfFirst) + PixelSize), 16);
+}
+
 } // namespace
 } // namespace vypx::test

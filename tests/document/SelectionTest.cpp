@@ -314,6 +314,16 @@ TEST_F(Selection, ClearingDropsMarkedRowsAndTheirNodes)
     EXPECT_FALSE(HasMarkedRows());
 }
 
+TEST_F(Selection, ARowWithoutAStateStaysInTheTree)
+{
+    Add("A (Large Icon)", "tAIB1", "a.bmp", "NEW");
+    IconTable[0].IconState.reset();
+
+    RebuildIconTree();
+
+    EXPECT_THAT(NodeKeys(), ElementsAre("A (Large Icon)"));
+}
+
 TEST_F(Selection, ClearingEverythingLeavesTheRootAndOneEmptyRow)
 {
     Add("A (Large Icon)", "tAIB1", "a.bmp", "NEW", "APP", 0);

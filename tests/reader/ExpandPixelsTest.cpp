@@ -53,6 +53,18 @@ TEST(CopyPixels, TakesRowsAsTheyStandAndRepeatsTheLastByteAsPad)
     EXPECT_EQ(RowOf(pixels, 1), Hex("04050606"));
 }
 
+TEST(CopyPixels, TheLastRowMayEndWithTheBytes)
+{
+    const Bytes bytes = Hex("FFFF 010203 040506"); // two bytes of a header before them
+
+    const PixelBuffer pixels =
+        CopyPixels({ .bytes = bytes, .start = 2, .rowBytes = 3, .height = 2 });
+
+    EXPECT_EQ(RowOf(pixels, 1), Hex("04050606"));
+    EXPECT_THROW(
+        CopyPixels({ .bytes = bytes, .start = 3, .rowBytes = 3, .height = 2 }), BrokenFile);
+}
+
 TEST(CopyPixels, PadsRowsToAMultipleOfFour)
 {
     EXPECT_EQ(PixelBuffer(30, 1).RowPad(), 2);

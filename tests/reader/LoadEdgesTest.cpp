@@ -134,6 +134,9 @@ TEST_F(LoadEdges, AnIndexOfBrokenLengthIsToldAndNamesNobody)
         LoadResult::Opened);
 
     EXPECT_THAT(listener.messages, ElementsAre("Error reading iTbl"));
+    for (const IconRow& row : IconTable)
+        EXPECT_EQ(row.IconLabel.find("Alpha"), std::string::npos) << row.IconLabel;
+    EXPECT_TRUE(Tree.Nodes().empty()) << "without any index the walk ends at the first use of it";
 }
 
 /// A record's rows end where the buffer ends: five columns behind the padded row.

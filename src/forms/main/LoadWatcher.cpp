@@ -43,11 +43,13 @@ void LoadWatcher::End()
 QString LoadWatcher::WhatWasNotShown() const
 {
     QStringList sentences;
-    for (const auto& [kind, told] : m_told)
-        if (told.times > MostBoxesOfOneText)
-            sentences << tr("%1 more messages: %2")
-                             .arg(told.times - MostBoxesOfOneText)
+    for (const auto& [kind, told] : m_told) {
+        const int more = told.times - MostBoxesOfOneText;
+        if (more > 0)
+            sentences << (more == 1 ? tr("1 more message: %1")
+                                    : tr("%1 more messages: %2").arg(more))
                              .arg(FromLatin1(told.last));
+    }
     return sentences.join('\n');
 }
 

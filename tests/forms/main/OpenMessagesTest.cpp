@@ -181,6 +181,22 @@ TEST_F(OpenMessages, BrokenChainsOfManyPicturesShowThreeBoxes)
         Find<QLabel>("lblNote").text(), "7 more messages: Error parsing file following tAIB3509.");
 }
 
+TEST_F(OpenMessages, OneMessageMoreIsToldAsOne)
+{
+    std::vector<Resource> resources;
+    for (int id = 3500; id < 3504; ++id) {
+        resources.push_back(Picture(id));
+        PutU16(resources.back().data, 10, 0x4000);
+    }
+    for (int box = 0; box < 3; ++box)
+        ask.Answer(QMessageBox::Ok);
+
+    Open(Written(Iconset{ .resources = resources }.File()));
+
+    EXPECT_EQ(
+        Find<QLabel>("lblNote").text(), "1 more message: Error parsing file following tAIB3503.");
+}
+
 TEST_F(OpenMessages, ARefusedFileOffersNothingOfTheDocumentBefore)
 {
     Open(

@@ -3,6 +3,7 @@
 #include "companion/Rgb.h"
 
 #include <cstdint>
+#include <optional>
 #include <stdexcept>
 #include <vector>
 
@@ -57,6 +58,13 @@ private:
 
     int m_width = 0, m_height = 0;
     std::vector<std::uint8_t> m_bytes;
+};
+
+/// A picture of which some pixels may be transparent: all those of the colour `transparent`, which no
+/// opaque pixel has. Empty: all are opaque.
+struct MaskedPicture {
+    Picture pixels;
+    std::optional<Rgb> transparent{};
 };
 
 } // namespace vypx

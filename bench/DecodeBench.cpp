@@ -9,6 +9,7 @@
 #include "companion/BmpFile.h"
 #include "companion/NearestColour.h"
 #include "companion/PixelLibrary.h"
+#include "companion/WorkingFile.h"
 #include "document/Document.h"
 #include "document/WorkingFolder.h"
 #include "platform/Platform.h"

@@ -1,9 +1,6 @@
 #include "companion/BmpFile.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <filesystem>
-#include <fstream>
 #include <stdexcept>
 
 namespace vypx {
@@ -90,13 +87,6 @@ void SwapEnds(const std::uint8_t* from, std::uint8_t* to, int pixels)
     }
 }
 
-/// Why the last operation on a stream failed.
-std::error_code LastError()
-{
-    return errno != 0 ? std::error_code(errno, std::generic_category())
-                      : std::make_error_code(std::errc::io_error);
-}
-
 } // namespace
 
 BmpBytes::BmpBytes(int width, int height, int bits, Palette colours)
@@ -166,26 +156,6 @@ std::optional<Picture> DecodeBmp(ByteView file)
         }
     }
     return picture;
-}
-
-std::error_code WriteWorkingFile(const std::string& path, const Bytes& bytes)
-{
-    errno = 0;
-    std::ofstream file;
-    file.rdbuf()->pubsetbuf(nullptr, 0); // one write
-    const std::u8string utf8(path.begin(), path.end());
-    file.open(std::filesystem::path(utf8), std::ios::binary | std::ios::trunc);
-    if (!file)
-        return LastError();
-    file.write(
-        reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-    file.close();
-    if (file)
-        return {};
-    const std::error_code error = LastError();
-    std::error_code ignored;
-    std::filesystem::remove(std::filesystem::path(utf8), ignored); // half of it is no picture
-    return error;
 }
 
 } // namespace vypx

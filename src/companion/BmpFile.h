@@ -5,9 +5,6 @@
 #include "companion/Picture.h"
 
 #include <optional>
-#include <span>
-#include <string>
-#include <system_error>
 
 /// Windows BMP files, as working files and exports are: uncompressed, rows from the bottom, each
 /// padded to 4 bytes. Little-endian:
@@ -56,9 +53,5 @@ Bytes EncodeBmp24(const Picture& picture);
 /// Reads what the above writes, at 4, 8 and 24 bits. Empty for anything else, and for a file that
 /// is shorter than its header says.
 std::optional<Picture> DecodeBmp(ByteView file);
-
-/// Writes a working file in one go: open, write, close. After a failure, which the result names,
-/// the file does not appear.
-std::error_code WriteWorkingFile(const std::string& path, const Bytes& bytes);
 
 } // namespace vypx

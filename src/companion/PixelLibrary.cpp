@@ -2,6 +2,7 @@
 
 #include "companion/BmpFile.h"
 #include "companion/NearestColour.h"
+#include "companion/WorkingFile.h"
 
 #include <array>
 #include <optional>

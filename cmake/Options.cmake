@@ -1,4 +1,5 @@
 option(VYPX_FORMS "Build the windows and the program (needs Qt 6)" ON)
+option(VYPX_PICTURES "Read pictures of all formats (needs Qt 6); else only our own BMP files" ON)
 option(VYPX_TESTS "Build the tests" ON)
 option(VYPX_BENCHMARKS "Build the benchmarks" ON)
 option(VYPX_SANITIZE "AddressSanitizer and UndefinedBehaviorSanitizer, both fatal" OFF)

@@ -3,9 +3,11 @@
 build_packages=(
     g++ cmake ninja-build qt6-base-dev libcli11-dev nlohmann-json3-dev
     libgtest-dev libgmock-dev libbenchmark-dev librapidcheck-dev
+    qt6-image-formats-plugins
 )
 test_packages=(
     clang clang-format libclang-rt-14-dev netpbm libpalm-pdb-perl g++-mingw-w64-x86-64-posix
+    imagemagick
 )
 screen_packages=(xvfb openbox fonts-dejavu-core imagemagick x11-utils xdotool)
 

@@ -22,8 +22,8 @@ struct LoadedPicture {
 /// opaque throughout. Transparent pixels get a colour that no other pixel has: 255, 0, 255, or the
 /// next free one.
 ///
-/// Up to 32,767 pixels a side and 400 million bytes as decoded: 100 million pixels, 50 million where
-/// one takes 8 bytes or the file is a progressive JPEG. Nothing throws.
+/// Up to 32,767 pixels a side and 400 million bytes as decoded: 100 million pixels, 50 million
+/// where one takes 8 bytes or the file is a progressive JPEG. Nothing throws.
 LoadedPicture LoadPicture(const std::string& path);
 
 /// Pixels that the file's header claims, without decoding it; 0 when they can't be told.

@@ -1,0 +1,176 @@
+#include "pictures/PictureLoader.h"
+
+#include "pictures/PictureFormats.h"
+#include "pictures/PixelCopy.h"
+#include "platform/Platform.h"
+
+#include <QFile>
+#include <QImageReader>
+#include <algorithm>
+#include <filesystem>
+#include <new>
+#include <sstream>
+
+namespace vypx {
+
+namespace {
+
+constexpr std::int64_t MostPixelBytes = 400'000'000;
+constexpr int LeastPixelBytes = 4;
+constexpr std::int64_t MostSidePixels = 32'767;
+constexpr std::int64_t MostFileBytes = 1'000'000'000;
+
+constexpr const char* NoPicture = "it is no picture that can be read here";
+constexpr const char* Broken = "its data are broken";
+
+/// An open picture file.
+struct PictureSource {
+    QFile file;
+    const PictureFormat* format = nullptr;
+    HeaderClaim claim{};
+
+    QByteArray FormatName() const { return format->qtName; }
+};
+
+/// Why a file of this path can't be opened as a picture; empty: it can.
+std::string WhyNotOpened(const std::string& path)
+{
+    std::error_code error;
+    const std::filesystem::file_status status =
+        std::filesystem::status(platform::NativePath(path), error);
+    if (!std::filesystem::exists(status))
+        return "it is not there";
+    if (std::filesystem::is_directory(status))
+        return "it is a folder";
+    // Others than files, as pipes and devices, may never give an end.
+    return std::filesystem::is_regular_file(status) ? "" : NoPicture;
+}
+
+/// What Qt's reader tells of the header, where our own look at it hasn't told the sides.
+void CompleteClaim(PictureSource& source)
+{
+    source.file.seek(0);
+    QImageReader reader(&source.file, source.FormatName());
+    reader.setAutoDetectImageFormat(false);
+    const QSize size = reader.size();
+    if (source.claim.width == 0 && !size.isEmpty()) {
+        source.claim.width = size.width();
+        source.claim.height = size.height();
+    }
+    const QImage::Format pixels = reader.imageFormat();
+    if (pixels != QImage::Format_Invalid)
+        source.claim.pixelBytes =
+            std::max(source.claim.pixelBytes, QImage::toPixelFormat(pixels).bitsPerPixel() / 8);
+    source.file.seek(0);
+}
+
+std::string WhyTooLarge(const HeaderClaim& claim)
+{
+    constexpr std::int64_t Million = 1'000'000;
+    if (claim.width > MostSidePixels || claim.height > MostSidePixels)
+        return "it is wider or higher than 32767 pixels";
+    const std::int64_t most = MostPixelBytes / std::max(claim.pixelBytes, LeastPixelBytes);
+    if (claim.width * claim.height > most)
+        return "it has more than " + std::to_string(most / Million) + " million pixels";
+    return {};
+}
+
+/// Opens the file and looks at its header. Returns why the picture can't be loaded; empty: it can,
+/// as far as the header tells.
+std::string Open(PictureSource& source, const std::string& path)
+{
+    if (std::string whyNot = WhyNotOpened(path); !whyNot.empty())
+        return whyNot;
+    source.file.setFileName(QString::fromUtf8(path.data(), static_cast<qsizetype>(path.size())));
+    if (!source.file.open(QIODevice::ReadOnly))
+        return "it can't be opened";
+    if (source.file.size() > MostFileBytes)
+        return "it has more than 1000 MB";
+    source.format = FormatOf(source.file);
+    if (!source.format)
+        return NoPicture;
+    if (source.format->claim) {
+        FileBytes bytes(source.file);
+        source.claim = source.format->claim(bytes);
+    }
+    if (!source.claim.whyNot.empty())
+        return source.claim.whyNot;
+    CompleteClaim(source);
+    return WhyTooLarge(source.claim);
+}
+
+LoadedPicture Load(const std::string& path)
+{
+    PictureSource source;
+    if (std::string whyNot = Open(source, path); !whyNot.empty())
+        return { {}, std::move(whyNot) };
+
+    QImage image;
+    QImageIOHandler::Transformations turn;
+    {
+        QImageReader reader(&source.file, source.FormatName());
+        reader.setAutoDetectImageFormat(false);
+        reader.setAutoTransform(false); // the copy turns it: no second picture is needed
+        turn = reader.transformation();
+        if (!reader.read(&image))
+            return { {}, Broken };
+    }
+    source.file.close();
+    // A frame can be larger than the header said.
+    const HeaderClaim decoded{
+        .width = image.width(), .height = image.height(), .pixelBytes = image.depth() / 8
+    };
+    if (std::string whyNot = WhyTooLarge(decoded); !whyNot.empty())
+        return { {}, std::move(whyNot) };
+    return { CopyPixels(std::move(image), turn), {} };
+}
+
+/// Qt's readers refuse more than this many MiB for a picture at 4 bytes a pixel or more.
+void RaiseQtsLimit()
+{
+    constexpr int MostMiB = static_cast<int>(MostPixelBytes >> 20) + 1;
+    if (QImageReader::allocationLimit() < MostMiB)
+        QImageReader::setAllocationLimit(MostMiB);
+}
+
+} // namespace
+
+LoadedPicture LoadPicture(const std::string& path)
+{
+    try {
+        RaiseQtsLimit();
+        return Load(path);
+    } catch (const BrokenFile&) {
+        return { {}, Broken };
+    } catch (const std::bad_alloc&) {
+        return { {}, "there is not enough memory" };
+    }
+}
+
+std::int64_t PixelsClaimed(const std::string& path)
+{
+    try {
+        PictureSource source;
+        Open(source, path);
+        return source.claim.width * source.claim.height;
+    } catch (const BrokenFile&) {
+        return 0;
+    }
+}
+
+std::vector<std::string> PictureEndings()
+{
+    const QList<QByteArray> readable = QImageReader::supportedImageFormats();
+    std::vector<std::string> endings;
+    for (const PictureFormat& format : PictureFormats()) {
+        if (!readable.contains(format.qtName))
+            continue;
+        std::istringstream words{ std::string(format.endings) };
+        for (std::string ending; words >> ending;)
+            endings.push_back(ending);
+    }
+    std::sort(endings.begin(), endings.end());
+    return endings;
+}
+
+} // namespace vypx

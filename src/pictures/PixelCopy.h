@@ -1,0 +1,15 @@
+#pragma once
+
+#include "companion/Picture.h"
+
+#include <QImage>
+#include <QImageIOHandler>
+
+namespace vypx {
+
+/// The pixels of a decoded picture in sRGB with 8 bits a component, turned as told, with a colour
+/// for the transparent ones. The image is given up, so that what the copy needs beside it is never
+/// more than the three bytes of each pixel. Throws std::bad_alloc.
+MaskedPicture CopyPixels(QImage image, QImageIOHandler::Transformations turn);
+
+} // namespace vypx

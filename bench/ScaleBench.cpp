@@ -1,4 +1,5 @@
-// ScaleImg from 8000 x 8000 to 64 x 44 against a bare loop that averages the same areas.
+// ScaleImg from 8000 x 8000 to 64 x 44 against a bare loop that averages the same areas; and with a
+// transparent colour against without.
 
 #include "companion/ScaleImg.h"
 
@@ -34,6 +35,17 @@ void Scale(benchmark::State& state)
     }
 }
 
+void ScaleMasked(benchmark::State& state)
+{
+    Picture target(Width, Height);
+    Source();
+    for (auto _ : state) {
+        ScaleImg(Source(), target, Side, Side, Width, Height,
+            { .transparent = Source().At(0, 0), .depth = 8 });
+        benchmark::DoNotOptimize(target.At(3, 3));
+    }
+}
+
 void BareAverage(benchmark::State& state)
 {
     Picture target(Width, Height);
@@ -63,6 +75,7 @@ void BareAverage(benchmark::State& state)
 
 BENCHMARK(BareAverage)->Unit(benchmark::kMillisecond);
 BENCHMARK(Scale)->Unit(benchmark::kMillisecond);
+BENCHMARK(ScaleMasked)->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace vypx

@@ -1,6 +1,10 @@
 #include "companion/ScaleImg.h"
 
+#include "support/Netpbm.h"
+#include "support/TempFolder.h"
+
 #include <gtest/gtest.h>
+#include <random>
 #include <rapidcheck/gtest.h>
 
 namespace vypx::test {
@@ -170,6 +174,31 @@ TEST(ScaleImg, SizesThatThePicturesDoNotHaveDoNothing)
     ScaleImg(source, target, 2, 1, 1, -1);
 
     EXPECT_EQ(target, Picture(2, 2));
+}
+
+TEST(ScaleImg, ShrinksAsNetpbmDoes)
+{
+    SKIP_WITHOUT_NETPBM();
+    const TempFolder folder;
+    const std::string path = folder.File("source.ppm");
+    std::mt19937 random(7);
+    const struct {
+        int width, height, newWidth, newHeight;
+    } sizes[] = { { 64, 44, 32, 22 }, { 63, 43, 31, 21 }, { 30, 22, 15, 11 }, { 29, 17, 28, 5 },
+        { 200, 131, 64, 44 }, { 97, 89, 97, 13 }, { 7, 300, 1, 44 } };
+
+    for (const auto& size : sizes) {
+        Picture source(size.width, size.height);
+        for (int y = 0; y < size.height; ++y)
+            for (int i = 0; i < size.width * 3; ++i)
+                source.Row(y)[i] = static_cast<std::uint8_t>(random());
+        WritePpm(path, source);
+
+        EXPECT_EQ(Scaled(source, size.newWidth, size.newHeight),
+            PictureFrom("pamscale -linear -xsize=" + std::to_string(size.newWidth)
+                + " -ysize=" + std::to_string(size.newHeight) + " '" + path + "'"))
+            << size.width << " x " << size.height;
+    }
 }
 
 RC_GTEST_PROP(ScaleImg, AFlatPictureStaysFlatAtAnySize, ())

@@ -1,5 +1,7 @@
 #include "companion/BmpFile.h"
 
+#include "companion/WorkingFile.h"
+
 #include <algorithm>
 #include <stdexcept>
 
@@ -9,6 +11,7 @@ namespace {
 
 constexpr std::size_t HeaderSize = 54;
 constexpr std::uint64_t MaxFileSize = 1u << 30;
+constexpr std::size_t MostPiece = 256u << 10;  // bytes of rows in one write
 constexpr std::uint32_t PixelsPerMetre = 2835; // 72 dpi
 
 std::uint64_t RowSizeOf(std::int64_t width, int bits)
@@ -89,35 +92,43 @@ void SwapEnds(const std::uint8_t* from, std::uint8_t* to, int pixels)
 
 } // namespace
 
-BmpBytes::BmpBytes(int width, int height, int bits, Palette colours)
-    : m_height(height)
-    , m_pixels(HeaderSize + colours.size() * 4)
-    , m_rowSize(RowSizeOf(width, bits))
+Bytes BmpHeader(int width, int height, int bits, Palette colours)
 {
     if (width < 1 || height < 1 || width > Picture::MaxSide || height > Picture::MaxSide)
         throw std::length_error("sides of a BMP");
-    const std::uint64_t size = m_pixels + m_rowSize * static_cast<std::uint64_t>(height);
+    const std::size_t pixels = HeaderSize + colours.size() * 4;
+    const std::uint64_t size = pixels + RowSizeOf(width, bits) * static_cast<std::uint64_t>(height);
     if (size > MaxFileSize)
         throw std::length_error("size of a BMP");
-    m_file.resize(size);
-    m_file[0] = 'B';
-    m_file[1] = 'M';
-    PutLittle(m_file, 2, static_cast<std::uint32_t>(size), 4);
-    PutLittle(m_file, 10, static_cast<std::uint32_t>(m_pixels), 4);
-    PutLittle(m_file, 14, 40, 4);
-    PutLittle(m_file, 18, static_cast<std::uint32_t>(width), 4);
-    PutLittle(m_file, 22, static_cast<std::uint32_t>(height), 4);
-    PutLittle(m_file, 26, 1, 2);
-    PutLittle(m_file, 28, static_cast<std::uint32_t>(bits), 2);
-    PutLittle(m_file, 34, static_cast<std::uint32_t>(size - m_pixels), 4);
-    PutLittle(m_file, 38, PixelsPerMetre, 4);
-    PutLittle(m_file, 42, PixelsPerMetre, 4);
-    PutLittle(m_file, 46, static_cast<std::uint32_t>(colours.size()), 4);
+    Bytes header(pixels);
+    header[0] = 'B';
+    header[1] = 'M';
+    PutLittle(header, 2, static_cast<std::uint32_t>(size), 4);
+    PutLittle(header, 10, static_cast<std::uint32_t>(pixels), 4);
+    PutLittle(header, 14, 40, 4);
+    PutLittle(header, 18, static_cast<std::uint32_t>(width), 4);
+    PutLittle(header, 22, static_cast<std::uint32_t>(height), 4);
+    PutLittle(header, 26, 1, 2);
+    PutLittle(header, 28, static_cast<std::uint32_t>(bits), 2);
+    PutLittle(header, 34, static_cast<std::uint32_t>(size - pixels), 4);
+    PutLittle(header, 38, PixelsPerMetre, 4);
+    PutLittle(header, 42, PixelsPerMetre, 4);
+    PutLittle(header, 46, static_cast<std::uint32_t>(colours.size()), 4);
     for (std::size_t i = 0; i < colours.size(); ++i) {
-        m_file[HeaderSize + i * 4] = static_cast<std::uint8_t>(colours[i].blue);
-        m_file[HeaderSize + i * 4 + 1] = static_cast<std::uint8_t>(colours[i].green);
-        m_file[HeaderSize + i * 4 + 2] = static_cast<std::uint8_t>(colours[i].red);
+        header[HeaderSize + i * 4] = static_cast<std::uint8_t>(colours[i].blue);
+        header[HeaderSize + i * 4 + 1] = static_cast<std::uint8_t>(colours[i].green);
+        header[HeaderSize + i * 4 + 2] = static_cast<std::uint8_t>(colours[i].red);
     }
+    return header;
+}
+
+BmpBytes::BmpBytes(int width, int height, int bits, Palette colours)
+    : m_height(height)
+    , m_rowSize(RowSizeOf(width, bits))
+    , m_file(BmpHeader(width, height, bits, colours))
+{
+    m_pixels = m_file.size();
+    m_file.resize(m_pixels + m_rowSize * static_cast<std::size_t>(height));
 }
 
 std::uint8_t* BmpBytes::Row(int y)
@@ -131,6 +142,29 @@ Bytes EncodeBmp24(const Picture& picture)
     for (int y = 0; y < picture.Height(); ++y)
         SwapEnds(picture.Row(y), bmp.Row(y), picture.Width());
     return bmp.File();
+}
+
+std::error_code WriteBmp24InPieces(
+    const Picture& picture, int width, int height, const std::string& path)
+{
+    Bytes piece = BmpHeader(width, height, 24);
+    const std::size_t header = piece.size(), rowSize = RowSizeOf(width, 24);
+    const std::size_t rows =
+        std::clamp<std::size_t>(MostPiece / rowSize, 1, static_cast<std::size_t>(height));
+    piece.resize(header + rows * rowSize); // the ends of rows are 0 and stay so
+
+    NewWorkingFile file(path);
+    std::size_t begin = 0, end = header; // the first one has the header
+    for (int y = height; y-- > 0;) {
+        SwapEnds(picture.Row(y), piece.data() + end, width);
+        end += rowSize;
+        if (end < piece.size() && y > 0)
+            continue;
+        if (!file.Write({ piece.data() + begin, end - begin }))
+            break;
+        begin = end = header;
+    }
+    return file.Close();
 }
 
 std::optional<Picture> DecodeBmp(ByteView file)

@@ -5,6 +5,8 @@
 #include "companion/Picture.h"
 
 #include <optional>
+#include <string>
+#include <system_error>
 
 /// Windows BMP files, as working files and exports are: uncompressed, rows from the bottom, each
 /// padded to 4 bytes. Little-endian:
@@ -29,11 +31,14 @@
 /// Source: Microsoft, "Bitmap Storage" (BITMAPFILEHEADER, BITMAPINFOHEADER).
 namespace vypx {
 
+/// What stands before the pixels. `bits` is 4, 8 or 24; `colours` the table at 4 and 8. Throws
+/// std::length_error for sides below 1 or a file of more than 1 GiB.
+Bytes BmpHeader(int width, int height, int bits, Palette colours = {});
+
 /// A BMP in the making: the header stands, the pixels are 0.
 class BmpBytes {
 public:
-    /// `bits` is 4, 8 or 24; `colours` the table at 4 and 8. Throws std::length_error for sides
-    /// below 1 or a file of more than 1 GiB.
+    /// As BmpHeader.
     BmpBytes(int width, int height, int bits, Palette colours = {});
 
     /// The row's bytes without padding; `y` counts from the top.
@@ -43,12 +48,18 @@ public:
 
 private:
     int m_height;
-    std::size_t m_pixels, m_rowSize;
+    std::size_t m_rowSize, m_pixels = 0;
     Bytes m_file;
 };
 
 /// A picture as a 24-bit BMP.
 Bytes EncodeBmp24(const Picture& picture);
+
+/// Writes the upper left part of a picture, which has it, as a 24-bit BMP: some rows at a time, so
+/// that a large picture needs no room for a second one. Throws as BmpHeader does, before there is a
+/// file; the result is NewWorkingFile's.
+std::error_code WriteBmp24InPieces(
+    const Picture& picture, int width, int height, const std::string& path);
 
 /// Reads what the above writes, at 4, 8 and 24 bits. Empty for anything else, and for a file that
 /// is shorter than its header says.

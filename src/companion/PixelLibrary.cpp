@@ -5,7 +5,7 @@
 #include "companion/WorkingFile.h"
 
 #include <array>
-#include <optional>
+#include <new>
 #include <stdexcept>
 
 namespace vypx {
@@ -30,21 +30,29 @@ void Put(std::uint8_t* out, Bgr pixel)
     out[2] = pixel.red;
 }
 
-/// Makes a BMP of that size, has its pixels filled and writes it.
-template <typename Fill>
-std::error_code WriteBmp(
-    int width, int height, int bits, Palette colours, const std::string& path, const Fill& fill)
+/// What a file can't be made of is told, as failures of the file are.
+template <typename Write>
+std::error_code Told(const Write& write)
 {
-    std::optional<BmpBytes> bmp;
     try {
-        bmp.emplace(width, height, bits, colours);
+        return write();
     } catch (const std::length_error&) {
         return NoPicture();
     } catch (const std::bad_alloc&) {
         return std::make_error_code(std::errc::not_enough_memory);
     }
-    fill(*bmp);
-    return WriteWorkingFile(path, bmp->File());
+}
+
+/// Makes a BMP of that size, has its pixels filled and writes it.
+template <typename Fill>
+std::error_code WriteBmp(
+    int width, int height, int bits, Palette colours, const std::string& path, const Fill& fill)
+{
+    return Told([&] {
+        BmpBytes bmp(width, height, bits, colours);
+        fill(bmp);
+        return WriteWorkingFile(path, bmp.File());
+    });
 }
 
 /// Writes the pixels at `depth` bits as a 24-bit BMP; `fillRow(in, out)` turns a row.
@@ -226,14 +234,7 @@ std::error_code WriteBmp24(const Picture& picture, int width, int height, const 
 {
     if (width > picture.Width() || height > picture.Height())
         return NoPicture();
-    return WriteBmp(width, height, 24, {}, path, [&](BmpBytes& bmp) {
-        for (int y = 0; y < height; ++y) {
-            const std::uint8_t* in = picture.Row(y);
-            std::uint8_t* out = bmp.Row(y);
-            for (int x = 0; x < width; ++x, in += 3, out += 3)
-                Put(out, { in[2], in[1], in[0] });
-        }
-    });
+    return Told([&] { return WriteBmp24InPieces(picture, width, height, path); });
 }
 
 } // namespace vypx

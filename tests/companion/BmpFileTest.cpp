@@ -5,6 +5,11 @@
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
+#include <random>
+#ifndef _WIN32
+#include <csignal>
+#include <sys/resource.h>
+#endif
 
 namespace vypx::test {
 
@@ -121,6 +126,13 @@ TEST(BmpFile, PicturesAreEqualByTheirSidesAndPixels)
     EXPECT_NE(one, Picture(1, 2)) << "of as many pixels";
 }
 
+TEST(BmpFile, HasAtMostAGiB)
+{
+    // Rows of 53,688 bytes, of which 19,999 and the header are 35,458 bytes less than that.
+    EXPECT_EQ(BmpHeader(17895, 19999, 24).size(), 54u);
+    EXPECT_THROW(BmpHeader(17895, 20000, 24), std::length_error);
+}
+
 /// Too large for a file, and a picture that is not so large.
 TEST(BmpFile, WhatCannotBeMadeDoesNotAppear)
 {
@@ -139,6 +151,78 @@ TEST(BmpFile, WhatCannotBeMadeDoesNotAppear)
     WriteBmp4(picture, Palette4, 3, 2, path);
     EXPECT_EQ(DecodeBmp(ReadBytes(path)), picture);
 }
+
+/// A picture whose rows are written in several pieces, each row padded by a byte.
+Picture Tall()
+{
+    Picture picture(301, 900);
+    std::mt19937 random(2);
+    for (int y = 0; y < picture.Height(); ++y)
+        for (int i = 0; i < picture.Width() * 3; ++i)
+            picture.Row(y)[i] = static_cast<std::uint8_t>(random());
+    return picture;
+}
+
+TEST(BmpFile, WrittenInPiecesIsTheFileMadeAtOnce)
+{
+    const TempFolder folder;
+    const std::string path = folder.File("out.bmp");
+    const Picture picture = Tall();
+
+    EXPECT_FALSE(WriteBmp24(picture, 301, 900, path));
+    EXPECT_EQ(ReadBytes(path), EncodeBmp24(picture));
+
+    EXPECT_FALSE(WriteBmp24(picture, 300, 899, path));
+    EXPECT_EQ(ReadBytes(path).size(), 54u + 900 * 899) << "a part of it";
+    EXPECT_EQ(DecodeBmp(ReadBytes(path))->At(299, 898), picture.At(299, 898));
+}
+
+TEST(BmpFile, TheLongestRowsAreWrittenOneByOne)
+{
+    const TempFolder folder;
+    const std::string path = folder.File("out.bmp");
+    Picture picture(65535, 3); // 192 KiB to a row
+    picture.Set(65534, 0, Red);
+    picture.Set(0, 2, Blue);
+
+    EXPECT_FALSE(WriteBmp24(picture, 65535, 3, path));
+
+    EXPECT_EQ(ReadBytes(path), EncodeBmp24(picture));
+}
+
+#ifndef _WIN32
+/// Lets this process write no file longer than that.
+class LongestFile {
+public:
+    explicit LongestFile(rlim_t bytes)
+    {
+        ::getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limit{ .rlim_cur = bytes, .rlim_max = m_before.rlim_max };
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~LongestFile()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+
+private:
+    rlimit m_before{};
+    void (*m_handler)(int) = std::signal(SIGXFSZ, SIG_IGN);
+};
+
+TEST(BmpFile, ADiskThatFillsUpBetweenPiecesLeavesNoFile)
+{
+    const TempFolder folder;
+    const std::string path = folder.File("out.bmp");
+    {
+        const LongestFile limit(600'000); // of 813,654
+        EXPECT_EQ(WriteBmp24(Tall(), 301, 900, path), std::errc::file_too_large);
+    }
+
+    EXPECT_FALSE(std::filesystem::exists(path));
+}
+#endif
 
 } // namespace
 } // namespace vypx::test

@@ -1,6 +1,7 @@
 #include "document/Document.h"
 
 #include "document/IconStats.h"
+#include "document/PictureState.h"
 #include "document/SettingsFile.h"
 
 namespace vypx {
@@ -46,6 +47,7 @@ void ResetDocument()
     TransparentUse = true;
     R = G = 0;
     B = 255;
+    ResetPictureState();
     ResetCounters();
     SettingsSaved = false;
 }
@@ -55,6 +57,7 @@ void ClearSlots()
     HighResPath.clear();
     LowResPath.clear();
     LGloaded = SMloaded = false;
+    ForgetUndo();
 }
 
 std::optional<std::size_t> FindIconRow(std::string_view label)

@@ -101,7 +101,7 @@ void ResetDocument();
 /// window and the next load stays, IconsetChanged too.
 void ForgetDocument();
 
-/// No picture is on show, as when a document begins or ends.
+/// No picture is on show and none can be brought back, as when a document begins or ends.
 void ClearSlots();
 
 /// Index of the first row with that label. An empty label is no row's.

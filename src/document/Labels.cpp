@@ -51,6 +51,20 @@ std::optional<SizeClass> SizeToImport(std::string_view label)
     return std::nullopt;
 }
 
+bool SaysIconOf(SizeClass size, std::string_view label)
+{
+    const std::string_view suffix = SuffixOf(size);
+    return LabelHolds(label, suffix.substr(2, suffix.size() - 3)); // "Large Icon"
+}
+
+std::optional<SizeClass> SizeOfIconInLabel(std::string_view label)
+{
+    for (const SizeClass size : { SizeClass::Small, SizeClass::Large })
+        if (SaysIconOf(size, label))
+            return size;
+    return std::nullopt;
+}
+
 bool CountsAs(SizeClass size, std::string_view label)
 {
     const std::string_view suffix = SuffixOf(size);

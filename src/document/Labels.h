@@ -29,6 +29,11 @@ bool NamesItsResource(std::string_view label);
 /// The size class by which pictures are measured: the label holds "Large" or "Small". One that
 /// holds both is small. Empty: the icon takes no pictures.
 std::optional<SizeClass> SizeToImport(std::string_view label);
+/// Whether the label holds "Large Icon" or "Small Icon".
+bool SaysIconOf(SizeClass size, std::string_view label);
+/// The size class that the label says so. One that says both is small. Empty: a label of the
+/// launcher or of an unknown icon, which takes pictures of a size that was kept.
+std::optional<SizeClass> SizeOfIconInLabel(std::string_view label);
 /// Whether the label counts as an icon of that size: it holds "(Large Icon" or "(Small Icon".
 bool CountsAs(SizeClass size, std::string_view label);
 /// Whether pictures under the label count: it holds "(Large Icon)" or "(Small Icon)".

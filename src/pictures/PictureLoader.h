@@ -1,6 +1,6 @@
 #pragma once
 
-#include "companion/Picture.h"
+#include "companion/LoadedPicture.h"
 
 #include <cstdint>
 #include <string>
@@ -9,12 +9,6 @@
 /// Picture files from outside, read by content and never by their ending: BMP, GIF, ICO, JPEG, PNG,
 /// PNM, TIFF, WebP, XBM and XPM, as far as this system has readers for them.
 namespace vypx {
-
-/// A picture, or why there is none.
-struct LoadedPicture {
-    MaskedPicture picture; ///< null pixels after a failure
-    std::string whyNot;    ///< in words for the user, without a full stop; empty after a success
-};
 
 /// Loads the first picture of a file (UTF-8 path): the first frame of an animation, turned as its
 /// orientation tag says, in sRGB with 8 bits a component. A pixel with an alpha below 128 is

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "companion/LoadedPicture.h"
+#include "companion/Rgb.h"
+#include "document/Command.h"
+#include "document/Slot.h"
+#include "settings/ColorDepth.h"
+
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace vypx {
+
+/// Whoever has a picture changed: the main form, the command-line tool, a test. It asks, loads and
+/// shows; what is done is decided here. Calls come in the order of the steps. What it does not care
+/// for it leaves out.
+class PictureHost {
+public:
+    virtual ~PictureHost() = default;
+
+    /// Path of the picture file that the user chose (UTF-8); empty when the dialog was cancelled.
+    virtual std::string ChoosePicture() { return {}; }
+    virtual LoadedPicture Load(const std::string& path) = 0;
+    /// The depth at which pictures of the open document are stored.
+    virtual ColorDepth Depth() const { return DefaultColorDepth; }
+
+    /// A box with this text and an OK button; no title of its own where `title` is empty.
+    virtual void Message(std::string_view text, std::string_view title) = 0;
+    /// What went wrong without a box, in words for the user (UTF-8).
+    virtual void Note(const std::string& text) = 0;
+    /// LastDirImageLoad has a new value from a dialog: time to write the settings.
+    virtual void FolderRemembered() { }
+
+    virtual void Enable(std::span<const Command>, bool) { }
+    /// The panel shows the transparent colour, and that there is one.
+    virtual void ShowColour(const Slot&, Rgb) { }
+    /// The panel is told of no picture any more: picture, size, colour and swatch go.
+    virtual void ClearPanel(const Slot&) { }
+    virtual void Draw(const Slot&) { }
+    /// The scratch picture waits to be cut to the slot's size.
+    virtual void ShowCrop(const Slot&) { }
+    /// The icons were counted anew.
+    virtual void StatsChanged() { }
+};
+
+/// A file of the document can't be read or written, so a change of a picture did not take place.
+/// The words are for the user (UTF-8). Whoever began the command tells them; the document stays
+/// usable.
+class PictureFault : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+} // namespace vypx

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "imaging/PictureHost.h"
+
+namespace vypx {
+
+/// Before an import: notes whether the slot holds a picture, which file an undo will go back to,
+/// and keeps that file's content under ".bak". One step is kept for each slot. Throws PictureFault.
+void KeepForUndo(const Slot& slot);
+
+/// Takes the slot's picture from the selected icon and all that share its resource; the working
+/// file stays, and its ".bak" is made. Throws PictureFault, and nothing is deleted then.
+void DeleteImage(const Slot& slot, PictureHost& host);
+
+/// Takes the slot's last import or deletion back. On purpose: it neither sets nor clears
+/// IconsetChanged, and a picture that comes back is not drawn before the next selection. Throws
+/// PictureFault, and nothing is undone then.
+void UndoChange(const Slot& slot, PictureHost& host);
+
+} // namespace vypx

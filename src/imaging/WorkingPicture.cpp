@@ -1,0 +1,121 @@
+#include "imaging/WorkingPicture.h"
+
+#include "companion/BmpFile.h"
+#include "companion/Latin1.h"
+#include "companion/Palettes.h"
+#include "companion/PixelLibrary.h"
+#include "companion/Reduction.h"
+#include "companion/ReplaceWorkingFile.h"
+#include "document/Document.h"
+#include "document/PictureState.h"
+#include "document/WorkingFolder.h"
+#include "imaging/PictureHost.h"
+#include "platform/Platform.h"
+
+#include <filesystem>
+
+namespace vypx {
+
+namespace {
+
+std::error_code WriteAtDepth(const Picture& picture, ColorDepth depth, const std::string& path)
+{
+    const int width = picture.Width(), height = picture.Height();
+    switch (depth) {
+    case ColorDepth::Bits4:
+        return WriteBmp4(picture, Palette4, width, height, path);
+    case ColorDepth::Bits8:
+        return WriteBmp8(picture, Palette8, width, height, path);
+    default: // reduced to 5-6-5 when the database is written
+        return WriteBmp24(picture, width, height, path);
+    }
+}
+
+} // namespace
+
+/// Not SelectedNode, which a node that bears the database's name leaves as it was.
+const std::string& SelectedText() { return LastClickedText; }
+
+std::optional<Picture> ReadWorkingPicture(const std::string& path)
+{
+    const auto file = platform::ReadWholeFile(path);
+    return file ? DecodeBmp(ByteView(*file)) : std::nullopt;
+}
+
+bool StoreWorkingPicture(const std::string& path, const MaskedPicture& picture, ColorDepth depth)
+{
+    if (depth == ColorDepth::Other)
+        return false;
+    const Picture ready = ReadyToStore(picture, BitsOf(depth));
+    const std::error_code error = ReplaceWorkingFile(
+        path, [&](const std::string& file) { return WriteAtDepth(ready, depth, file); });
+    if (error)
+        throw PictureFault(FaultText("The picture could not be stored", error));
+    return true;
+}
+
+std::string ScratchPath() { return WorkPath(ScratchName); }
+
+void WriteScratch(const MaskedPicture& picture)
+{
+    const Picture& pixels = picture.pixels;
+    const std::error_code error = ReplaceWorkingFile(ScratchPath(), [&](const std::string& file) {
+        return WriteBmp24(pixels, pixels.Width(), pixels.Height(), file);
+    });
+    if (error)
+        throw PictureFault(FaultText("The picture could not be kept for its next step", error));
+    ScratchTransparent = picture.transparent;
+}
+
+void DeleteScratch()
+{
+    std::error_code gone;
+    std::filesystem::remove(platform::NativePath(ScratchPath()), gone);
+    ScratchTransparent.reset();
+}
+
+void SetCellOfLabel(const Slot& slot, const std::string& label, std::string_view file)
+{
+    for (IconRow& row : IconTable)
+        if (row.IconLabel == label)
+            row.*slot.fileCell = file;
+}
+
+void SetCellOfResource(const Slot& slot, const std::string& key, std::string_view file)
+{
+    for (IconRow& row : IconTable)
+        if (row.ResourceKey == key)
+            row.*slot.fileCell = file;
+}
+
+void AddBitmapRow(const std::string& file)
+{
+    std::size_t free = BitmapTable.size();
+    while (free > 0 && BitmapTable[free - 1] == BitmapEntry{})
+        --free;
+    BitmapTable.resize(free + 2);
+    BitmapTable[free] = { .file = file, .hasTransparent = 1 };
+    BitmapRow = static_cast<int>(free) + 1;
+}
+
+Rgb TakeMaskFromCorner(const Slot& slot, const std::string& file)
+{
+    const Rgb corner = picbuff.pixels.At(0, 0);
+    slot.SetMask(corner);
+    for (BitmapEntry& bitmap : BitmapTable) {
+        if (bitmap.file != file)
+            continue;
+        bitmap.red = corner.red;
+        bitmap.green = corner.green;
+        bitmap.blue = corner.blue;
+        bitmap.hasTransparent = 1;
+    }
+    return corner;
+}
+
+std::string FaultText(const std::string& subject, std::error_code error)
+{
+    return subject + ": " + error.message() + ".";
+}
+
+} // namespace vypx

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "companion/Picture.h"
+#include "document/Slot.h"
+#include "settings/ColorDepth.h"
+
+#include <optional>
+#include <string>
+#include <system_error>
+
+/// Pictures in the working folder, and what the tables say of them. Paths are UTF-8.
+namespace vypx {
+
+/// Text of the selected node of the tree.
+const std::string& SelectedText();
+
+/// Empty for a file that is not there, can't be read or is none of our pictures.
+std::optional<Picture> ReadWorkingPicture(const std::string& path);
+
+/// Replaces the working file by the picture, reduced to that depth, in one step; the old file
+/// stands after a failure. False: there is no such depth (`Other`), and nothing was written.
+/// Throws PictureFault.
+bool StoreWorkingPicture(const std::string& path, const MaskedPicture& picture, ColorDepth depth);
+
+/// The scratch picture, through which pictures reach the crop window and the low-res slot.
+std::string ScratchPath();
+/// Replaces it. Throws PictureFault.
+void WriteScratch(const MaskedPicture& picture);
+void DeleteScratch();
+
+/// Sets the file cell of the slot in every row with that label, or with that resource.
+void SetCellOfLabel(const Slot& slot, const std::string& label, std::string_view file);
+void SetCellOfResource(const Slot& slot, const std::string& key, std::string_view file);
+
+/// Puts a row for the file behind the last filled one of BitmapTable; one empty row stands behind
+/// it.
+void AddBitmapRow(const std::string& file);
+
+/// The colour of picbuff's top left pixel becomes the transparent colour of the file and of the
+/// slot.
+Rgb TakeMaskFromCorner(const Slot& slot, const std::string& file);
+
+/// "Name: reason." for a file of the user's, or of ours.
+std::string FaultText(const std::string& subject, std::error_code error);
+
+} // namespace vypx

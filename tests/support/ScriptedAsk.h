@@ -25,9 +25,12 @@ public:
     {
         m_boxes.push_back({ button, std::move(during) });
     }
-    /// The next file dialog gives this path.
-    void Choose(const QString& path) { m_files.push_back(path); }
-    void CancelDialog() { m_files.push_back({}); }
+    /// The next file dialog gives this path; `during` runs while it is up.
+    void Choose(const QString& path, std::function<void()> during = {})
+    {
+        m_files.push_back({ path, std::move(during) });
+    }
+    void CancelDialog() { Choose({}); }
     /// The next dialog that saves gives this path.
     void SaveTo(const QString& path) { m_targets.push_back(path); }
     void CancelSave() { m_targets.push_back(std::nullopt); }
@@ -53,9 +56,11 @@ public:
             ADD_FAILURE() << "unexpected file dialog: " << question.title.toStdString();
             return {};
         }
-        const QString path = m_files.front();
+        const FileAnswer answer = m_files.front();
         m_files.pop_front();
-        return path;
+        if (answer.during)
+            answer.during();
+        return answer.path;
     }
 
     std::optional<QString> SaveFile(QWidget*, const SaveQuestion& question) override
@@ -79,8 +84,12 @@ private:
         QMessageBox::StandardButton button;
         std::function<void()> during;
     };
+    struct FileAnswer {
+        QString path;
+        std::function<void()> during;
+    };
     std::deque<BoxAnswer> m_boxes;
-    std::deque<QString> m_files;
+    std::deque<FileAnswer> m_files;
     std::deque<std::optional<QString>> m_targets;
 };
 

@@ -14,20 +14,6 @@
 
 namespace vypx {
 
-namespace {
-
-/// Of the bitmaps with that path the last one says whether it declares a transparent colour.
-bool DeclaresTransparent(const std::string& path)
-{
-    bool declares = false;
-    for (const BitmapEntry& bitmap : BitmapTable)
-        if (!bitmap.file.empty() && bitmap.hasTransparent && WorkPath(bitmap.file) == path)
-            declares = *bitmap.hasTransparent == 1;
-    return declares;
-}
-
-} // namespace
-
 ImagePanel::ImagePanel(const vypx::Slot& slot, PictureBox& imageBuffer, QWidget* parent)
     : QGroupBox(parent)
     , m_ui(std::make_unique<Ui::ImagePanel>())
@@ -83,7 +69,8 @@ void ImagePanel::Draw()
     if (!m_slot.loaded || m_slot.path.empty() || !FileExists(m_slot.path))
         return;
     m_ui->lbl_XXsize->setText(SizeText(m_slot.path));
-    m_slot.hasTransparent = DeclaresTransparent(m_slot.path);
+    const BitmapEntry* const bitmap = BitmapAt(m_slot.path);
+    m_slot.hasTransparent = bitmap && *bitmap->hasTransparent == 1;
     ClearPicture();
 
     const QImage picture(PathText(m_slot.path));
@@ -112,6 +99,21 @@ void ImagePanel::Show(const SlotEffects& effects)
         HideColour();
 }
 
+void ImagePanel::ShowMask(Rgb colour)
+{
+    m_ui->picColSwatchXX->SetBackColour(ScreenColour(colour));
+    m_ui->lblC_RGB_XX->setText(
+        QString("%1, %2, %3").arg(colour.red).arg(colour.green).arg(colour.blue));
+    ShowColour(true);
+}
+
+void ImagePanel::ClearImage()
+{
+    ClearPicture();
+    ClearTexts();
+    HideColour();
+}
+
 void ImagePanel::ClearPicture()
 {
     m_ui->picXX->SetPicture({});
@@ -130,10 +132,8 @@ void ImagePanel::ClearTexts()
 
 void ImagePanel::Clear()
 {
-    ClearPicture();
+    ClearImage();
     ClearSizeLimit();
-    ClearTexts();
-    HideColour();
 }
 
 void ImagePanel::PaintBackground(const QColor& colour)

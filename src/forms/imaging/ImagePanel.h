@@ -39,7 +39,12 @@ public:
     /// What a selection brings: texts, swatch, picture.
     void Show(const SlotEffects& effects);
 
+    /// There is a transparent colour, and it is this one.
+    void ShowMask(Rgb colour);
+
     void ClearPicture();
+    /// The picture and all that is told of it.
+    void ClearImage();
     void ClearSizeLimit();
     /// The size text, the colour's text and its swatch, as when a load begins.
     void ClearTexts();

@@ -6,6 +6,7 @@
 #include "forms/main/Documents.h"
 #include "forms/main/FormKeys.h"
 #include "forms/main/Menus.h"
+#include "forms/main/PictureCommands.h"
 #include "forms/main/Saving.h"
 #include "forms/main/Session.h"
 #include "ui_Form1.h"
@@ -44,6 +45,7 @@ struct Form1::Parts {
     Loading loading;
     Documents documents;
     Saving saving;
+    PictureCommands pictures;
     Session session;
     FormKeys keys;
 
@@ -61,6 +63,8 @@ struct Form1::Parts {
               { form, *ui.TreeView1, panels, commands, status, notes }, ask, busy, watcher, icons)
         , documents({ form, panels, commands, status, notes }, ask, loading, icons, windows)
         , saving({ form, commands, status, notes }, ask, icons, settings, windows)
+        , pictures({ form, *ui.TreeView1, panels, commands, status, notes, *ui.lblWorking }, ask,
+              busy, icons, settings, windows, views)
         , session({ frame, form, panels, commands, views, notes, *ui.lblWorking }, ask, busy,
               settings, windows, documents)
         , keys(form, *ui.TreeView1, [this] { icons.RemoveSelected(); })
@@ -137,6 +141,9 @@ void Form1::RemoveSelected() { m_parts->icons.RemoveSelected(); }
 void Form1::ClearDeletedIcons() { m_parts->icons.ClearDeletedIcons(); }
 void Form1::RebuildTree() { m_parts->icons.RebuildTree(); }
 void Form1::UpdateIconStats() { m_parts->icons.UpdateIconStats(); }
+
+void Form1::ImportLG() { m_parts->pictures.Import(SlotLG); }
+void Form1::ImportSM() { m_parts->pictures.Import(SlotSM); }
 
 void Form1::DrawLG() { m_parts->panels[0]->Draw(); }
 void Form1::DrawSM() { m_parts->panels[1]->Draw(); }

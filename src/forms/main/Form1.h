@@ -50,6 +50,10 @@ public:
     /// Counts the icons anew and shows what follows from that.
     void UpdateIconStats();
 
+    /// Bring a picture file into a slot of the selected icon.
+    void ImportLG();
+    void ImportSM();
+
     /// Draw the picture of a slot, by the document's fields of it.
     void DrawLG();
     void DrawSM();

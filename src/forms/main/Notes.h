@@ -14,6 +14,7 @@ public:
     enum class Kind {
         Load,    ///< goes with its document
         Save,    ///< of one that succeeded; goes with its document
+        Picture, ///< of the last command for a picture; goes with its document
         Name,    ///< characters that a name can't hold; goes with its document
         Catalog, ///< goes with the next reading of the catalogs
     };

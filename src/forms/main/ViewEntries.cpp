@@ -40,6 +40,15 @@ void ViewEntries::ShowByOption()
                           : Command::ShowBoth);
 }
 
+/// Only the panel that still has pictures is in sight. On purpose: the mark is the one that says
+/// "high res" either way, and the options stay.
+void ViewEntries::ShowAfterRemoval(const Slot& removed)
+{
+    CheckOnly(Command::HideLowRes);
+    for (ImagePanel* panel : m_panels)
+        panel->setVisible(&panel->Shows() != &removed);
+}
+
 void ViewEntries::ShowPanelsByOption() { ShowPanels(!LowResOnly, !HighResOnly); }
 
 void ViewEntries::ShowPanels(bool highRes, bool lowRes)

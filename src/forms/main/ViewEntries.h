@@ -12,6 +12,8 @@ public:
 
     /// Panels and marks by HighResOnly and LowResOnly.
     void ShowByOption();
+    /// All pictures of a slot were removed.
+    void ShowAfterRemoval(const Slot& removed);
     /// The panels alone.
     void ShowPanelsByOption();
 

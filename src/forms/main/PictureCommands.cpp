@@ -1,0 +1,217 @@
+#include "forms/main/PictureCommands.h"
+
+#include "document/Document.h"
+#include "document/PictureState.h"
+#include "document/WorkingFolder.h"
+#include "forms/common/Text.h"
+#include "imaging/BulkRemoval.h"
+#include "imaging/LowRes.h"
+#include "imaging/Undo.h"
+#include "pictures/PictureLoader.h"
+#include "settings/Settings.h"
+
+#include <QApplication>
+
+namespace vypx {
+
+namespace {
+
+/// A picture with more pixels takes so long that the program says so.
+constexpr std::int64_t ManyPixels = 2'000'000;
+
+struct SlotCommand {
+    Command command;
+    const vypx::Slot& slot;
+    void (PictureCommands::*act)(const vypx::Slot&);
+};
+
+const SlotCommand SlotCommands[] = {
+    { Command::ImportLG, SlotLG, &PictureCommands::Import },
+    { Command::ImportSM, SlotSM, &PictureCommands::Import },
+    { Command::DeleteLG, SlotLG, &PictureCommands::Delete },
+    { Command::DeleteSM, SlotSM, &PictureCommands::Delete },
+    { Command::UndoLG, SlotLG, &PictureCommands::Undo },
+    { Command::UndoSM, SlotSM, &PictureCommands::Undo },
+    { Command::MenuUndoLG, SlotLG, &PictureCommands::Undo },
+    { Command::MenuUndoSM, SlotSM, &PictureCommands::Undo },
+    { Command::RemoveHighRes, SlotLG, &PictureCommands::RemoveAll },
+    { Command::RemoveLowRes, SlotSM, &PictureCommands::RemoveAll },
+};
+
+QString AllPicturesFilter()
+{
+    QStringList patterns;
+    for (const std::string& ending : PictureEndings())
+        patterns << "*." + QString::fromStdString(ending);
+    return QObject::tr("All Pictures (%1)").arg(patterns.join(' '));
+}
+
+} // namespace
+
+PictureCommands::PictureCommands(const View& view, Ask& ask, BusyGuard& busy, IconCommands& icons,
+    SavedSettings& settings, const SettingsWindows& windows, ViewEntries& views)
+    : m_view(view)
+    , m_ask(ask)
+    , m_busy(busy)
+    , m_icons(icons)
+    , m_settings(settings)
+    , m_windows(windows)
+    , m_views(views)
+{
+    for (const SlotCommand& row : SlotCommands)
+        view.commands.Connect(row.command, this, [this, &row] { (this->*row.act)(row.slot); });
+    view.commands.Connect(Command::CreateLowRes, this, &PictureCommands::CreateLowRes);
+}
+
+/// One command: no input gets in but to its own boxes, and what fails beyond what it expects is
+/// told in a box.
+void PictureCommands::Run(const std::function<void()>& work)
+{
+    if (m_busy.IsBusy())
+        return;
+    QWidget* const focus = QApplication::focusWidget();
+    m_view.notes.Tell(Notes::Kind::Picture, {});
+    m_busy.Run([&] {
+        try {
+            work();
+        } catch (const std::exception& fault) {
+            Message(tr("The picture was not changed.").toStdString() + '\n' + fault.what(), {});
+        }
+        if (m_view.working.isVisible())
+            QCoreApplication::processEvents(); // what was typed meanwhile goes nowhere
+        m_view.working.setVisible(false);
+    });
+    m_view.status.ShowTitle();
+    KeepFocus(focus);
+}
+
+/// A button that its own use disables hands the focus on, and the next press of a key would use
+/// another command.
+void PictureCommands::KeepFocus(QWidget* before)
+{
+    if (before && !before->isEnabled() && m_view.form.isAncestorOf(before))
+        m_view.tree.setFocus();
+}
+
+ImagePanel& PictureCommands::PanelOf(const vypx::Slot& slot) const
+{
+    return &m_view.panels[0]->Shows() == &slot ? *m_view.panels[0] : *m_view.panels[1];
+}
+
+void PictureCommands::Import(const vypx::Slot& slot)
+{
+    Run([&] { ImportPicture(slot, *this); });
+}
+
+void PictureCommands::Delete(const vypx::Slot& slot)
+{
+    Run([&] { DeleteImage(slot, *this); });
+}
+
+void PictureCommands::Undo(const vypx::Slot& slot)
+{
+    Run([&] { UndoChange(slot, *this); });
+}
+
+void PictureCommands::CreateLowRes()
+{
+    if (m_busy.IsBusy())
+        return;
+    if (!LowResPath.empty()) {
+        const auto answer = m_ask.Show(&m_view.form,
+            { .text = "Are you sure you want to replace the current low res image?",
+                .title = "Replace Low Res Image?",
+                .icon = QMessageBox::Warning,
+                .buttons = QMessageBox::Ok | QMessageBox::Cancel });
+        if (answer != QMessageBox::Ok)
+            return;
+    }
+    Run([&] { ReplaceLowRes(*this); });
+}
+
+void PictureCommands::RemoveAll(const vypx::Slot& slot)
+{
+    if (m_busy.IsBusy())
+        return;
+    const auto answer = m_ask.Show(&m_view.form,
+        { .text = FromLatin1(slot.removalText),
+            .title = FromLatin1(slot.removalTitle),
+            .icon = QMessageBox::Information,
+            .buttons = QMessageBox::Yes | QMessageBox::No });
+    if (answer != QMessageBox::Yes)
+        return;
+    Run([&] {
+        RemoveAllImages(slot);
+        m_views.ShowAfterRemoval(slot);
+        m_icons.UpdateIconStats();
+        ForgetPictureOnShow(slot);
+        PanelOf(slot).ClearImage();
+        m_view.commands.Enable(slot.ofStored, false);
+        m_view.commands.Enable(slot.ofUndo, false);
+    });
+}
+
+std::string PictureCommands::ChoosePicture()
+{
+    OpenQuestion question{
+        .title = tr("Import Picture"),
+        .folder = {},
+        .filters = { "Image File (*.bmp *.jpg *.gif)", AllPicturesFilter() },
+    };
+    if (UseLastDirs && DirExists(LastDirImageLoad))
+        question.folder = PathText(LastDirImageLoad);
+    return m_ask.OpenFile(&m_view.form, question).toStdString();
+}
+
+LoadedPicture PictureCommands::Load(const std::string& path)
+{
+    if (PixelsClaimed(path) > ManyPixels) {
+        m_view.working.setVisible(true);
+        QCoreApplication::processEvents();
+    }
+    return LoadPicture(path);
+}
+
+ColorDepth PictureCommands::Depth() const { return m_windows.DepthOfDocument(); }
+
+void PictureCommands::Message(std::string_view text, std::string_view title)
+{
+    Box box{ .text = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())) };
+    if (!title.empty())
+        box.title = FromLatin1(title);
+    m_ask.Show(&m_view.form, box);
+}
+
+void PictureCommands::Note(const std::string& text)
+{
+    m_view.notes.Tell(Notes::Kind::Picture, QString::fromStdString(text));
+}
+
+void PictureCommands::FolderRemembered() { m_settings.Save(); }
+
+void PictureCommands::Enable(std::span<const Command> commands, bool on)
+{
+    m_view.commands.Enable(commands, on);
+}
+
+void PictureCommands::ShowColour(const vypx::Slot& slot, Rgb colour)
+{
+    PanelOf(slot).ShowMask(colour);
+}
+
+void PictureCommands::ClearPanel(const vypx::Slot& slot) { PanelOf(slot).ClearImage(); }
+
+void PictureCommands::Draw(const vypx::Slot& slot) { PanelOf(slot).Draw(); }
+
+void PictureCommands::ShowCrop(const vypx::Slot& slot)
+{
+    m_view.notes.Tell(Notes::Kind::Picture,
+        tr("The picture was not imported: it is larger than %1 x %2 pixels.")
+            .arg(TargetWidth)
+            .arg(TargetHeight));
+    (void)slot;
+}
+
+void PictureCommands::StatsChanged() { m_icons.ShowCount(); }
+
+} // namespace vypx

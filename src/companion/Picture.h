@@ -60,8 +60,8 @@ private:
     std::vector<std::uint8_t> m_bytes;
 };
 
-/// A picture of which some pixels may be transparent: all those of the colour `transparent`, which no
-/// opaque pixel has. Empty: all are opaque.
+/// A picture of which some pixels may be transparent: all those of the colour `transparent`, which
+/// no opaque pixel has. Empty: all are opaque.
 struct MaskedPicture {
     Picture pixels;
     std::optional<Rgb> transparent{};

@@ -1,5 +1,5 @@
-// A click on a node until both pictures are drawn, and a recount, with 4000 rows in the tree.
-// Without a screen: QT_QPA_PLATFORM=offscreen.
+// A click on a node until both pictures are drawn, a recount, and the import of a picture that
+// fits, with 4000 rows in the tree. Without a screen: QT_QPA_PLATFORM=offscreen.
 
 #include "NoAsk.h"
 #include "companion/BmpFile.h"
@@ -9,6 +9,7 @@
 #include "forms/main/Form1.h"
 #include "forms/main/IconTreeView.h"
 #include "forms/main/MDIForm1.h"
+#include "settings/Settings.h"
 #include "support/Files.h"
 #include "support/TempFolder.h"
 
@@ -71,6 +72,25 @@ void UpdateIconStats(benchmark::State& state)
         program.frame.Form().UpdateIconStats();
 }
 
+/// Into a filled slot, the low-res picture with it; the frame is painted.
+void ImportThatFits(benchmark::State& state)
+{
+    Program program;
+    const std::string file = program.folder.File("new.bmp");
+    test::WriteBytes(file, EncodeBmp24(Picture(64, 44)));
+    program.View().setCurrentItem(program.View().Root()->child(1997));
+    AutoCreateLowRes = true;
+    for (auto _ : state) {
+        LowResPath.clear(); // so that the low-res picture is made each time
+        DroppedFileName = file;
+        DroppedFile = true;
+        program.frame.Form().ImportLG();
+        program.frame.grab();
+    }
+    DroppedFile = false;
+}
+
+BENCHMARK(ImportThatFits)->Unit(benchmark::kMillisecond);
 BENCHMARK(ClickToDrawn)->Unit(benchmark::kMillisecond);
 BENCHMARK(UpdateIconStats)->Unit(benchmark::kMillisecond);
 

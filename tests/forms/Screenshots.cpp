@@ -1,4 +1,5 @@
 #include "catalogs/CatalogFiles.h"
+#include "document/Document.h"
 #include "document/WorkingFolder.h"
 #include "forms/main/Form1.h"
 #include "forms/main/IconTreeView.h"
@@ -12,6 +13,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
@@ -49,6 +51,51 @@ void TakeSaveDialog(const QString& folder, QWidget& over)
             .folder = QString::fromStdString(target.Path()),
             .filters = { "Vantry Iconset (*.prc *.pdb)" },
             .defaultEnding = "vpt" });
+}
+
+/// A round picture with soft edges and nothing around it.
+QString WrittenBall(const test::TempFolder& target)
+{
+    QImage ball(64, 44, QImage::Format_ARGB32);
+    ball.fill(Qt::transparent);
+    QPainter painter(&ball);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QRadialGradient light(26, 14, 30);
+    light.setColorAt(0, QColor(255, 240, 160));
+    light.setColorAt(0.5, QColor(235, 110, 40));
+    light.setColorAt(1, QColor(120, 20, 60));
+    painter.setBrush(light);
+    painter.setPen(Qt::NoPen);
+    painter.drawEllipse(12, 2, 40, 40);
+    painter.end();
+    const QString path = QString::fromStdString(target.File("ball.png"));
+    ball.save(path);
+    return path;
+}
+
+/// The ball as the high-res picture of an icon, and what is made of it for the low-res slot, at
+/// each depth.
+void TakeImports(const QString& folder, MDIForm1& frame, test::ScriptedAsk& ask)
+{
+    const test::TempFolder target;
+    const QString ball = WrittenBall(target);
+    auto& tree = *frame.findChild<IconTreeView*>("TreeView1");
+    for (const auto& [depth, name] : { std::pair{ ColorDepth::Bits16, "import-16-bit" },
+             std::pair{ ColorDepth::Bits8, "import-8-bit" },
+             std::pair{ ColorDepth::Bits4, "import-4-bit" } }) {
+        DefaultColorDepth = depth;
+        IconsetChanged = false;
+        ask.Choose(VYPX_SHIPPED_DATA "/samples/first-set.prc");
+        frame.findChild<QAction*>("mnuOpen")->trigger();
+        tree.setCurrentItem(tree.NodeOf("Palm Calendar (palmOne) (Large Icon)"));
+        for (const char* button : { "cmdDelSM", "cmdDelLG" })
+            frame.findChild<QPushButton*>(button)->click();
+        ask.Choose(ball);
+        frame.findChild<QPushButton*>("cmdImportLG")->click();
+        Take(folder, name);
+    }
+    DefaultColorDepth = ColorDepth::Bits16;
+    IconsetChanged = false;
 }
 
 } // namespace
@@ -107,6 +154,7 @@ int main(int argc, char** argv)
         std::filesystem::copy_file(std::string(VYPX_SHIPPED_DATA) + "/" + name,
             programFolder.File(name), std::filesystem::copy_options::overwrite_existing);
     ReadCatalogs([](std::string_view) {});
+    TakeImports(folder, frame, ask);
     ask.Choose(VYPX_SHIPPED_DATA "/samples/first-set.prc");
     frame.findChild<QAction*>("mnuOpen")->trigger();
     select("Palm Calendar (palmOne) (Large Icon)");

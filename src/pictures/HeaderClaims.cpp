@@ -27,9 +27,10 @@ bool IsPngAt(FileBytes& file, std::int64_t offset)
 ///       18     4 width
 ///       22     4 height         below 0: rows from the top
 ///       28     2 bits           per pixel
-///       30     4 0 not compressed, 3 and 6 not compressed, with masks of the components
+///       30     4 0 not compressed, 3 and 6 the same with masks of the components, 1 runs of 8 bits
 ///
-/// The reader leaves rows that the file does not have as they come from the heap.
+/// The reader leaves as they come from the heap rows that the file does not have, and pixels that
+/// runs of 8 bits pass over. Those are 0 elsewhere.
 HeaderClaim ClaimOfBmp(FileBytes& file)
 {
     const bool isOld = file.Little(14, 4) == 12;
@@ -43,12 +44,47 @@ HeaderClaim ClaimOfBmp(FileBytes& file)
     const std::uint64_t compression = isOld ? 0 : file.Little(30, 4);
     if (claim.width < 1 || claim.height < 1 || bits < 1 || bits > 32)
         throw BrokenFile("sides or bits of a BMP");
+    claim.leavesGaps = compression == 1;
     if (compression == 0 || compression == 3 || compression == 6) {
         const std::int64_t rowSize = (claim.width * bits + 31) / 32 * 4;
         const auto pixels = static_cast<std::int64_t>(file.Little(10, 4));
         if (rowSize > (file.Size() - pixels) / claim.height)
             throw PastTheEnd();
     }
+    return claim;
+}
+
+/// Little-endian:
+///
+///   offset width field
+///        6     2 width of the screen on which all frames are drawn; 0: as far as the first goes
+///        8     2 height
+///       10     1 flags           0x80: a colour table of 2 << (flags & 7) colours follows
+///       13       blocks
+///
+/// Blocks begin with 0x21, an extension: its kind, then parts of a size (1 byte) and that many
+/// bytes each, ended by a part of 0 bytes; or with 0x2C, a frame: left, top, width, height (2 bytes
+/// each).
+HeaderClaim ClaimOfGif(FileBytes& file)
+{
+    HeaderClaim claim{
+        .width = static_cast<std::int64_t>(file.Little(6, 2)),
+        .height = static_cast<std::int64_t>(file.Little(8, 2)),
+    };
+    const std::uint8_t flags = file.U8(10);
+    std::int64_t at = 13 + ((flags & 0x80) != 0 ? 3 * (2 << (flags & 7)) : 0);
+    while (file.U8(at) == 0x21) {
+        at += 2;
+        while (file.U8(at) != 0)
+            at += 1 + file.U8(at);
+        ++at;
+    }
+    if (file.U8(at) != 0x2C)
+        throw BrokenFile("a GIF without a frame");
+    if (claim.width == 0)
+        claim.width = static_cast<std::int64_t>(file.Little(at + 1, 2) + file.Little(at + 5, 2));
+    if (claim.height == 0)
+        claim.height = static_cast<std::int64_t>(file.Little(at + 3, 2) + file.Little(at + 7, 2));
     return claim;
 }
 
@@ -167,7 +203,9 @@ HeaderClaim ClaimOfJpeg(FileBytes& file)
 ///
 ///   offset width field
 ///       12     4 "VP8X"
-///       20     1 flags   0x02: an animation
+///       20     1 flags       0x02: an animation
+///       24     3 width - 1   of the whole, little-endian
+///       27     3 height - 1
 ///
 /// Frames of an animation are decoded apart and then put into the picture.
 HeaderClaim ClaimOfWebP(FileBytes& file)
@@ -176,8 +214,12 @@ HeaderClaim ClaimOfWebP(FileBytes& file)
     // The reader takes the whole file into memory.
     constexpr std::int64_t MostBytes = 200'000'000;
     HeaderClaim claim;
-    if (file.Big(12, 4) == Extended && (file.U8(20) & 0x02) != 0)
-        claim.pixelBytes = CostsTwice;
+    if (file.Big(12, 4) == Extended) {
+        claim.width = static_cast<std::int64_t>(file.Little(24, 3)) + 1;
+        claim.height = static_cast<std::int64_t>(file.Little(27, 3)) + 1;
+        if ((file.U8(20) & 0x02) != 0)
+            claim.pixelBytes = CostsTwice;
+    }
     if (file.Size() > MostBytes)
         claim.whyNot = "it has more than 200 MB";
     return claim;

@@ -13,12 +13,14 @@ namespace vypx {
 struct HeaderClaim {
     std::int64_t width = 0,
                  height = 0; ///< 0: the header was not asked, the format's reader tells them
-    int pixelBytes = 4; ///< that one pixel takes while it is decoded, as far as the header tells it
-    std::string whyNot; ///< why it can't be read, in words for the user; else empty
+    int pixelBytes = 4; ///< that one pixel takes while it is decoded, as far as the header tells
+    bool leavesGaps = false; ///< the reader may leave pixels as they were before
+    std::string whyNot;      ///< why it can't be read, in words for the user; else empty
 };
 
 /// Each may throw BrokenFile. The file is one of the format, as its first bytes tell.
 HeaderClaim ClaimOfBmp(FileBytes& file);
+HeaderClaim ClaimOfGif(FileBytes& file);
 HeaderClaim ClaimOfIco(FileBytes& file);
 HeaderClaim ClaimOfJpeg(FileBytes& file);
 HeaderClaim ClaimOfTiff(FileBytes& file);

@@ -10,7 +10,7 @@ namespace {
 constexpr PictureFormat Formats[] = {
     { "png", "png", nullptr },
     { "jpeg", "jfif jpe jpeg jpg", ClaimOfJpeg },
-    { "gif", "gif", nullptr },
+    { "gif", "gif", ClaimOfGif },
     { "bmp", "bmp dib", ClaimOfBmp },
     { "webp", "webp", ClaimOfWebP },
     { "tiff", "tif tiff", ClaimOfTiff },

@@ -6,8 +6,10 @@
 
 #include <QFile>
 #include <QImageReader>
+#include <QLoggingCategory>
 #include <algorithm>
 #include <filesystem>
+#include <mutex>
 #include <new>
 #include <sstream>
 
@@ -21,7 +23,8 @@ constexpr std::int64_t MostSidePixels = 32'767;
 constexpr std::int64_t MostFileBytes = 1'000'000'000;
 
 constexpr const char* NoPicture = "it is no picture that can be read here";
-constexpr const char* Broken = "its data are broken";
+// Qt's readers don't tell the one from the other.
+constexpr const char* Broken = "its data are broken or of a kind that can't be read here";
 
 /// An open picture file.
 struct PictureSource {
@@ -52,10 +55,10 @@ void CompleteClaim(PictureSource& source)
     source.file.seek(0);
     QImageReader reader(&source.file, source.FormatName());
     reader.setAutoDetectImageFormat(false);
-    const QSize size = reader.size();
-    if (source.claim.width == 0 && !size.isEmpty()) {
-        source.claim.width = size.width();
-        source.claim.height = size.height();
+    if (source.claim.width == 0) {
+        const QSize size = reader.size();
+        source.claim.width = std::max(size.width(), 0);
+        source.claim.height = std::max(size.height(), 0);
     }
     const QImage::Format pixels = reader.imageFormat();
     if (pixels != QImage::Format_Invalid)
@@ -99,23 +102,33 @@ std::string Open(PictureSource& source, const std::string& path)
     return WhyTooLarge(source.claim);
 }
 
+/// The first picture of the file as its reader gives it. Null after a failure. The reader and all
+/// that it keeps of its own are gone then.
+QImage Decode(PictureSource& source, QImageIOHandler::Transformations& turn)
+{
+    QImageReader reader(&source.file, source.FormatName());
+    reader.setAutoDetectImageFormat(false);
+    reader.setAutoTransform(false); // the copy turns it: no second picture is needed
+    turn = reader.transformation();
+    QImage image;
+    if (source.claim.leavesGaps) {
+        // Readers take a picture of the right size and format as it is.
+        image = QImage(reader.size(), reader.imageFormat());
+        image.fill(0);
+    }
+    return reader.read(&image) ? image : QImage();
+}
+
 LoadedPicture Load(const std::string& path)
 {
     PictureSource source;
     if (std::string whyNot = Open(source, path); !whyNot.empty())
         return { {}, std::move(whyNot) };
-
-    QImage image;
     QImageIOHandler::Transformations turn;
-    {
-        QImageReader reader(&source.file, source.FormatName());
-        reader.setAutoDetectImageFormat(false);
-        reader.setAutoTransform(false); // the copy turns it: no second picture is needed
-        turn = reader.transformation();
-        if (!reader.read(&image))
-            return { {}, Broken };
-    }
+    QImage image = Decode(source, turn);
     source.file.close();
+    if (image.isNull())
+        return { {}, Broken };
     // A frame can be larger than the header said.
     const HeaderClaim decoded{
         .width = image.width(), .height = image.height(), .pixelBytes = image.depth() / 8
@@ -125,12 +138,30 @@ LoadedPicture Load(const std::string& path)
     return { CopyPixels(std::move(image), turn), {} };
 }
 
-/// Qt's readers refuse more than this many MiB for a picture at 4 bytes a pixel or more.
-void RaiseQtsLimit()
+QLoggingCategory::CategoryFilter filterBefore = nullptr;
+
+/// What is wrong with a file is told by us, in words, and once.
+void SilenceReaders(QLoggingCategory* category)
+{
+    if (filterBefore)
+        filterBefore(category);
+    const QByteArrayView name(category->categoryName());
+    if (name.startsWith("qt.gui.imageio") || name.startsWith("qt.gui.icc")) {
+        category->setEnabled(QtWarningMsg, false);
+        category->setEnabled(QtCriticalMsg, false);
+    }
+}
+
+/// Readies Qt's readers, once. They refuse what takes more than so many MiB, each pixel counted as
+/// 4 bytes at least; a limit that is higher already, or none (0), stays.
+void PrepareReaders()
 {
     constexpr int MostMiB = static_cast<int>(MostPixelBytes >> 20) + 1;
-    if (QImageReader::allocationLimit() < MostMiB)
+    const int limit = QImageReader::allocationLimit();
+    if (limit > 0 && limit < MostMiB)
         QImageReader::setAllocationLimit(MostMiB);
+    static std::once_flag once;
+    std::call_once(once, [] { filterBefore = QLoggingCategory::installFilter(SilenceReaders); });
 }
 
 } // namespace
@@ -138,7 +169,7 @@ void RaiseQtsLimit()
 LoadedPicture LoadPicture(const std::string& path)
 {
     try {
-        RaiseQtsLimit();
+        PrepareReaders();
         return Load(path);
     } catch (const BrokenFile&) {
         return { {}, Broken };
@@ -150,6 +181,7 @@ LoadedPicture LoadPicture(const std::string& path)
 std::int64_t PixelsClaimed(const std::string& path)
 {
     try {
+        PrepareReaders();
         PictureSource source;
         Open(source, path);
         return source.claim.width * source.claim.height;

@@ -94,6 +94,7 @@ enum Tag {
     ImageLength = 257,
     BitsPerSample = 258,
     Compression = 259,
+    Photometric = 262,
     SamplesPerPixel = 277,
     TileWidth = 322,
     TileLength = 323,
@@ -108,36 +109,64 @@ bool IsReadable(std::uint64_t compression)
     return std::find(std::begin(Readable), std::end(Readable), compression) != std::end(Readable);
 }
 
-} // namespace
+/// The numbers of a first directory that count for memory and time.
+struct TiffShape {
+    std::uint64_t width, height, pixelBytes;
+    std::uint64_t tileWidth, tileHeight; ///< 0: the picture comes in strips
+};
 
-/// The decoder holds a whole tile, and of some pictures the whole of their samples as they stand in
-/// the file.
-HeaderClaim ClaimOfTiff(FileBytes& file)
+TiffShape ShapeOf(TiffDirectory& directory)
 {
     constexpr std::uint64_t MostSide = 1u << 31, MostSamples = 64, MostBits = 64;
-    constexpr std::uint64_t MostTileBytes = 100'000'000;
-    TiffDirectory directory(file);
-    const std::uint64_t width = directory.Largest(ImageWidth, 0);
-    const std::uint64_t height = directory.Largest(ImageLength, 0);
     const std::uint64_t bits = directory.Largest(BitsPerSample, 1);
     const std::uint64_t samples = directory.Largest(SamplesPerPixel, 1);
-    const std::uint64_t tileWidth = directory.Largest(TileWidth, 1);
-    const std::uint64_t tileHeight = directory.Largest(TileLength, 1);
-    if (std::min({ width, height, bits, samples, tileWidth, tileHeight }) < 1
-        || std::max({ width, height, tileWidth, tileHeight }) > MostSide || bits > MostBits
-        || samples > MostSamples)
-        throw BrokenFile("directory of a TIFF");
-
-    const std::uint64_t pixelBytes = (bits * samples + 7) / 8;
-    HeaderClaim claim{
-        .width = static_cast<std::int64_t>(width),
-        .height = static_cast<std::int64_t>(height),
-        .pixelBytes = static_cast<int>(pixelBytes),
+    const TiffShape shape{
+        .width = directory.Largest(ImageWidth, 0),
+        .height = directory.Largest(ImageLength, 0),
+        .pixelBytes = (bits * samples + 7) / 8,
+        .tileWidth = directory.Largest(TileWidth, 0),
+        .tileHeight = directory.Largest(TileLength, 0),
     };
-    if (tileWidth > MostTileBytes || tileHeight > MostTileBytes / tileWidth / pixelBytes)
-        claim.whyNot = "its tiles are too large";
-    else if (!IsReadable(directory.Largest(Compression, 1)))
+    if (std::min({ shape.width, shape.height, bits, samples }) < 1
+        || std::max({ shape.width, shape.height, shape.tileWidth, shape.tileHeight }) > MostSide
+        || bits > MostBits || samples > MostSamples)
+        throw BrokenFile("directory of a TIFF");
+    return shape;
+}
+
+/// The decoder holds a whole tile, and decodes all of those at the edges.
+bool HasLargeTiles(const TiffShape& shape)
+{
+    constexpr std::uint64_t MostTileBytes = 100'000'000, MostBytes = 1'000'000'000;
+    if (shape.tileWidth == 0 || shape.tileHeight == 0)
+        return false;
+    const std::uint64_t tilePixels = shape.tileWidth * shape.tileHeight;
+    if (tilePixels > MostTileBytes / shape.pixelBytes)
+        return true;
+    const std::uint64_t tiles =
+        ((shape.width - 1) / shape.tileWidth + 1) * ((shape.height - 1) / shape.tileHeight + 1);
+    return tiles > MostBytes / (tilePixels * shape.pixelBytes);
+}
+
+} // namespace
+
+/// Of some pictures the decoder holds all samples as they stand in the file, beside the pixels that
+/// come of them.
+HeaderClaim ClaimOfTiff(FileBytes& file)
+{
+    constexpr std::uint64_t Lab = 8, LabCost = 8; // bytes; its colours take long to work out
+    TiffDirectory directory(file);
+    const TiffShape shape = ShapeOf(directory);
+    const bool isLab = directory.Largest(Photometric, 0) == Lab;
+    HeaderClaim claim{
+        .width = static_cast<std::int64_t>(shape.width),
+        .height = static_cast<std::int64_t>(shape.height),
+        .pixelBytes = static_cast<int>(std::max(shape.pixelBytes, isLab ? LabCost : 0)),
+    };
+    if (!IsReadable(directory.Largest(Compression, 1)))
         claim.whyNot = "it is packed in a way that can't be read here";
+    else if (HasLargeTiles(shape))
+        claim.whyNot = "its tiles are too large";
     return claim;
 }
 

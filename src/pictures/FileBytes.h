@@ -41,6 +41,11 @@ public:
             value = value << 8 | U8(offset + i);
         return value;
     }
+    /// A little-endian number of 4 bytes with a sign.
+    std::int64_t LittleSigned(std::int64_t offset)
+    {
+        return static_cast<std::int32_t>(Little(offset, 4));
+    }
 
 private:
     void Fetch(std::int64_t offset)

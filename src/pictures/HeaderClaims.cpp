@@ -1,5 +1,6 @@
 #include "pictures/HeaderClaims.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace vypx {
@@ -7,8 +8,6 @@ namespace vypx {
 namespace {
 
 constexpr int CostsTwice = 8; // bytes; a second picture stands beside the one that comes out of it
-
-std::int64_t Signed32(std::uint64_t value) { return static_cast<std::int32_t>(value); }
 
 /// Whether a PNG begins there.
 bool IsPngAt(FileBytes& file, std::int64_t offset)
@@ -34,12 +33,11 @@ bool IsPngAt(FileBytes& file, std::int64_t offset)
 HeaderClaim ClaimOfBmp(FileBytes& file)
 {
     const bool isOld = file.Little(14, 4) == 12;
-    const int side = isOld ? 2 : 4;
-    const auto get = [&](std::int64_t offset) {
-        return isOld ? static_cast<std::int64_t>(file.Little(offset, side))
-                     : Signed32(file.Little(offset, side));
+    HeaderClaim claim{
+        .width = isOld ? static_cast<std::int64_t>(file.Little(18, 2)) : file.LittleSigned(18),
+        .height =
+            isOld ? static_cast<std::int64_t>(file.Little(20, 2)) : std::abs(file.LittleSigned(22)),
     };
-    HeaderClaim claim{ .width = get(18), .height = std::abs(get(18 + side)) };
     const auto bits = static_cast<std::int64_t>(file.Little(isOld ? 24 : 28, 2));
     const std::uint64_t compression = isOld ? 0 : file.Little(30, 4);
     if (claim.width < 1 || claim.height < 1 || bits < 1 || bits > 32)
@@ -91,7 +89,7 @@ HeaderClaim ClaimOfGif(FileBytes& file)
 /// Little-endian:
 ///
 ///   offset width field
-///        6     1 width of the first icon, 0: its own header tells it
+///        6     1 width of the first icon, 0 for 256 and more
 ///        7     1 height
 ///       18     4 offset of the first icon: a PNG, or a BMP without its first 14 bytes and with
 ///       twice
@@ -103,12 +101,12 @@ HeaderClaim ClaimOfIco(FileBytes& file)
     const auto icon = static_cast<std::int64_t>(file.Little(18, 4));
     HeaderClaim claim{ .pixelBytes = CostsTwice };
     if (IsPngAt(file, icon)) {
-        claim.width = Signed32(file.Big(icon + 16, 4));
-        claim.height = Signed32(file.Big(icon + 20, 4));
+        claim.width = static_cast<std::int64_t>(file.Big(icon + 16, 4));
+        claim.height = static_cast<std::int64_t>(file.Big(icon + 20, 4));
     } else {
-        const std::uint8_t width = file.U8(6), height = file.U8(7);
-        claim.width = width != 0 ? width : Signed32(file.Little(icon + 4, 4));
-        claim.height = height != 0 ? height : Signed32(file.Little(icon + 8, 4)) / 2;
+        // Readers go by the one or by the other.
+        claim.width = std::max<std::int64_t>(file.U8(6), file.LittleSigned(icon + 4));
+        claim.height = std::max<std::int64_t>(file.U8(7), file.LittleSigned(icon + 8) / 2);
     }
     if (claim.width < 1 || claim.height < 1)
         throw BrokenFile("sides of an icon");

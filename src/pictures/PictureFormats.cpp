@@ -1,5 +1,7 @@
 #include "pictures/PictureFormats.h"
 
+#include "pictures/OwnReaders.h"
+
 #include <QImageReader>
 #include <algorithm>
 
@@ -8,16 +10,16 @@ namespace vypx {
 namespace {
 
 constexpr PictureFormat Formats[] = {
-    { "png", "png", nullptr },
-    { "jpeg", "jfif jpe jpeg jpg", ClaimOfJpeg },
-    { "gif", "gif", ClaimOfGif },
-    { "bmp", "bmp dib", ClaimOfBmp },
-    { "webp", "webp", ClaimOfWebP },
-    { "tiff", "tif tiff", ClaimOfTiff },
-    { "ico", "ico", ClaimOfIco },
-    { "ppm", "pbm pgm pnm ppm", nullptr }, // the one reader of all three
-    { "xpm", "xpm", nullptr },
-    { "xbm", "xbm", nullptr },
+    { "png", "png", nullptr, nullptr },
+    { "jpeg", "jfif jpe jpeg jpg", ClaimOfJpeg, nullptr },
+    { "gif", "gif", ClaimOfGif, nullptr },
+    { "bmp", "bmp dib", ClaimOfBmp, ReadBmpOf16Bits },
+    { "webp", "webp", ClaimOfWebP, nullptr },
+    { "tiff", "tif tiff", ClaimOfTiff, nullptr },
+    { "ico", "ico", ClaimOfIco, ReadIconOf32Bits },
+    { "ppm", "pbm pgm pnm ppm", nullptr, ReadPnm }, // all three by one name
+    { "xpm", "xpm", nullptr, nullptr },
+    { "xbm", "xbm", nullptr, nullptr },
 };
 
 bool CanRead(QIODevice& file, const PictureFormat& format)

@@ -3,6 +3,7 @@
 #include "pictures/HeaderClaims.h"
 
 #include <QIODevice>
+#include <QImage>
 #include <span>
 #include <string_view>
 
@@ -14,6 +15,8 @@ struct PictureFormat {
     std::string_view endings; ///< in lower case, without points, apart by blanks
     /// Looks at what the format's reader doesn't bound itself; null: it bounds everything.
     HeaderClaim (*claim)(FileBytes& file);
+    /// Reads those pictures that the format's reader gets wrong; null: it gets all right.
+    QImage (*read)(FileBytes& file);
 };
 
 /// In the order in which a file is tried: those last that are known by text and not by a mark.

@@ -106,6 +106,12 @@ std::string Open(PictureSource& source, const std::string& path)
 /// that it keeps of its own are gone then.
 QImage Decode(PictureSource& source, QImageIOHandler::Transformations& turn)
 {
+    if (source.format->read) {
+        FileBytes bytes(source.file);
+        if (QImage image = source.format->read(bytes); !image.isNull())
+            return image;
+        source.file.seek(0);
+    }
     QImageReader reader(&source.file, source.FormatName());
     reader.setAutoDetectImageFormat(false);
     reader.setAutoTransform(false); // the copy turns it: no second picture is needed

@@ -42,7 +42,7 @@ HeaderClaim ClaimOfBmp(FileBytes& file)
     const std::uint64_t compression = isOld ? 0 : file.Little(30, 4);
     if (claim.width < 1 || claim.height < 1 || bits < 1 || bits > 32)
         throw BrokenFile("sides or bits of a BMP");
-    claim.leavesGaps = compression == 1;
+    claim.leavesGaps = compression == 1 || compression == 2;
     if (compression == 0 || compression == 3 || compression == 6) {
         const std::int64_t rowSize = (claim.width * bits + 31) / 32 * 4;
         const auto pixels = static_cast<std::int64_t>(file.Little(10, 4));

@@ -153,8 +153,8 @@ void SilenceReaders(QLoggingCategory* category)
         filterBefore(category);
     const QByteArrayView name(category->categoryName());
     if (name.startsWith("qt.gui.imageio") || name.startsWith("qt.gui.icc")) {
-        category->setEnabled(QtWarningMsg, false);
-        category->setEnabled(QtCriticalMsg, false);
+        for (const QtMsgType type : { QtInfoMsg, QtWarningMsg, QtCriticalMsg })
+            category->setEnabled(type, false);
     }
 }
 

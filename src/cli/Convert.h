@@ -1,16 +1,13 @@
 #pragma once
 
 #include "cli/OpenIconset.h"
-
-#include <optional>
+#include "cli/SaveIconset.h"
 
 namespace vypx {
 
 struct ConvertOptions {
     OpenOptions open;
-    std::string out; ///< may be the file that is opened
-    bool packed = false, dropUnknown = false;
-    std::optional<std::string> versionString, databaseName; ///< UTF-8
+    SaveOptions save;
 };
 
 /// Opens an iconset and writes it as Save As would. Messages and what keeps it from being written

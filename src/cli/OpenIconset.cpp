@@ -1,6 +1,7 @@
 #include "cli/OpenIconset.h"
 
 #include "catalogs/CatalogFiles.h"
+#include "companion/Latin1.h"
 #include "document/Document.h"
 #include "document/WorkingFolder.h"
 #include "platform/Platform.h"
@@ -66,6 +67,15 @@ bool OpenIconset(const OpenOptions& options, CollectedMessages& messages)
         Tell(NoteOf(cut));
     Tell(NoteOf(LoadFile({ .path = options.file, .asTemplate = options.asTemplate }, messages)));
     return true;
+}
+
+bool OpenAndTell(const OpenOptions& options)
+{
+    CollectedMessages messages;
+    const bool foldersServe = OpenIconset(options, messages);
+    for (const std::string& text : messages.texts)
+        Tell(Utf8FromLatin1(text));
+    return foldersServe;
 }
 
 } // namespace vypx

@@ -34,4 +34,7 @@ void Tell(std::string_view text);
 /// What no box says of catalogs and load goes to standard error as well.
 bool OpenIconset(const OpenOptions& options, CollectedMessages& messages);
 
+/// The same, and the texts of the boxes go to standard error.
+bool OpenAndTell(const OpenOptions& options);
+
 } // namespace vypx

@@ -30,15 +30,20 @@ CLI::App& AddDump(CLI::App& tool, vypx::OpenOptions& options)
     return *dump;
 }
 
+void AddSaveOptions(CLI::App& command, vypx::SaveOptions& options)
+{
+    command.add_option("OUT", options.out, "File to write; may be FILE")->required();
+    command.add_flag("--packbits", options.packed, "Compress the pictures");
+    command.add_flag("--drop-unknown", options.dropUnknown, "Leave unknown icons out");
+    command.add_option("--version-string", options.versionString, "Text of the version resource");
+    command.add_option("--name", options.databaseName, "Palm database name");
+}
+
 void AddConvert(CLI::App& tool, vypx::ConvertOptions& options)
 {
     CLI::App* convert = tool.add_subcommand("convert", "Open an iconset and save it as OUT");
     AddOpenOptions(*convert, options.open, "Iconset (.prc, .pdb)");
-    convert->add_option("OUT", options.out, "File to write; may be FILE")->required();
-    convert->add_flag("--packbits", options.packed, "Compress the pictures");
-    convert->add_flag("--drop-unknown", options.dropUnknown, "Leave unknown icons out");
-    convert->add_option("--version-string", options.versionString, "Text of the version resource");
-    convert->add_option("--name", options.databaseName, "Palm database name");
+    AddSaveOptions(*convert, options.save);
 }
 
 } // namespace

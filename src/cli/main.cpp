@@ -1,5 +1,6 @@
 #include "cli/Convert.h"
 #include "cli/Dump.h"
+#include "cli/Import.h"
 
 #include <CLI/CLI.hpp>
 #include <exception>
@@ -39,11 +40,28 @@ void AddSaveOptions(CLI::App& command, vypx::SaveOptions& options)
     command.add_option("--name", options.databaseName, "Palm database name");
 }
 
-void AddConvert(CLI::App& tool, vypx::ConvertOptions& options)
+CLI::App& AddConvert(CLI::App& tool, vypx::ConvertOptions& options)
 {
     CLI::App* convert = tool.add_subcommand("convert", "Open an iconset and save it as OUT");
     AddOpenOptions(*convert, options.open, "Iconset (.prc, .pdb)");
     AddSaveOptions(*convert, options.save);
+    return *convert;
+}
+
+CLI::App& AddImport(CLI::App& tool, vypx::ImportOptions& options)
+{
+    CLI::App* command = tool.add_subcommand(
+        "import", "Open an iconset, bring in the pictures of a list and save it as OUT");
+    AddOpenOptions(*command, options.open, "Iconset (.prc, .pdb)");
+    AddSaveOptions(*command, options.save);
+    command
+        ->add_option("--list", options.list,
+            "UTF-8 file with a line for each picture: the icon's label or resource, high or low, "
+            "path from the list's folder, with tabs between them; lines with # are passed over")
+        ->required();
+    command->add_flag("--low-res", options.lowRes,
+        "Make the low-res picture of a high-res one where the icon has none");
+    return *command;
 }
 
 } // namespace
@@ -54,11 +72,15 @@ int main(int argc, char** argv)
     tool.require_subcommand(1);
     vypx::OpenOptions dumpOptions;
     vypx::ConvertOptions convertOptions;
+    vypx::ImportOptions importOptions;
     const CLI::App& dump = AddDump(tool, dumpOptions);
-    AddConvert(tool, convertOptions);
+    const CLI::App& convert = AddConvert(tool, convertOptions);
+    AddImport(tool, importOptions);
     try {
         tool.parse(argc, argv);
-        return dump.parsed() ? vypx::Dump(dumpOptions) : vypx::Convert(convertOptions);
+        if (dump.parsed())
+            return vypx::Dump(dumpOptions);
+        return convert.parsed() ? vypx::Convert(convertOptions) : vypx::Import(importOptions);
     } catch (const CLI::ParseError& error) {
         const bool askedForHelp = tool.exit(error) == 0;
         return askedForHelp ? 0 : 2;

@@ -1,9 +1,6 @@
-#include "Tool.h"
-#include "support/Files.h"
+#include "CommandFixture.h"
 #include "support/Iconsets.h"
-#include "support/TempFolder.h"
 
-#include <filesystem>
 #include <gmock/gmock.h>
 
 namespace vypx::test {
@@ -14,39 +11,12 @@ using ::testing::HasSubstr;
 
 using nlohmann::json;
 
-class Convert : public ::testing::Test {
+class Convert : public CommandFixture {
 protected:
-    Convert()
-    {
-        std::filesystem::copy(TestData("iconsets/catalogs"), folder.File("catalogs"));
-        std::filesystem::copy_file(TestData("iconsets/owners.prc"), folder.File("set.prc"));
-    }
-
     ToolRun Run(const std::vector<std::string>& more, const std::string& environment = {})
     {
-        std::filesystem::remove_all(folder.File("work"));
-        std::vector<std::string> arguments{ "convert", folder.File("set.prc"),
-            folder.File("out.prc"), "--app-folder", folder.File("catalogs"), "--work",
-            folder.File("work") };
-        arguments.insert(arguments.end(), more.begin(), more.end());
-        return RunTool(arguments, environment);
+        return RunCommand("convert", more, environment);
     }
-    json Dumped(const std::string& file)
-    {
-        std::filesystem::remove_all(folder.File("dump"));
-        return RunTool({ "dump", folder.File(file), "--app-folder", folder.File("catalogs"),
-                           "--work", folder.File("dump") })
-            .Json();
-    }
-    /// The file without its dates.
-    static Bytes WithoutDates(Bytes file)
-    {
-        if (file.size() > 44)
-            std::fill(file.begin() + 36, file.begin() + 44, std::uint8_t{ 0 });
-        return file;
-    }
-
-    TempFolder folder;
 };
 
 TEST_F(Convert, WritesWhatASaveWouldWrite)
@@ -64,12 +34,8 @@ TEST_F(Convert, WritesWhatASaveWouldWrite)
 TEST_F(Convert, OutMayBeTheFileItself)
 {
     ASSERT_EQ(Run({}).exitCode, 0);
-    std::filesystem::remove_all(folder.File("work"));
 
-    EXPECT_EQ(RunTool({ "convert", folder.File("set.prc"), folder.File("set.prc"), "--app-folder",
-                          folder.File("catalogs"), "--work", folder.File("work") })
-                  .exitCode,
-        0);
+    EXPECT_EQ(RunCommand("convert", {}, {}, "set.prc").exitCode, 0);
 
     EXPECT_EQ(WithoutDates(ReadBytes(folder.File("set.prc"))),
         WithoutDates(ReadBytes(folder.File("out.prc"))));
@@ -77,8 +43,7 @@ TEST_F(Convert, OutMayBeTheFileItself)
 
 TEST_F(Convert, OnlyOneResolutionLeavesTheOtherOut)
 {
-    std::filesystem::copy_file(TestData("iconsets/depth8.prc"), folder.File("set.prc"),
-        std::filesystem::copy_options::overwrite_existing);
+    UseSample("depth8");
     for (const auto& [only, kept, dropped] : { std::tuple("high", "highResFile", "lowResFile"),
              { "low", "lowResFile", "highResFile" } }) {
         ASSERT_EQ(Run({ "--only", only }).exitCode, 0);

@@ -1,0 +1,153 @@
+#include "cli/Import.h"
+
+#include "cli/PictureList.h"
+#include "companion/Latin1.h"
+#include "document/Document.h"
+#include "document/PictureState.h"
+#include "document/Selection.h"
+#include "document/WorkingFolder.h"
+#include "imaging/Import.h"
+#include "pictures/PictureLoader.h"
+#include "settings/Settings.h"
+
+#include <algorithm>
+#include <unordered_map>
+
+namespace vypx {
+
+namespace {
+
+/// Finds the icons of the open document by what lists call them.
+class IconFinder {
+public:
+    /// A label comes before a resource; of the icons that share one, the first that takes pictures.
+    IconFinder()
+    {
+        for (const IconRow& row : IconTable)
+            Add(row.IconLabel, row);
+        for (const IconRow& row : IconTable)
+            if (SizeToImport(row.IconLabel))
+                Add(row.ResourceKey, row);
+        for (const IconRow& row : IconTable)
+            Add(row.ResourceKey, row);
+    }
+
+    /// Null: there is no such icon.
+    const IconRow* Find(const std::string& utf8) const
+    {
+        const auto found = m_rows.find(utf8);
+        return found == m_rows.end() ? nullptr : found->second;
+    }
+
+private:
+    void Add(const std::string& name, const IconRow& row)
+    {
+        if (!row.IconLabel.empty())
+            m_rows.emplace(Utf8FromLatin1(name), &row);
+    }
+
+    std::unordered_map<std::string, const IconRow*> m_rows;
+};
+
+/// Takes the place of the windows. Of what an import tells, the last counts, as on a note line.
+class ToolHost : public PictureHost {
+public:
+    LoadedPicture Load(const std::string& path) override { return LoadPicture(path); }
+    void Message(std::string_view text, std::string_view) override { m_told = text; }
+    void Note(const std::string& text) override { m_told = text; }
+    void ShowCrop(const Slot&) override
+    {
+        m_told = "The picture has " + SizeText(picbuff.pixels.Width(), picbuff.pixels.Height())
+            + " pixels; this slot takes " + SizeText(TargetWidth, TargetHeight) + " at most.";
+    }
+
+    const std::string& Told() const { return m_told; }
+
+private:
+    static std::string SizeText(int width, int height)
+    {
+        return std::to_string(width) + " x " + std::to_string(height);
+    }
+
+    std::string m_told;
+};
+
+/// What a list or a name in it says must not move the cursor of a terminal, nor fill it.
+std::string Printable(std::string_view utf8)
+{
+    constexpr std::size_t longest = 500;
+    std::size_t length = std::min(longest, utf8.size());
+    while (length < utf8.size() && (utf8[length] & 0xC0) == 0x80)
+        --length; // back to where a character begins
+    std::string printable(utf8.substr(0, length));
+    for (char& letter : printable)
+        if (static_cast<unsigned char>(letter) < ' ' || letter == '\x7F')
+            letter = '?';
+    return length < utf8.size() ? printable + "..." : printable;
+}
+
+void TellOfLine(const PictureLine& line, std::string_view text)
+{
+    Tell("line " + std::to_string(line.number) + ": " + Printable(text));
+}
+
+/// False, and a word to standard error, when the line can't be followed.
+bool Follow(const PictureLine& line, const IconRow& icon)
+{
+    SelectNode(icon.IconLabel, Tree.Root());
+    TargetWidth = TargetHeight = 0; // what stands in a line counts for it alone
+    DroppedFile = true;
+    DroppedFileName = line.path;
+    ToolHost host;
+    const ImportResult result = ImportPicture(*line.slot, host);
+    // A picture that came in may have made no low-res one.
+    if (!host.Told().empty())
+        TellOfLine(line, host.Told());
+    return result == ImportResult::Stored;
+}
+
+/// The same, of a line that nothing is known of.
+bool ImportLine(const PictureLine& line, const IconFinder& icons)
+{
+    try {
+        if (!line.whyNot.empty())
+            throw PictureFault(line.whyNot);
+        const IconRow* const icon = icons.Find(line.icon);
+        if (!icon)
+            throw PictureFault("No icon has the label or resource \"" + line.icon + "\".");
+        if (!SizeToImport(icon->IconLabel))
+            throw PictureFault("The icon \"" + line.icon + "\" takes no pictures.");
+        return Follow(line, *icon);
+    } catch (const PictureFault& fault) {
+        TellOfLine(line, fault.what());
+        return false;
+    }
+}
+
+bool ImportAll(const std::vector<PictureLine>& lines)
+{
+    const IconFinder icons;
+    bool all = true;
+    for (const PictureLine& line : lines)
+        all = ImportLine(line, icons) && all;
+    return all;
+}
+
+} // namespace
+
+int Import(const ImportOptions& options)
+{
+    const auto lines = ReadPictureList(options.list);
+    if (!lines) {
+        Tell("the list can't be read: " + options.list);
+        return 2;
+    }
+    if (!OpenAndTell(options.open))
+        return 2;
+    AutoCreateLowRes = options.lowRes;
+    if (FileLoaded && !ImportAll(*lines))
+        return 1;
+    return SaveIconset(options.save);
+}
+
+} // namespace vypx

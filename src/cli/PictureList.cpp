@@ -1,0 +1,121 @@
+#include "cli/PictureList.h"
+
+#include "platform/Platform.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+namespace vypx {
+
+namespace {
+
+constexpr std::uintmax_t LargestList = std::uintmax_t{ 1 } << 30; // bytes
+
+/// How many bytes follow the first one of a character; empty: no character begins with it.
+std::optional<std::size_t> BytesThatFollow(std::uint8_t first)
+{
+    if (first < 0x80)
+        return 0;
+    if (first >= 0xC0 && first < 0xE0)
+        return 1;
+    if (first >= 0xE0 && first < 0xF0)
+        return 2;
+    if (first >= 0xF0 && first < 0xF8)
+        return 3;
+    return std::nullopt;
+}
+
+/// Whether a text is valid UTF-8: no character in more bytes than it needs, none beyond 0x10FFFF,
+/// no halves of UTF-16's pairs.
+bool IsUtf8(std::string_view text)
+{
+    constexpr std::array<std::uint32_t, 4> leastCode{ 0, 0x80, 0x800, 0x10000 };
+    for (std::size_t i = 0; i < text.size();) {
+        const auto first = static_cast<std::uint8_t>(text[i++]);
+        const std::optional<std::size_t> more = BytesThatFollow(first);
+        if (!more || *more > text.size() - i)
+            return false;
+        std::uint32_t code = *more == 0 ? first : first & (0x3Fu >> *more);
+        for (std::size_t end = i + *more; i < end; ++i) {
+            const auto byte = static_cast<std::uint8_t>(text[i]);
+            if ((byte & 0xC0) != 0x80)
+                return false;
+            code = code << 6 | (byte & 0x3Fu);
+        }
+        if (code < leastCode[*more] || code > 0x10FFFF || (code >= 0xD800 && code < 0xE000))
+            return false;
+    }
+    return true;
+}
+
+/// Takes what stands before `end` off the text, and `end` with it; the whole text if there is none.
+std::string_view TakeUntil(char end, std::string_view& text)
+{
+    const std::size_t length = std::min(text.find(end), text.size());
+    const std::string_view taken = text.substr(0, length);
+    text.remove_prefix(std::min(length + 1, text.size()));
+    return taken;
+}
+
+const Slot* SlotOf(std::string_view word)
+{
+    if (word == "high")
+        return &SlotLG;
+    return word == "low" ? &SlotSM : nullptr;
+}
+
+PictureLine Wrong(const char* whyNot) { return { .whyNot = whyNot }; }
+
+PictureLine ParseLine(std::string_view line)
+{
+    if (!IsUtf8(line))
+        return Wrong("This is no UTF-8 text.");
+    if (line.find('\0') != std::string_view::npos)
+        return Wrong("There is a zero byte in it.");
+    const std::string_view icon = TakeUntil('\t', line), word = TakeUntil('\t', line), path = line;
+    if (icon.empty() || word.empty() || path.empty() || path.find('\t') != std::string_view::npos)
+        return Wrong("An icon, high or low, and a picture are needed, with tabs between them.");
+    if (path.ends_with('/'))
+        return Wrong("The path is that of a folder.");
+    const Slot* const slot = SlotOf(word);
+    if (!slot)
+        return Wrong("The second field must be high or low.");
+    return { .icon = std::string(icon), .slot = slot, .path = std::string(path) };
+}
+
+} // namespace
+
+std::vector<PictureLine> ParsePictureList(std::string_view text)
+{
+    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+    if (text.starts_with(byteOrderMark))
+        text.remove_prefix(byteOrderMark.size());
+    std::vector<PictureLine> lines;
+    for (std::size_t number = 1; !text.empty(); ++number) {
+        std::string_view line = TakeUntil('\n', text);
+        if (line.ends_with('\r'))
+            line.remove_suffix(1);
+        if (line.empty() || line.starts_with('#'))
+            continue;
+        lines.push_back(ParseLine(line));
+        lines.back().number = number;
+    }
+    return lines;
+}
+
+std::optional<std::vector<PictureLine>> ReadPictureList(const std::string& path)
+{
+    const auto bytes = platform::ReadWholeFile(path, LargestList);
+    if (!bytes)
+        return std::nullopt;
+    std::vector<PictureLine> lines =
+        ParsePictureList({ reinterpret_cast<const char*>(bytes->data()), bytes->size() });
+    const std::filesystem::path folder = platform::NativePath(path).parent_path();
+    for (PictureLine& line : lines)
+        if (line.whyNot.empty())
+            line.path = platform::Utf8Path(folder / platform::NativePath(line.path));
+    return lines;
+}
+
+} // namespace vypx

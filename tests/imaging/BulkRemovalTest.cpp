@@ -206,9 +206,11 @@ TEST_P(BulkRemoval, MarksIconsToBeRemovedToo)
 TEST_P(BulkRemoval, ThenASavedFamilyHasOneRecord)
 {
     ASSERT_EQ(WhyNot(), "");
-    for (const Resource& resource : Saved())
-        if (resource.type == "tAIB")
-            ASSERT_NE(ByteView(resource.data).U16(10), 0) << "both densities";
+    for (const Resource& resource : Saved()) {
+        if (resource.type != "tAIB")
+            continue;
+        ASSERT_NE(ByteView(resource.data).U16(10), 0) << "both densities";
+    }
 
     RemoveAllImages(slot);
 

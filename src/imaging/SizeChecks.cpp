@@ -16,10 +16,11 @@ struct Side {
 std::string TextOf(const Side& side, const SizeGuard& guard)
 {
     const std::string name(side.name);
-    return "The " + name + " of the image your are trying to paste exceeds \n"
-        + std::string(guard.phrase) + "\n\nThe maximum " + name + " for this icon is "
-        + std::to_string(guard.*side.limit) + " pixels.\n\nThe image you are trying to paste is "
-        + std::to_string(side.pixels) + " pixels.";
+    return "The " + name + " of the image your are trying to paste exceeds \r\n"
+        + std::string(guard.phrase) + "\r\n\r\nThe maximum " + name + " for this icon is "
+        + std::to_string(guard.*side.limit)
+        + " pixels.\r\n\r\nThe image you are trying to paste is " + std::to_string(side.pixels)
+        + " pixels.";
 }
 
 } // namespace

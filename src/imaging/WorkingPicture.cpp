@@ -50,7 +50,7 @@ bool StoreWorkingPicture(const std::string& path, const MaskedPicture& picture, 
     const std::error_code error = ReplaceWorkingFile(
         path, [&](const std::string& file) { return WriteAtDepth(ready, depth, file); });
     if (error)
-        throw PictureFault(FaultText("The picture could not be stored", error));
+        throw PictureFault(FaultText(LastComponent(path) + " could not be stored", error));
     return true;
 }
 
@@ -63,7 +63,7 @@ void WriteScratch(const MaskedPicture& picture)
         return WriteBmp24(pixels, pixels.Width(), pixels.Height(), file);
     });
     if (error)
-        throw PictureFault(FaultText("The picture could not be kept for its next step", error));
+        throw PictureFault(FaultText(std::string(ScratchName) + " could not be written", error));
     ScratchTransparent = picture.transparent;
 }
 

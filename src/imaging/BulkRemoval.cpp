@@ -28,6 +28,7 @@ void ForgetPictureOnShow(const Slot& slot)
     slot.loaded = false;
     slot.hasTransparent = false;
     slot.wasEmpty = false;
+    slot.undoName.clear();
 }
 
 } // namespace vypx

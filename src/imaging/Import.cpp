@@ -168,7 +168,8 @@ ImportResult Import::Store()
     } else {
         StoreFile(m_slot.path);
     }
-    m_host.ShowColour(m_slot, TakeMaskFromCorner(m_slot, m_file));
+    if (TakeMaskFromCorner(m_slot, m_file))
+        m_host.ShowColour(m_slot, m_slot.Mask());
     Show();
     MakeLowRes();
     if (isNew)

@@ -102,7 +102,8 @@ void Restore(const Slot& slot, PictureHost& host)
     host.Enable(slot.ofStored, true);
     host.Enable(slot.ofUndo, false);
     // On purpose: whatever transparent colour the picture had, it comes back with its corner's.
-    host.ShowColour(slot, TakeMaskFromCorner(slot, name));
+    if (TakeMaskFromCorner(slot, name))
+        host.ShowColour(slot, slot.Mask());
     SetCellOfResource(slot, SelectedResource(), name);
     Recount(host);
 }

@@ -98,10 +98,11 @@ void AddBitmapRow(const std::string& file)
     BitmapRow = static_cast<int>(free) + 1;
 }
 
-Rgb TakeMaskFromCorner(const Slot& slot, const std::string& file)
+bool TakeMaskFromCorner(const Slot& slot, const std::string& file)
 {
     const Rgb corner = picbuff.pixels.At(0, 0);
     slot.SetMask(corner);
+    bool isListed = false;
     for (BitmapEntry& bitmap : BitmapTable) {
         if (bitmap.file != file)
             continue;
@@ -109,8 +110,9 @@ Rgb TakeMaskFromCorner(const Slot& slot, const std::string& file)
         bitmap.green = corner.green;
         bitmap.blue = corner.blue;
         bitmap.hasTransparent = 1;
+        isListed = true;
     }
-    return corner;
+    return isListed;
 }
 
 std::string FaultText(const std::string& subject, std::error_code error)

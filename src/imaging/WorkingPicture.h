@@ -37,8 +37,8 @@ void SetCellOfResource(const Slot& slot, const std::string& key, std::string_vie
 void AddBitmapRow(const std::string& file);
 
 /// The colour of picbuff's top left pixel becomes the transparent colour of the file and of the
-/// slot.
-Rgb TakeMaskFromCorner(const Slot& slot, const std::string& file);
+/// slot. False: BitmapTable has no row of the file, so the panel has no colour to show.
+bool TakeMaskFromCorner(const Slot& slot, const std::string& file);
 
 /// "Name: reason." for a file of the user's, or of ours.
 std::string FaultText(const std::string& subject, std::error_code error);

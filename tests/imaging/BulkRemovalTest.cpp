@@ -19,6 +19,12 @@ protected:
                 Fill(*each, label, Many(8, 8), Rgb{ 12, 34, 56 });
     }
 
+    /// As the command does, once it is confirmed.
+    void Remove()
+    {
+        RemoveAllImages(slot);
+        ForgetPictureOnShow(slot);
+    }
     std::vector<std::string> Files() const
     {
         std::vector<std::string> files;
@@ -36,22 +42,10 @@ TEST_P(BulkRemoval, MarksEveryIconOfTheSlotAsEmpty)
         row.*slot.fileCell = "NEW";
     IconsetChanged = false;
 
-    RemoveAllImages(slot);
+    Remove();
 
     EXPECT_EQ(IconTable, expected);
     EXPECT_TRUE(IconsetChanged);
-}
-
-TEST_P(BulkRemoval, Counts)
-{
-    CountIcons();
-    ASSERT_EQ(StatHighRes, 3);
-    ASSERT_EQ(StatLowRes, 3);
-
-    RemoveAllImages(slot);
-
-    EXPECT_EQ(StatHighRes, isLG ? 0 : 3);
-    EXPECT_EQ(StatLowRes, isLG ? 3 : 0);
 }
 
 TEST_P(BulkRemoval, KeepsTheRowsOfTheOtherSlotAsTheyAre)
@@ -71,7 +65,7 @@ TEST_P(BulkRemoval, KeepsTheRowsOfTheOtherSlotAsTheyAre)
     }
     expected.emplace_back();
 
-    RemoveAllImages(slot);
+    Remove();
 
     EXPECT_EQ(BitmapTable, expected) << "one row for a resource that two icons share, one empty";
 }
@@ -82,7 +76,7 @@ TEST_P(BulkRemoval, TakesEveryRowOfAFile)
     BitmapTable.insert(BitmapTable.begin() + 3, twin);
     ++BitmapRow;
 
-    RemoveAllImages(slot);
+    Remove();
 
     EXPECT_EQ(Files(),
         (std::vector{ NameFor(other, Large), NameFor(other, Small), NameFor(other, Unknown),
@@ -94,7 +88,7 @@ TEST_P(BulkRemoval, DropsEmptiedAndSpareRowsAlike)
     BitmapTable[0].file.clear(); // as of a picture that was dropped at the load
     BitmapTable.resize(12);
 
-    RemoveAllImages(slot);
+    Remove();
 
     EXPECT_EQ(BitmapTable.size(), isLG ? 4u : 3u);
     EXPECT_EQ(BitmapTable.back(), BitmapEntry());
@@ -102,7 +96,7 @@ TEST_P(BulkRemoval, DropsEmptiedAndSpareRowsAlike)
 
 TEST_P(BulkRemoval, LetsTheNextImportUseTheFreeRow)
 {
-    RemoveAllImages(slot);
+    Remove();
     Select(Small);
 
     ASSERT_EQ(Import(slot, Many(4, 4)), ImportResult::Stored);
@@ -116,7 +110,7 @@ TEST_P(BulkRemoval, LeavesTheWorkingFiles)
 {
     const std::map<std::string, Bytes> before = WorkFiles();
 
-    RemoveAllImages(slot);
+    Remove();
 
     EXPECT_EQ(WorkFiles(), before);
 }
@@ -125,7 +119,7 @@ TEST_P(BulkRemoval, TakesThePictureOnShowAndNoOther)
 {
     Select(Large);
 
-    RemoveAllImages(slot);
+    Remove();
 
     EXPECT_EQ(slot.path, "");
     EXPECT_FALSE(slot.loaded);
@@ -137,7 +131,7 @@ TEST_P(BulkRemoval, IsBeyondUndoOfADeletion)
 {
     Select(Large);
     DeleteImage(slot, host);
-    RemoveAllImages(slot);
+    Remove();
     const auto before = State();
     const std::map<std::string, Bytes> files = WorkFiles();
     host.steps.clear();
@@ -154,7 +148,7 @@ TEST_P(BulkRemoval, IsBeyondUndoOfAnImport)
     AddIcon("Beta (Small Icon)", "tAIB3505");
     Select("Beta (Small Icon)");
     Import(slot, Many(4, 4));
-    RemoveAllImages(slot);
+    Remove();
     const auto before = State();
     host.steps.clear();
 
@@ -169,7 +163,7 @@ TEST_P(BulkRemoval, LeavesUndoOfTheOtherSlot)
     Select(Large);
     DeleteImage(other, host);
 
-    RemoveAllImages(slot);
+    Remove();
     UndoChange(other, host);
 
     EXPECT_EQ(Cell(other, Large), NameFor(other, Large));
@@ -185,7 +179,7 @@ TEST_P(BulkRemoval, OfADocumentWithoutPicturesMarksAndRewritesToo)
     const std::vector<IconRow> before = IconTable;
     IconsetChanged = false;
 
-    RemoveAllImages(slot);
+    Remove();
 
     EXPECT_TRUE(IconsetChanged);
     EXPECT_EQ(IconTable, before);
@@ -196,7 +190,7 @@ TEST_P(BulkRemoval, MarksIconsToBeRemovedToo)
 {
     Row(Small).IconState = 0;
 
-    RemoveAllImages(slot);
+    Remove();
 
     EXPECT_EQ(Cell(slot, Small), "NEW");
 }
@@ -212,7 +206,7 @@ TEST_P(BulkRemoval, ThenASavedFamilyHasOneRecord)
         ASSERT_NE(ByteView(resource.data).U16(10), 0) << "both densities";
     }
 
-    RemoveAllImages(slot);
+    Remove();
 
     ASSERT_EQ(WhyNot(), "");
     EXPECT_THAT(

@@ -106,13 +106,14 @@ TEST_P(Delete, TakesThePictureAndItsCommandsOffThePanel)
 
 TEST_P(Delete, ThenASaveLeavesThePictureOut)
 {
+    Fill(slot, Small, Many(3, 3));
     Select(Large);
 
     DeleteImage(SlotLG, host);
     DeleteImage(SlotSM, host);
 
     EXPECT_EQ(WhyNot(), "");
-    EXPECT_THAT(SavedKeys(), ElementsAre("tver1000", "iTbl1000"));
+    EXPECT_THAT(SavedKeys(), ElementsAre("tAIB3501", "tver1000", "iTbl1000"));
 }
 
 TEST_P(Delete, OfAPictureWhoseFileIsGoneEmptiesTheSlot)

@@ -31,9 +31,6 @@ protected:
         for (int y = 0; y < height; ++y)
             for (int x = 0; x < width; ++x)
                 picture.Set(x, y, HalfOf(x, y));
-        // The colour of the corner became the transparent one of the high-res picture, and is
-        // stored as every transparent colour.
-        picture.Set(0, 0, { 255, 0, 255 });
         return picture;
     }
 
@@ -55,7 +52,7 @@ TEST_F(LowResStep, FillsBothPanelsByOneImport)
     EXPECT_EQ(LowResPath, WorkPath(low));
     EXPECT_TRUE(LGloaded && SMloaded);
     EXPECT_EQ(SlotLG.Mask(), (Rgb{ 0, 0, 100 }));
-    EXPECT_EQ(SlotSM.Mask(), (Rgb{ 255, 0, 255 }));
+    EXPECT_EQ(SlotSM.Mask(), (Rgb{ 0, 0, 100 }));
     EXPECT_TRUE(UndoIsOn(SlotLG) && UndoIsOn(SlotSM));
     EXPECT_FALSE(DroppedFile);
     EXPECT_EQ(StatHighRes, 2);

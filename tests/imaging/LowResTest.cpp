@@ -115,7 +115,6 @@ TEST_F(LowRes, MixesAllPixelsOfAPictureWithoutATransparentColour)
     Halve(FromRows({ { Clear, Clear }, { Clear, { 50, 40, 70 } } }));
 
     EXPECT_EQ(Scratch().At(0, 0), (Rgb{ 20, 160, 40 }));
-    EXPECT_EQ(ScratchTransparent, std::nullopt);
 }
 
 TEST_F(LowRes, DoesNotTakeTheColourOfAPictureThatDeclaresNone)
@@ -142,7 +141,6 @@ TEST_F(LowRes, NeverMixesTransparentPixelsWithOthers)
     EXPECT_EQ(Scratch().At(2, 0), (Rgb{ 150, 75, 100 })) << "half: the average of A and B";
     EXPECT_NEAR(Scratch().At(3, 0).red, 133, 1) << "a quarter: of A, B and B";
     EXPECT_NEAR(Scratch().At(3, 0).blue, 133, 1);
-    EXPECT_EQ(ScratchTransparent, Clear);
 }
 
 TEST_F(LowRes, AClearCornerStaysClear)
@@ -170,6 +168,26 @@ TEST_F(LowRes, AnAverageNeverBecomesTheTransparentColour)
         EXPECT_NE(Reduced(Scratch().At(1, 0), BitsOf(depth)), Reduced(Clear, BitsOf(depth)));
         BitmapTable.assign(1, {});
         BitmapRow = 0;
+    }
+}
+
+TEST_F(LowRes, KeepsTheTransparentColourInTheDocument)
+{
+    for (const ColorDepth depth : { ColorDepth::Bits4, ColorDepth::Bits8, ColorDepth::Bits16 }) {
+        DefaultColorDepth = depth;
+        const Rgb clear = Reduced(Clear, BitsOf(depth));
+        Fill(SlotLG, Large, FromRows({ { clear, clear, A, A }, { clear, A, A, A } }), clear);
+        Select(Large);
+
+        EXPECT_EQ(ImportLowRes(host), ImportResult::Stored);
+
+        EXPECT_EQ(SlotSM.Mask(), clear);
+        EXPECT_EQ(Stored("tAIB3500.bmp").At(0, 0), clear);
+        EXPECT_EQ(Stored("tAIB3500.bmp").At(1, 0),
+            depth == ColorDepth::Bits16 ? A : Reduced(A, BitsOf(depth)));
+        BitmapTable.assign(1, {});
+        BitmapRow = 0;
+        Row(Large).LowResFile = "NEW";
     }
 }
 

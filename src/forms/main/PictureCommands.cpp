@@ -177,6 +177,7 @@ ColorDepth PictureCommands::Depth() const { return m_windows.DepthOfDocument(); 
 void PictureCommands::Message(std::string_view text, std::string_view title)
 {
     Box box{ .text = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())) };
+    box.text.replace("\r\n", "\n"); // as boxes break their lines
     if (!title.empty())
         box.title = FromLatin1(title);
     m_ask.Show(&m_view.form, box);

@@ -240,7 +240,8 @@ TEST_F(Importing, AWorkingFolderThatIsGoneIsToldAndTheDocumentStays)
 
     Import("cmdImportLG", picture);
 
-    EXPECT_TRUE(Note().startsWith("The picture could not be stored: ")) << Note().toStdString();
+    EXPECT_TRUE(Note().startsWith("tAIB3502-d144.bmp could not be stored: "))
+        << Note().toStdString();
     EXPECT_EQ(Cell("Beta (Large Icon)", &IconRow::HighResFile), "NEW");
     EXPECT_FALSE(IsOn("cmdUndoLG"));
 }

@@ -18,8 +18,10 @@ namespace {
 struct Number {
     int* variable;
     int least = INT16_MIN, most = INT16_MAX;
+    int* inUse = nullptr; ///< what is written, where that is another variable
 };
-Number Component(int& variable) { return { &variable, 0, 255 }; } // of a colour
+/// Of a colour: the saved one is read, the one in use is written.
+Number Component(int& saved, int& inUse) { return { &saved, 0, 255, &inUse }; }
 
 /// Settings whose text stands for something else than itself.
 enum class Word {
@@ -45,9 +47,9 @@ const std::vector<Key>& Keys()
 {
     static const std::vector<Key> keys{
         { "PreviewBackColor", "Remember", "False", &RememberPreviewColor },
-        { "PreviewBackColor", "Red", "0", Component(Rsave) },
-        { "PreviewBackColor", "Green", "0", Component(Gsave) },
-        { "PreviewBackColor", "Blue", "255", Component(Bsave) },
+        { "PreviewBackColor", "Red", "0", Component(Rsave, R) },
+        { "PreviewBackColor", "Green", "0", Component(Gsave, G) },
+        { "PreviewBackColor", "Blue", "255", Component(Bsave, B) },
         { "Low Res Icons", "AutoCreateLowRes", "True", &AutoCreateLowRes },
         { "Startup Search", "Search for apps at startup", "False", &StartupSearch },
         { "Default Color Depth", "User Color Depth", "16-Bit", Word::Depth },
@@ -146,8 +148,10 @@ std::optional<std::string> TextOf(const Key& key)
     if (const auto* boolean = std::get_if<bool*>(&key.variable))
         return BooleanText(**boolean);
     const auto* words = std::get_if<std::string*>(&key.variable);
-    if (!words)
-        return NumberText(*std::get<Number>(key.variable).variable);
+    if (!words) {
+        const auto& number = std::get<Number>(key.variable);
+        return NumberText(number.inUse ? *number.inUse : *number.variable);
+    }
     if (*words == &VersionString && VersionString.empty())
         return DefaultVersion;
     if (std::string_view(key.key).starts_with("Last Directory") && !UseLastDirs)
@@ -230,9 +234,6 @@ bool SaveIni(const WindowsToSave& windows)
 {
     if (SettingsSaved)
         return true;
-    Rsave = R; // the colour in use is what is saved
-    Gsave = G;
-    Bsave = B;
     const std::vector<std::string_view> kept = TakeWindows(windows);
     return EditIni(SettingsFile(), [&](IniText& file) {
         for (const Key& key : Keys()) {

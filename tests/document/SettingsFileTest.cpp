@@ -233,6 +233,7 @@ TEST_F(SettingsFileTest, TheColourInUseIsWhatIsSaved)
     Save();
 
     EXPECT_EQ(Value("PreviewBackColor", "Red"), "10");
+    EXPECT_EQ(Rsave, 99) << "still what was read";
 }
 
 TEST_F(SettingsFileTest, NothingIsSavedTwiceAtTheExit)

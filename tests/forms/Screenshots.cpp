@@ -11,12 +11,14 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QDialog>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
+#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 #include <filesystem>
@@ -114,6 +116,10 @@ int main(int argc, char** argv)
         std::filesystem::copy_file(
             test::TestData("iconsets/catalogs/") + name, programFolder.File(name));
     test::ScriptedAsk ask;
+    // Beside the main form, where a user would have put it.
+    test::WriteText(programFolder.File("VYPX.ini"),
+        "[Preview Option Window]\nX-Pos=11640\nY-Pos=0\n"
+        "[Main Window Size]\nWidth=14400\n");
     MDIForm1 frame(ask);
     frame.Start(QString::fromStdString(programFolder.Path()), {});
     frame.move(20, 40);
@@ -159,6 +165,15 @@ int main(int argc, char** argv)
     frame.findChild<QAction*>("mnuOpen")->trigger();
     select("Palm Calendar (palmOne) (Large Icon)");
     Take(folder, "main-form");
+    const auto bar = [&](const char* name) { return frame.findChild<QScrollBar*>(name); };
+    bar("VScrollRed")->setValue(170);
+    frame.findChild<QCheckBox*>("chkBackGray")->click();
+    bar("VScrollRed")->setFocus();
+    Take(folder, "preview-options");
+    frame.findChild<QCheckBox*>("chkBackGray")->click();
+    bar("VScrollGrn")->setValue(0);
+    bar("VScrollRed")->setValue(0);
+    bar("VScrollBlue")->setValue(255);
 
     // The whole road: mark an icon, save under a name, close, open what was saved.
     select("Palm Calculator (Large Icon)");

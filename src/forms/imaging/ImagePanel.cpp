@@ -138,10 +138,15 @@ void ImagePanel::Clear()
 
 void ImagePanel::PaintBackground(const QColor& colour)
 {
-    m_ui->picXXfrm->SetBackColour(colour);
-    m_ui->picXX->SetBackColour(colour);
+    SetBackColour(colour);
     m_ui->picColSwatchXX->SetBackColour(ScreenColour(ChromeColour));
     ReserveColourWidth();
+}
+
+void ImagePanel::SetBackColour(const QColor& colour)
+{
+    m_ui->picXXfrm->SetBackColour(colour);
+    m_ui->picXX->SetBackColour(colour);
 }
 
 /// The colour's swatch and text, or the words that there is none.

@@ -53,6 +53,8 @@ public:
 
     /// Background of the picture and of its box; the chrome colour in the swatch.
     void PaintBackground(const QColor& colour);
+    /// The background alone, while a picture is on show.
+    void SetBackColour(const QColor& colour);
 
 signals:
     /// Files were dropped on the panel.

@@ -24,7 +24,7 @@ std::vector<CommandRow> Rows()
         { ExportTemplate, "mnuExportTemplate", "&Export Template", none, NotBuiltYet, When::Document },
         // No key: it asks nothing, and Ctrl+Q is beside Ctrl+W.
         { Exit, "mnuExit", "&Exit", none, Built, When::Always },
-        { ShowPreviewOptions, "mnuShowPrevOpt", "Show Preview Options", none, NotBuiltYet, When::Always },
+        { ShowPreviewOptions, "mnuShowPrevOpt", "Show Preview Options", none, Built, When::Always, true },
         { ShowIconStats, "mnuShowIconStats", "Show Icon Stats", none, NotBuiltYet, When::Always },
         { ShowShared, "mnuShowShared", "Show Shared Icons", none, NotBuiltYet, When::Always },
         { ShowBoth, "mnuShowBoth", "Show &Both High and Low Res Icons", none, Built, When::Always, true },

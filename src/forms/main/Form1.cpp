@@ -37,6 +37,7 @@ struct Form1::Parts {
     Notes notes;
     StatusTexts status;
     ViewEntries views;
+    SideWindows sides;
     SavedSettings settings;
     BusyGuard busy;
     SettingsWindows windows;
@@ -55,7 +56,8 @@ struct Form1::Parts {
         , notes(*ui.lblNotSaved, *ui.lblNote)
         , status(*ui.StatusBar1, frame)
         , views(panels, commands)
-        , settings(frame, ask)
+        , sides(form, panels, commands)
+        , settings(frame, sides, ask)
         , windows(form, commands, views, *ui.lblTargetCD)
         , icons({ *ui.TreeView1, panels, commands, status, notes, *ui.lblSearchingApp }, ask)
         , watcher({ form, *ui.TreeView1, panels, status, *ui.lblWorking, *ui.ProgressBar1 }, ask)
@@ -65,7 +67,7 @@ struct Form1::Parts {
         , saving({ form, commands, status, notes }, ask, icons, settings, windows)
         , pictures({ form, *ui.TreeView1, panels, commands, status, notes, *ui.lblWorking }, ask,
               busy, icons, settings, windows, views)
-        , session({ frame, form, panels, commands, views, notes, *ui.lblWorking }, ask, busy,
+        , session({ frame, form, panels, commands, views, notes, *ui.lblWorking, sides }, ask, busy,
               settings, windows, documents)
         , keys(form, *ui.TreeView1, [this] { icons.RemoveSelected(); })
     {

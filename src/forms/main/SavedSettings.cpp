@@ -45,6 +45,7 @@ void SavedSettings::Save()
     const WindowsToSave windows{
         .mainWidth = size.width() * TwipsPerPixel,
         .mainHeight = size.height() * TwipsPerPixel,
+        .preview = m_sides.Preview(),
     };
     if (!SaveIni(windows))
         Tell(NotWritten);

@@ -40,7 +40,7 @@ void Session::StartUp(const QString& programFolder, const QString& userFolder)
     TransparentUse = true;
     m_settings.Load();
     TakeWorkingFolder();
-    ChooseColours();
+    ChoosePreviewColour();
     m_windows.ShowDepth();
     PaintColours();
     m_view.commands.Enable(When::Document, false);
@@ -48,6 +48,7 @@ void Session::StartUp(const QString& programFolder, const QString& userFolder)
     BitmapTable.assign(1, {});
     ReadCatalogFiles();
     ShowInFrame();
+    m_view.sides.ShowByOption();
     m_view.views.ShowByOption();
     m_view.commands.Enable({ Command::MenuPasteLG, Command::MenuPasteSM }, false);
 }
@@ -71,13 +72,6 @@ void Session::ReadCatalogFiles()
     for (const CutCatalog& cut : ReadCatalogs(show))
         notes << QString::fromStdString(NoteOf(cut));
     m_view.notes.Tell(Notes::Kind::Catalog, notes.join('\n'));
-}
-
-void Session::ChooseColours()
-{
-    R = RememberPreviewColor ? Rsave : 0;
-    G = RememberPreviewColor ? Gsave : 0;
-    B = RememberPreviewColor ? Bsave : 255;
 }
 
 void Session::PaintColours()

@@ -9,6 +9,7 @@
 #include "forms/main/Notes.h"
 #include "forms/main/SavedSettings.h"
 #include "forms/main/SettingsWindows.h"
+#include "forms/main/SideWindows.h"
 #include "forms/main/ViewEntries.h"
 
 #include <QLabel>
@@ -29,6 +30,7 @@ public:
         ViewEntries& views;
         Notes& notes;
         QLabel& working;
+        SideWindows& sides;
     };
 
     Session(const View& view, Ask& ask, BusyGuard& busy, SavedSettings& settings,
@@ -45,7 +47,6 @@ public:
 private:
     void TakeWorkingFolder();
     void ReadCatalogFiles();
-    void ChooseColours();
     void PaintColours();
     void ShowInFrame();
     void End();

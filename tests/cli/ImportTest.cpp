@@ -229,7 +229,8 @@ TEST_F(Import, SavesAsConvertDoes)
     EXPECT_NE(file.find(std::string("9.9\0", 4)), std::string::npos);
     const std::size_t first = ByteView(ReadBytes(folder.File("out.prc"))).U32(78 + 6);
     EXPECT_EQ(file[first + 6] & 0x80, 0x80) << "packed";
-    for (const json& icon : Dumped("out.prc")["icons"])
+    const json after = Dumped("out.prc");
+    for (const json& icon : after["icons"])
         EXPECT_NE(icon["kind"], "UNKNOWN");
 }
 

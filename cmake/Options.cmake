@@ -51,6 +51,15 @@ function(vypx_target name)
     target_link_libraries(${name} PRIVATE vypx_flags)
 endfunction()
 
+# Programs of tests: most of a build's time is theirs, and nobody waits for their own loops. Lines in
+# a debugger are all that is kept.
+function(vypx_test_target name)
+    vypx_target(${name})
+    if(NOT MSVC)
+        target_compile_options(${name} PRIVATE -O0 -g1)
+    endif()
+endfunction()
+
 # A room below the windows: the sources of one folder of src/ as a static library.
 # What it may include is what it links, so an include upward does not link, and Qt not at all.
 function(vypx_room name)

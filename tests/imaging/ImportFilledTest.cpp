@@ -115,9 +115,7 @@ TEST_P(ImportFilled, DrawsAndCounts)
 
     Import(slot, Many(10, 9));
 
-    EXPECT_THAT(host.steps,
-        ElementsAre("choose", "load in.bmp", "folder", "colour " + Letters(), "draw " + Letters(),
-            "stats"));
+    EXPECT_EQ(host.steps, StepsOfAnImport());
     EXPECT_EQ(isLG ? StatHighRes : StatLowRes, 2);
 }
 

@@ -169,6 +169,12 @@ protected:
     const bool isLG = &slot == &SlotLG;
 
     std::string Letters() const { return std::string(slot.letters); }
+    /// What the host is told of an import from a dialog that came to its end.
+    std::vector<std::string> StepsOfAnImport() const
+    {
+        return { "choose", "load in.bmp", "folder", "colour " + Letters(), "draw " + Letters(),
+            "stats" };
+    }
 };
 
 inline std::string SlotName(const ::testing::TestParamInfo<const Slot*>& info)

@@ -55,16 +55,17 @@ void CompleteClaim(PictureSource& source)
     source.file.seek(0);
     QImageReader reader(&source.file, source.FormatName());
     reader.setAutoDetectImageFormat(false);
+    const QSize size = reader.size();
+    if (size.isEmpty())
+        return; // of a header that is broken some readers tell a format which is no format at all
     if (source.claim.width == 0) {
-        const QSize size = reader.size();
-        source.claim.width = std::max(size.width(), 0);
-        source.claim.height = std::max(size.height(), 0);
+        source.claim.width = size.width();
+        source.claim.height = size.height();
     }
     const QImage::Format pixels = reader.imageFormat();
-    if (pixels != QImage::Format_Invalid)
+    if (pixels > QImage::Format_Invalid && pixels < QImage::NImageFormats)
         source.claim.pixelBytes =
             std::max(source.claim.pixelBytes, QImage::toPixelFormat(pixels).bitsPerPixel() / 8);
-    source.file.seek(0);
 }
 
 std::string WhyTooLarge(const HeaderClaim& claim)
@@ -110,8 +111,8 @@ QImage Decode(PictureSource& source, QImageIOHandler::Transformations& turn)
         FileBytes bytes(source.file);
         if (QImage image = source.format->read(bytes); !image.isNull())
             return image;
-        source.file.seek(0);
     }
+    source.file.seek(0);
     QImageReader reader(&source.file, source.FormatName());
     reader.setAutoDetectImageFormat(false);
     reader.setAutoTransform(false); // the copy turns it: no second picture is needed

@@ -37,12 +37,12 @@ HeaderClaim ClaimOfBmp(FileBytes& file)
         .width = isOld ? static_cast<std::int64_t>(file.Little(18, 2)) : file.LittleSigned(18),
         .height =
             isOld ? static_cast<std::int64_t>(file.Little(20, 2)) : std::abs(file.LittleSigned(22)),
+        .leavesGaps = true,
     };
     const auto bits = static_cast<std::int64_t>(file.Little(isOld ? 24 : 28, 2));
     const std::uint64_t compression = isOld ? 0 : file.Little(30, 4);
     if (claim.width < 1 || claim.height < 1 || bits < 1 || bits > 32)
         throw BrokenFile("sides or bits of a BMP");
-    claim.leavesGaps = compression == 1 || compression == 2;
     if (compression == 0 || compression == 3 || compression == 6) {
         const std::int64_t rowSize = (claim.width * bits + 31) / 32 * 4;
         const auto pixels = static_cast<std::int64_t>(file.Little(10, 4));
@@ -107,6 +107,11 @@ HeaderClaim ClaimOfIco(FileBytes& file)
         // Readers go by the one or by the other.
         claim.width = std::max<std::int64_t>(file.U8(6), file.LittleSigned(icon + 4));
         claim.height = std::max<std::int64_t>(file.U8(7), file.LittleSigned(icon + 8) / 2);
+        const std::uint64_t bits = file.Little(icon + 14, 2), colours = file.Little(icon + 32, 4);
+        constexpr std::uint64_t Known[] = { 1, 4, 8, 24, 32 };
+        if (std::find(std::begin(Known), std::end(Known), bits) == std::end(Known)
+            || (bits <= 8 && colours > 1u << bits))
+            throw BrokenFile("bits or colours of an icon");
     }
     if (claim.width < 1 || claim.height < 1)
         throw BrokenFile("sides of an icon");

@@ -23,6 +23,7 @@ HeaderClaim ClaimOfBmp(FileBytes& file);
 HeaderClaim ClaimOfGif(FileBytes& file);
 HeaderClaim ClaimOfIco(FileBytes& file);
 HeaderClaim ClaimOfJpeg(FileBytes& file);
+HeaderClaim ClaimOfPnm(FileBytes& file);
 HeaderClaim ClaimOfTiff(FileBytes& file);
 HeaderClaim ClaimOfWebP(FileBytes& file);
 

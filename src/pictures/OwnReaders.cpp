@@ -1,5 +1,7 @@
 #include "pictures/OwnReaders.h"
 
+#include "pictures/HeaderClaims.h"
+
 #include <algorithm>
 #include <array>
 #include <bit>
@@ -152,6 +154,8 @@ public:
             throw BrokenFile("numbers of a PNM");
     }
 
+    HeaderClaim Claim() const { return { .width = m_width, .height = m_height }; }
+
     QImage Read()
     {
         const bool isColour = m_kind == 3 || m_kind == 6;
@@ -235,6 +239,8 @@ private:
 };
 
 } // namespace
+
+HeaderClaim ClaimOfPnm(FileBytes& file) { return PnmReader(file).Claim(); }
 
 QImage ReadPnm(FileBytes& file) { return PnmReader(file).Read(); }
 

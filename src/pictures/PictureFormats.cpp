@@ -17,7 +17,7 @@ constexpr PictureFormat Formats[] = {
     { "webp", "webp", ClaimOfWebP, nullptr },
     { "tiff", "tif tiff", ClaimOfTiff, nullptr },
     { "ico", "ico", ClaimOfIco, ReadIconOf32Bits },
-    { "ppm", "pbm pgm pnm ppm", nullptr, ReadPnm }, // all three by one name
+    { "ppm", "pbm pgm pnm ppm", ClaimOfPnm, ReadPnm }, // all three by one name
     { "xpm", "xpm", nullptr, nullptr },
     { "xbm", "xbm", nullptr, nullptr },
 };

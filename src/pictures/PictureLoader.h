@@ -20,8 +20,8 @@ namespace vypx {
 /// where one takes 8 bytes or the file is a progressive JPEG. Nothing throws.
 LoadedPicture LoadPicture(const std::string& path);
 
-/// Pixels that the file's header claims, without decoding it; 0 when they can't be told, as of a file
-/// that is no picture.
+/// Pixels that the file's header claims, without decoding it; 0 when they can't be told, as of a
+/// file that is no picture.
 std::int64_t PixelsClaimed(const std::string& path);
 
 /// Endings of the files that can be loaded here, in lower case without a point, sorted.

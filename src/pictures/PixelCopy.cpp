@@ -113,22 +113,25 @@ const QRgb* PixelsOf(const QImage& rows, int y)
 /// Copies rows whose first is the image's row `first`.
 void CopyRows(const QImage& rows, int first, const Turned& turned, std::uint8_t* pixels)
 {
+    const int width = rows.width(), height = rows.height();
     if (turned.IsOnItsSide()) {
         // Column by column, so that neighbours are written one after the other.
-        for (int x = 0; x < rows.width(); ++x)
-            for (int y = 0; y < rows.height(); ++y)
-                CopyPixel(PixelsOf(rows, y)[x], pixels + turned.Place(x, first + y) * 3);
+        const QRgb* const from = PixelsOf(rows, 0);
+        const auto nextRow = static_cast<std::ptrdiff_t>(rows.bytesPerLine() / sizeof(QRgb));
+        for (int x = 0; x < width; ++x)
+            for (int y = 0; y < height; ++y)
+                CopyPixel(from[y * nextRow + x], pixels + turned.Place(x, first + y) * 3);
         return;
     }
     const std::ptrdiff_t step = turned.StepRight() * 3;
-    for (int y = 0; y < rows.height(); ++y) {
+    for (int y = 0; y < height; ++y) {
         const QRgb* const from = PixelsOf(rows, y);
         std::uint8_t* to = pixels + turned.Place(0, first + y) * 3;
         if (step == 3) // apart: compilers make vectors of it
-            for (int x = 0; x < rows.width(); ++x)
+            for (int x = 0; x < width; ++x)
                 CopyPixel(from[x], to + x * 3);
         else
-            for (int x = 0; x < rows.width(); ++x, to += step)
+            for (int x = 0; x < width; ++x, to += step)
                 CopyPixel(from[x], to);
     }
 }
@@ -137,9 +140,10 @@ void NoteTransparent(
     const QImage& rows, int first, const Turned& turned, std::vector<bool>& isTransparent)
 {
     constexpr int FirstOpaque = 128;
-    for (int y = 0; y < rows.height(); ++y) {
+    const int width = rows.width(), height = rows.height();
+    for (int y = 0; y < height; ++y) {
         const QRgb* const from = PixelsOf(rows, y);
-        for (int x = 0; x < rows.width(); ++x)
+        for (int x = 0; x < width; ++x)
             if (qAlpha(from[x]) < FirstOpaque)
                 isTransparent[static_cast<std::size_t>(turned.Place(x, first + y))] = true;
     }

@@ -61,6 +61,9 @@ public:
             + " pixels; this slot takes " + SizeText(TargetWidth, TargetHeight) + " at most.";
     }
 
+    void LowResFailed() override { m_lowResFailed = true; }
+
+    bool HasLowResFailed() const { return m_lowResFailed; }
     const std::string& Told() const { return m_told; }
 
 private:
@@ -70,6 +73,7 @@ private:
     }
 
     std::string m_told;
+    bool m_lowResFailed = false;
 };
 
 /// What a list or a name in it says must not move the cursor of a terminal, nor fill it.
@@ -80,9 +84,15 @@ std::string Printable(std::string_view utf8)
     while (length < utf8.size() && (utf8[length] & 0xC0) == 0x80)
         --length; // back to where a character begins
     std::string printable(utf8.substr(0, length));
-    for (char& letter : printable)
-        if (static_cast<unsigned char>(letter) < ' ' || letter == '\x7F')
-            letter = '?';
+    for (std::size_t i = 0; i < printable.size(); ++i) {
+        const auto letter = static_cast<unsigned char>(printable[i]);
+        if (letter < ' ' || letter == 0x7F)
+            printable[i] = '?';
+        // U+0080 to U+009F, C2 80 to C2 9F in UTF-8, are control characters to some.
+        if (letter == 0xC2 && i + 1 < printable.size()
+            && static_cast<unsigned char>(printable[i + 1]) < 0xA0)
+            printable.replace(i, 2, "?");
+    }
     return length < utf8.size() ? printable + "..." : printable;
 }
 
@@ -100,10 +110,10 @@ bool Follow(const PictureLine& line, const IconRow& icon)
     DroppedFileName = line.path;
     ToolHost host;
     const ImportResult result = ImportPicture(*line.slot, host);
-    // A picture that came in may have made no low-res one.
+    // A picture that came in may have no half to make a low-res one of.
     if (!host.Told().empty())
         TellOfLine(line, host.Told());
-    return result == ImportResult::Stored;
+    return result == ImportResult::Stored && !host.HasLowResFailed();
 }
 
 /// The same, of a line that nothing is known of.

@@ -8,6 +8,7 @@ void ForgetUndo()
     CurrentImageName.clear();
     CurrentImageNameSM.clear();
     BackedUp.clear();
+    CropResultReady = CropForLG = CropForSM = false;
 }
 
 void ResetPictureState()
@@ -15,7 +16,6 @@ void ResetPictureState()
     ForgetUndo();
     ImageFile.clear();
     TargetWidth = TargetHeight = 0;
-    CropResultReady = CropForLG = CropForSM = false;
     picbuff = {};
     ScratchTransparent.reset();
 }

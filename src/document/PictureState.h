@@ -32,7 +32,7 @@ inline std::string CurrentImageName, CurrentImageNameSM;
 /// hold others, of documents before.
 inline std::set<std::string> BackedUp;
 
-/// A document begins or ends: no undo reaches beyond it.
+/// A document begins or ends: no undo and no return from the crop window reaches beyond it.
 void ForgetUndo();
 
 /// Puts all of the above back to what it is when the process starts.

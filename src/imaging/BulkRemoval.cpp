@@ -12,8 +12,11 @@ void RemoveAllImages(const Slot& slot)
 {
     IconsetChanged = true;
     std::unordered_set<std::string> removed;
-    for (IconRow& row : IconTable)
+    for (IconRow& row : IconTable) {
         removed.insert(std::exchange(row.*slot.fileCell, std::string(NoImage)));
+        // One that was deleted before has no cell, but a backup.
+        BackedUp.erase(row.ResourceKey + std::string(slot.fileSuffix));
+    }
     std::erase_if(BitmapTable, [&](const BitmapEntry& bitmap) {
         return removed.contains(bitmap.file) || !LabelHolds(bitmap.file, ".bmp");
     });

@@ -11,6 +11,7 @@
 #include "imaging/WorkingPicture.h"
 #include "settings/Settings.h"
 
+#include <new>
 #include <utility>
 
 namespace vypx {
@@ -31,6 +32,7 @@ public:
 private:
     void Begin();
     ImportResult BringIn();
+    ImportResult Fail(const std::string& why);
     bool Choose();
     void LoadIntoBuffer();
     ImportResult SendToCrop();
@@ -58,12 +60,19 @@ ImportResult Import::Run()
         Begin();
     try {
         return BringIn();
+    } catch (const std::bad_alloc&) {
+        return Fail("There is not enough memory for the picture.");
     } catch (const std::exception& failure) {
-        // No box tells of it. The backup, and what it is known by, stay.
-        m_host.Note(failure.what());
-        m_host.Enable(m_slot.ofUndo, false);
-        return ImportResult::Failed;
+        return Fail(failure.what());
     }
+}
+
+/// No box tells of it. The backup, and what it is known by, stay.
+ImportResult Import::Fail(const std::string& why)
+{
+    m_host.Note(why);
+    m_host.Enable(m_slot.ofUndo, false);
+    return ImportResult::Failed;
 }
 
 /// What comes before the user has chosen anything.
@@ -125,6 +134,7 @@ ImportResult Import::SendToCrop()
 {
     WriteScratch(picbuff);
     ImageFile = ScratchPath();
+    CropForLG = CropForSM = false; // what waited for it before waits no more
     m_slot.cropFor = true;
     m_host.ShowCrop(m_slot);
     return ImportResult::Cropping;
@@ -183,14 +193,16 @@ ImportResult Import::Store()
 /// Writes the picture and reads it back, so that what follows sees the reduced colours.
 void Import::StoreFile(const std::string& path)
 {
+    if (m_host.Depth() != ColorDepth::Other) {
+        picbuff = { .pixels = StoreWorkingPicture(path, picbuff, m_host.Depth()) };
+        return;
+    }
     // On purpose: at a depth of none of the three words an old file stays what it is.
-    if (!StoreWorkingPicture(path, picbuff, m_host.Depth()) && StoresNew())
+    std::optional<Picture> old = StoresNew() ? std::nullopt : ReadWorkingPicture(path);
+    if (!old)
         throw PictureFault(
-            "The picture could not be stored: " + DefaultColorDepthWord() + " is no color depth.");
-    std::optional<Picture> stored = ReadWorkingPicture(path);
-    if (!stored)
-        throw PictureFault("The stored picture can't be read.");
-    picbuff = { .pixels = std::move(*stored) };
+            "The picture could not be stored: " + OtherDepthWord + " is no color depth.");
+    picbuff = { .pixels = std::move(*old) };
 }
 
 void Import::TakeNewFile(const std::string& name)
@@ -214,10 +226,13 @@ void Import::MakeLowRes()
     if (!m_slot.makesLowRes || !AutoCreateLowRes || !LowResPath.empty())
         return;
     try {
-        ImportLowRes(m_host);
+        const ImportResult result = ImportLowRes(m_host);
+        if (result == ImportResult::Stored || result == ImportResult::NoHalf)
+            return;
     } catch (const std::exception& failure) {
         m_host.Note(failure.what());
     }
+    m_host.LowResFailed();
 }
 
 } // namespace

@@ -11,6 +11,7 @@ enum class ImportResult {
     Cancelled, ///< no file was chosen
     Refused,   ///< a box told why; the slot is as it was
     Failed,    ///< a note tells why; the slot is as it was
+    NoHalf,    ///< the same, of a low-res picture: the high-res one is too small to be halved
 };
 
 /// Bring a picture file into the high-res or the low-res slot of the selected icon: the one that

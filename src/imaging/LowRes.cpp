@@ -58,15 +58,23 @@ ImportResult ImportLowRes(PictureHost& host)
     const TakesFile takesFile(ScratchPath());
     const bool isMade = CreateLowRes(host.Depth());
     const ImportResult result = ImportSM(host); // which fails without a scratch picture
-    if (!isMade)
-        host.Note("There is no low-res picture: the high-res one is too small to be halved.");
-    return result;
+    if (result == ImportResult::Cropping)
+        ScratchTransparent = HighResMask(); // or the cut would mix it with other colours
+    if (isMade)
+        return result;
+    host.Note("There is no low-res picture: the high-res one is too small to be halved.");
+    return ImportResult::NoHalf;
 }
 
 void ReplaceLowRes(PictureHost& host)
 {
-    if (ImportLowRes(host) != ImportResult::Cropping)
+    if (ImportLowRes(host) == ImportResult::Cropping)
+        return;
+    try {
         CreateLowRes(host.Depth());
+    } catch (const PictureFault&) {
+        // The low-res picture stands, or a note has told why not.
+    }
 }
 
 } // namespace vypx

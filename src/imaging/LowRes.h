@@ -14,7 +14,7 @@ bool CreateLowRes(ColorDepth depth);
 /// Throws PictureFault as above.
 ImportResult ImportLowRes(PictureHost& host);
 
-/// The same for the command, which leaves a scratch picture behind.
+/// The same for the command, which leaves a scratch picture behind where it can.
 void ReplaceLowRes(PictureHost& host);
 
 } // namespace vypx

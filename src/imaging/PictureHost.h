@@ -39,6 +39,8 @@ public:
     /// The panel is told of no picture any more: picture, size, colour and swatch go.
     virtual void ClearPanel(const Slot&) { }
     virtual void Draw(const Slot&) { }
+    /// A high-res picture came in, but the low-res one, that it has a half for, did not.
+    virtual void LowResFailed() { }
     /// The scratch picture waits to be cut to the slot's size.
     virtual void ShowCrop(const Slot&) { }
     /// The icons were counted anew.

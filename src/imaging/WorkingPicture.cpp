@@ -42,16 +42,19 @@ std::optional<Picture> ReadWorkingPicture(const std::string& path)
     return file ? DecodeBmp(ByteView(*file)) : std::nullopt;
 }
 
-bool StoreWorkingPicture(const std::string& path, const MaskedPicture& picture, ColorDepth depth)
+Picture StoreWorkingPicture(const std::string& path, const MaskedPicture& picture, ColorDepth depth)
 {
-    if (depth == ColorDepth::Other)
-        return false;
     const Picture ready = ReadyToStore(picture, BitsOf(depth));
-    const std::error_code error = ReplaceWorkingFile(
-        path, [&](const std::string& file) { return WriteAtDepth(ready, depth, file); });
+    std::optional<Picture> stored;
+    const std::error_code error = ReplaceWorkingFile(path, [&](const std::string& file) {
+        if (const std::error_code notWritten = WriteAtDepth(ready, depth, file))
+            return notWritten;
+        stored = ReadWorkingPicture(file); // before the old file is gone
+        return stored ? std::error_code() : std::make_error_code(std::errc::io_error);
+    });
     if (error)
         throw PictureFault(FaultText(LastComponent(path) + " could not be stored", error));
-    return true;
+    return std::move(*stored);
 }
 
 std::string ScratchPath() { return WorkPath(ScratchName); }
@@ -69,8 +72,10 @@ void WriteScratch(const MaskedPicture& picture)
 
 void DeleteScratch()
 {
-    std::error_code gone;
-    std::filesystem::remove(platform::NativePath(ScratchPath()), gone);
+    std::error_code error;
+    std::filesystem::remove(platform::NativePath(ScratchPath()), error);
+    if (error)
+        throw PictureFault(FaultText(std::string(ScratchName) + " could not be removed", error));
     ScratchTransparent.reset();
 }
 

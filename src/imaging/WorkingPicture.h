@@ -18,14 +18,15 @@ const std::string& SelectedText();
 std::optional<Picture> ReadWorkingPicture(const std::string& path);
 
 /// Replaces the working file by the picture, reduced to that depth, in one step; the old file
-/// stands after a failure. False: there is no such depth (`Other`), and nothing was written.
-/// Throws PictureFault.
-bool StoreWorkingPicture(const std::string& path, const MaskedPicture& picture, ColorDepth depth);
+/// stands after a failure. Gives the picture as it can be read from there. Throws PictureFault.
+Picture StoreWorkingPicture(
+    const std::string& path, const MaskedPicture& picture, ColorDepth depth);
 
 /// The scratch picture, through which pictures reach the crop window and the low-res slot.
 std::string ScratchPath();
 /// Replaces it. Throws PictureFault.
 void WriteScratch(const MaskedPicture& picture);
+/// Throws PictureFault: a stale one must not be taken for the next.
 void DeleteScratch();
 
 /// Sets the file cell of the slot in every row with that label, or with that resource.

@@ -15,10 +15,11 @@ class FileBytes {
 public:
     explicit FileBytes(QIODevice& file)
         : m_file(file)
+        , m_size(file.size())
     {
     }
 
-    std::int64_t Size() const { return m_file.size(); }
+    std::int64_t Size() const { return m_size; }
 
     std::uint8_t U8(std::int64_t offset)
     {
@@ -51,7 +52,7 @@ private:
     void Fetch(std::int64_t offset)
     {
         m_begin = m_end = 0;
-        if (offset < 0 || offset >= m_file.size() || !m_file.seek(offset))
+        if (offset < 0 || offset >= m_size || !m_file.seek(offset))
             throw PastTheEnd();
         const std::int64_t got =
             m_file.read(reinterpret_cast<char*>(m_part.data()), static_cast<qint64>(m_part.size()));
@@ -62,6 +63,7 @@ private:
     }
 
     QIODevice& m_file;
+    const std::int64_t m_size; // kept: to ask the system for each byte would take ten times as long
     std::int64_t m_begin = 0, m_end = 0; // of the part that is here
     std::array<std::uint8_t, 16384> m_part{};
 };

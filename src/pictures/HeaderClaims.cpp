@@ -182,6 +182,8 @@ HeaderClaim ClaimOfJpeg(FileBytes& file)
     bool isProgressive = false;
     for (std::int64_t scans = 0; walk.Next();) {
         if (walk.IsFrame()) {
+            if (claim.width > 0)
+                throw BrokenFile("a second frame in a JPEG");
             isProgressive = walk.IsProgressiveFrame();
             claim.height = static_cast<std::int64_t>(file.Big(walk.Body() + 1, 2));
             claim.width = static_cast<std::int64_t>(file.Big(walk.Body() + 3, 2));

@@ -208,7 +208,7 @@ private:
         switch (m_kind) {
         case 1:
             SkipBlanks();
-            return Next() == '0' ? 255 : 0;
+            return BitSample();
         case 4:
             m_bits = i % 8 == 0 ? Next() : m_bits << 1;
             return (m_bits & 0x80) != 0 ? 0 : 255;
@@ -219,6 +219,14 @@ private:
         default:
             return RawSample();
         }
+    }
+
+    int BitSample()
+    {
+        const std::uint8_t digit = Next();
+        if (digit != '0' && digit != '1')
+            throw BrokenFile("a digit of a PBM");
+        return digit == '0' ? 255 : 0;
     }
 
     int RawSample()

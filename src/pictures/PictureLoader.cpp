@@ -100,6 +100,8 @@ std::string Open(PictureSource& source, const std::string& path)
     if (!source.claim.whyNot.empty())
         return source.claim.whyNot;
     CompleteClaim(source);
+    if (source.claim.width < 1 || source.claim.height < 1)
+        return Broken;
     return WhyTooLarge(source.claim);
 }
 
@@ -120,7 +122,8 @@ QImage Decode(PictureSource& source, QImageIOHandler::Transformations& turn)
     QImage image;
     if (source.claim.leavesGaps) {
         // Readers take a picture of the right size and format as it is.
-        image = QImage(reader.size(), reader.imageFormat());
+        image = QImage(static_cast<int>(source.claim.width), static_cast<int>(source.claim.height),
+            reader.imageFormat());
         image.fill(0);
     }
     return reader.read(&image) ? image : QImage();
@@ -142,7 +145,9 @@ LoadedPicture Load(const std::string& path)
     };
     if (std::string whyNot = WhyTooLarge(decoded); !whyNot.empty())
         return { {}, std::move(whyNot) };
-    return { CopyPixels(std::move(image), turn), {} };
+    const bool isPng = source.FormatName() == "png";
+    return { CopyPixels(std::move(image), turn, isPng ? GammaMark::IsSRgb : GammaMark::Counts),
+        {} };
 }
 
 QLoggingCategory::CategoryFilter filterBefore = nullptr;
@@ -192,7 +197,7 @@ std::int64_t PixelsClaimed(const std::string& path)
         PictureSource source;
         Open(source, path);
         return source.claim.width * source.claim.height;
-    } catch (const BrokenFile&) {
+    } catch (const std::exception&) {
         return 0;
     }
 }

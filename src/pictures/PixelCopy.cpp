@@ -45,12 +45,13 @@ private:
 /// Whether colours need no conversion. A PNG that tells nothing but a gamma of 1/2.2 with the
 /// colours of sRGB was written by a program that knew of no sRGB mark; its pixels are as meant for
 /// a screen, and each other program shows them as they are.
-bool IsPlain(const QColorSpace& space)
+bool IsPlain(const QColorSpace& space, GammaMark mark)
 {
     const QColorSpace plain(QColorSpace::SRgb);
     if (!space.isValid() || space == plain)
         return true;
-    return space.transferFunction() == QColorSpace::TransferFunction::Gamma
+    return mark == GammaMark::IsSRgb
+        && space.transferFunction() == QColorSpace::TransferFunction::Gamma
         && std::abs(space.gamma() - 2.2F) < 0.02F
         && space.withTransferFunction(QColorSpace::TransferFunction::SRgb) == plain;
 }
@@ -58,10 +59,10 @@ bool IsPlain(const QColorSpace& space)
 /// Some rows of a picture in a format of which each pixel is a QRgb.
 class Strips {
 public:
-    explicit Strips(const QImage& image)
+    Strips(const QImage& image, GammaMark mark)
         : m_image(image)
         , m_hasAlpha(image.hasAlphaChannel())
-        , m_isPlain(IsPlain(image.colorSpace()))
+        , m_isPlain(IsPlain(image.colorSpace(), mark))
         , m_format(m_hasAlpha ? QImage::Format_ARGB32 : QImage::Format_RGB32)
     {
         if (!m_isPlain)
@@ -151,13 +152,13 @@ void NoteTransparent(
 
 } // namespace
 
-MaskedPicture CopyPixels(QImage image, QImageIOHandler::Transformations turn)
+MaskedPicture CopyPixels(QImage image, QImageIOHandler::Transformations turn, GammaMark mark)
 {
     const Turned turned(image, turn);
     Picture picture(turned.Width(), turned.Height());
     std::vector<bool> isTransparent;
     {
-        const Strips strips(image);
+        const Strips strips(image, mark);
         if (strips.HasAlpha())
             isTransparent.resize(
                 static_cast<std::size_t>(image.width()) * static_cast<std::size_t>(image.height()));

@@ -133,7 +133,7 @@ TEST_F(ImportList, TextThatIsNoUtf8IsTold)
              "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xF8\x88\x80\x80\x80", "\xF0\x9F\x98" })
         EXPECT_EQ(ToldOf("tAIB3507\tlow\t" + std::string(text)), "This is no UTF-8 text.")
             << json(Bytes(text, text + std::string_view(text).size()));
-    for (const char* text : { "\xC2\x80", "\xED\x9F\xBF", "\xEE\x80\x80", "\xF4\x8F\xBF\xBF" })
+    for (const char* text : { "\xC2\xA0", "\xED\x9F\xBF", "\xEE\x80\x80", "\xF4\x8F\xBF\xBF" })
         EXPECT_EQ(ToldOf("tAIB3507\tlow\t" + std::string(text)),
             std::string(text) + " was not imported: it is not there.");
 }
@@ -147,6 +147,9 @@ TEST_F(ImportList, AZeroByteEndsNoPath)
 TEST_F(ImportList, WhatItSaysDoesNotMoveTheCursor)
 {
     EXPECT_EQ(ToldOf("\x1B[2J\x7F\tlow\tp.ppm"), "No icon has the label or resource \"?[2J?\".");
+    EXPECT_EQ(ToldOf("tAIB3507\tlow\t\xC2\x9B"
+                     "2J\xC2\x80"),
+        "?2J? was not imported: it is not there.");
     EXPECT_EQ(ToldOf("tAIB3507\tlow\t\x1B[2J"), "?[2J was not imported: it is not there.");
 }
 

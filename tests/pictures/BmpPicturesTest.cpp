@@ -4,6 +4,7 @@
 #include "support/Iconsets.h"
 #include "support/TempFolder.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 /// BMP files of which each byte is worked out by hand.
@@ -53,6 +54,26 @@ TEST(LoadBmp, RowsFromTheTopAreNotTurned)
         (Rows{ "rg", "bw" }));
     EXPECT_EQ(Letters(LoadBytes(Join({ BmpHeader(2, 2, 24, 0, 0), rows })).picture),
         (Rows{ "bw", "rg" }));
+}
+
+/// What runs pass over is colour 0, and nothing of what the memory held before.
+TEST(LoadBmp, GapsOfRunsAreFilledWhicheverWayTheRowsGo)
+{
+    for (const int height : { 16, -16 }) {
+        const Bytes file =
+            Join({ BmpHeader(16, height, 8, 1, 2), Hex("FFFFFF00 0000FF00"), Hex("01 01 00 01") });
+        const Bytes dirt(1 << 16, 0xAB); // what is freed here may be what the reader gets
+        const LoadedPicture loaded = LoadBytes(file);
+
+        ASSERT_FALSE(loaded.picture.pixels.IsNull()) << loaded.whyNot;
+        int red = 0, white = 0;
+        for (const std::string& row : Letters(loaded.picture)) {
+            red += static_cast<int>(std::count(row.begin(), row.end(), 'r'));
+            white += static_cast<int>(std::count(row.begin(), row.end(), 'w'));
+        }
+        EXPECT_EQ(red, 1) << height;
+        EXPECT_EQ(white, 255) << height;
+    }
 }
 
 constexpr const char* BlackRedGreenBlue = "00000000 0000FF00 00FF0000 FF000000";

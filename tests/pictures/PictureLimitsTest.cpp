@@ -49,6 +49,14 @@ Bytes Jpeg(Coding coding, unsigned width, unsigned height, int scans)
     return Join({ file, Hex("FFD9") });
 }
 
+/// A costly frame and its scan, then another frame that claims to be small.
+Bytes TwoFrames()
+{
+    Bytes file = Jpeg(Coding::Progressive, 8000, 8000, 1);
+    file.resize(file.size() - 2); // the end
+    return Join({ file, Hex("FFC2 000B 08 0001 0001 01 01 11 00 FFD9") });
+}
+
 /// A TIFF of 8-bit grey whose directory has these longs besides; no pixels.
 Bytes Tiff(
     unsigned width, unsigned height, std::initializer_list<std::pair<unsigned, unsigned>> more)
@@ -88,6 +96,8 @@ TEST(PictureLimits, AreHeldByWhatTheHeaderClaims)
         { Jpeg(Coding::Progressive, 7072, 7072, 1), TooManyCostlyPixels, 50'013'184 },
         { Jpeg(Coding::Progressive, 7000, 7000, 60), "it comes in too many scans", 49'000'000 },
         { Jpeg(Coding::Baseline, 40000, 1, 1), TooLong, 40000 },
+        // A second frame that claims less does not make the first one cheap.
+        { TwoFrames(), Broken, 0 },
         { Gif(10001, 10000), TooManyPixels, 100'010'000 },
         { Gif(40000, 10), TooLong, 400'000 },
         { BmpHeader(10001, 10000, 8, 1, 0), TooManyPixels, 100'010'000 },
@@ -136,6 +146,19 @@ TEST(PictureLimits, NoSmallFileTakesLongOrMuch)
 
     loads.Run(static_cast<int>(files.size()),
         [&](int number) { return files[static_cast<std::size_t>(number)]; });
+}
+
+TEST(PictureLimits, ManyNumbersAreReadQuickly)
+{
+    constexpr int Samples = 1500 * 1500 * 3;
+    Bytes file = Text("P3 1500 1500 9\n");
+    for (int i = 0; i < Samples; ++i)
+        file.insert(file.end(), { static_cast<std::uint8_t>('0' + i % 10), ' ' });
+    GuardedLoads loads;
+
+    loads.Run(1, [&](int) { return file; });
+
+    EXPECT_EQ(loads.Loaded(), 1);
 }
 
 class PictureLimitsTest : public WitnessFixture { };

@@ -91,6 +91,7 @@ public:
         colours.erase(slot.letters);
     }
     void Draw(const Slot& slot) override { Step("draw", slot); }
+    void LowResFailed() override { steps.emplace_back("no low-res"); }
     void ShowCrop(const Slot& slot) override { Step("crop", slot); }
     void StatsChanged() override { steps.emplace_back("stats"); }
 

@@ -11,6 +11,7 @@
 #include "settings/Settings.h"
 
 #include <QApplication>
+#include <QPointer>
 
 namespace vypx {
 
@@ -69,7 +70,7 @@ void PictureCommands::Run(const std::function<void()>& work)
 {
     if (m_busy.IsBusy())
         return;
-    QWidget* const focus = QApplication::focusWidget();
+    const QPointer<QWidget> focus = QApplication::focusWidget();
     m_view.notes.Tell(Notes::Kind::Picture, {});
     m_busy.Run([&] {
         try {
@@ -89,7 +90,8 @@ void PictureCommands::Run(const std::function<void()>& work)
 /// another command.
 void PictureCommands::KeepFocus(QWidget* before)
 {
-    if (before && !before->isEnabled() && m_view.form.isAncestorOf(before))
+    const bool isUsable = before && before->isEnabled() && before->isVisible();
+    if (before && !isUsable && m_view.form.isAncestorOf(before))
         m_view.tree.setFocus();
 }
 
@@ -115,32 +117,26 @@ void PictureCommands::Undo(const vypx::Slot& slot)
 
 void PictureCommands::CreateLowRes()
 {
-    if (m_busy.IsBusy())
-        return;
-    if (!LowResPath.empty()) {
-        const auto answer = m_ask.Show(&m_view.form,
-            { .text = "Are you sure you want to replace the current low res image?",
-                .title = "Replace Low Res Image?",
-                .icon = QMessageBox::Warning,
-                .buttons = QMessageBox::Ok | QMessageBox::Cancel });
-        if (answer != QMessageBox::Ok)
-            return;
-    }
-    Run([&] { ReplaceLowRes(*this); });
+    Run([&] {
+        const Box question{ .text = "Are you sure you want to replace the current low res image?",
+            .title = "Replace Low Res Image?",
+            .icon = QMessageBox::Warning,
+            .buttons = QMessageBox::Ok | QMessageBox::Cancel };
+        if (LowResPath.empty() || m_ask.Show(&m_view.form, question) == QMessageBox::Ok)
+            ReplaceLowRes(*this);
+    });
 }
 
 void PictureCommands::RemoveAll(const vypx::Slot& slot)
 {
-    if (m_busy.IsBusy())
-        return;
-    const auto answer = m_ask.Show(&m_view.form,
-        { .text = FromLatin1(slot.removalText),
-            .title = FromLatin1(slot.removalTitle),
-            .icon = QMessageBox::Information,
-            .buttons = QMessageBox::Yes | QMessageBox::No });
-    if (answer != QMessageBox::Yes)
-        return;
     Run([&] {
+        const auto answer = m_ask.Show(&m_view.form,
+            { .text = FromLatin1(slot.removalText),
+                .title = FromLatin1(slot.removalTitle),
+                .icon = QMessageBox::Information,
+                .buttons = QMessageBox::Yes | QMessageBox::No });
+        if (answer != QMessageBox::Yes)
+            return;
         RemoveAllImages(slot);
         m_views.ShowAfterRemoval(slot);
         m_icons.UpdateIconStats();

@@ -1,45 +1,13 @@
-#include "IconsFixture.h"
-
-#include "companion/BmpFile.h"
-#include "document/PictureState.h"
-
-#include <QDropEvent>
-#include <QMimeData>
+#include "PicturesFixture.h"
 
 namespace vypx::test {
 
 namespace {
 
 /// Icons to bring pictures to, at 16 bits.
-class Importing : public IconsFixture {
+class Importing : public PicturesFixture {
 protected:
     Importing() { AutoCreateLowRes = false; }
-
-    /// A BMP file of one colour, with another one at its top left corner.
-    QString PictureFile(int width, int height, Rgb colour, const std::string& name = "new.bmp")
-    {
-        vypx::Picture picture(width, height);
-        for (int y = 0; y < height; ++y)
-            for (int x = 0; x < width; ++x)
-                picture.Set(x, y, colour);
-        picture.Set(0, 0, { 8, 16, 24 });
-        return Written(EncodeBmp24(picture), name);
-    }
-    void Press(const QString& name) { QTest::mouseClick(&Find<QPushButton>(name), Qt::LeftButton); }
-    void Import(const QString& button, const QString& path)
-    {
-        ask.Choose(path);
-        Press(button);
-    }
-    QString Note()
-    {
-        const auto& note = Find<QLabel>("lblNote");
-        return note.isVisible() ? note.text() : QString();
-    }
-    std::string Cell(const std::string& label, std::string IconRow::*cell)
-    {
-        return IconTable[*FindIconRow(label)].*cell;
-    }
 };
 
 TEST_F(Importing, AChosenPictureIsStoredShownAndToldOf)
@@ -61,76 +29,38 @@ TEST_F(Importing, AChosenPictureIsStoredShownAndToldOf)
     EXPECT_EQ(Note(), "");
 }
 
-TEST_F(Importing, TheDialogOffersTheToldFilterAndAllThatCanBeLoaded)
+/// What comes back from the crop window is measured by the icon that is selected then.
+TEST_F(Importing, ATooLargePictureThatComesBackIsToldInABox)
 {
-    Click("Alpha (Large Icon)");
-    ask.CancelDialog();
+    Click("Alpha (Small Icon)");
+    TargetWidth = 64;
+    TargetHeight = 44;
+    ImageFile = PictureFile(40, 20, { 1, 2, 3 }, "cut.bmp").toStdString();
+    CropResultReady = true;
+    ask.Answer(QMessageBox::Ok);
 
     Press("cmdImportLG");
 
-    const QStringList filters = ask.opened.back().filters;
-    ASSERT_EQ(filters.size(), 2);
-    EXPECT_EQ(filters[0], "Image File (*.bmp *.jpg *.gif)");
-    EXPECT_TRUE(filters[1].startsWith("All Pictures (*."));
-    for (const char* pattern : { "*.bmp", "*.gif", "*.jpeg", "*.jpg", "*.png", "*.ppm", "*.xpm" })
-        EXPECT_TRUE(filters[1].contains(pattern)) << pattern;
-    EXPECT_FALSE(filters[1].contains("svg"));
-    EXPECT_FALSE(filters[1].contains("pdf"));
-}
-
-TEST_F(Importing, TheDialogStartsInTheLastFolderAndKeepsIt)
-{
-    UseLastDirs = true;
-    std::filesystem::create_directory(program.File("art"));
-    LastDirImageLoad = program.File("art");
-    Click("Alpha (Large Icon)");
-
-    Import("cmdImportLG", PictureFile(2, 2, { 1, 2, 3 }));
-
-    EXPECT_EQ(ask.opened.back().folder.toStdString(), program.File("art"));
-    EXPECT_EQ(LastDirImageLoad, program.Path());
-    EXPECT_NE(
-        Settings().find("Last Directory for Image Load=" + program.Path()), std::string::npos);
-}
-
-TEST_F(Importing, AFolderThatIsGoneIsNotOffered)
-{
-    UseLastDirs = true;
-    LastDirImageLoad = program.File("gone");
-    Click("Alpha (Large Icon)");
-    ask.CancelDialog();
-
-    Press("cmdImportLG");
-
-    EXPECT_EQ(ask.opened.back().folder, "");
-}
-
-TEST_F(Importing, ACancelMarksTheDocumentAndTellsNothing)
-{
-    Click("Alpha (Large Icon)");
-    ask.CancelDialog();
-
-    Press("cmdImportLG");
-
-    EXPECT_TRUE(frame->windowTitle().contains('*'));
-    EXPECT_FALSE(IsOn("cmdUndoLG"));
-    EXPECT_FALSE(CanUse("mnuUndo_LG"));
-    EXPECT_EQ(Note(), "");
+    EXPECT_EQ(ask.shown.back().title, "Image Too Large!");
+    EXPECT_EQ(ask.shown.back().text,
+        "The width of the image your are trying to paste exceeds \n the the maximum size of a "
+        "large "
+        "Low Res Icon.\n\nThe maximum width for this icon is 32 pixels.\n\nThe image you are "
+        "trying to paste is 40 pixels.");
     EXPECT_EQ(Find<QLabel>("lbl_LGsize").text(), "2 x 1 pixels");
 }
 
-TEST_F(Importing, AFileThatIsNoPictureIsToldInTheNote)
+TEST_F(Importing, AProjectOfHighResIconsGetsLowResPicturesToo)
 {
+    AutoCreateLowRes = true;
     Click("Alpha (Large Icon)");
+    Press("cmdDelSM");
+    Entry("mnuHideLowRes").trigger();
 
-    Import("cmdImportLG", Written(Hex("00 01 02 03"), "words.bmp"));
+    Import("cmdImportLG", PictureFile(64, 44, { 96, 96, 96 }));
 
-    EXPECT_TRUE(Note().startsWith("words.bmp was not imported: ")) << Note().toStdString();
-    EXPECT_FALSE(IsOn("cmdUndoLG"));
-    EXPECT_EQ(Find<QLabel>("lbl_LGsize").text(), "2 x 1 pixels");
-    ask.CancelDialog();
-    Press("cmdImportLG");
-    EXPECT_EQ(Note(), ""); // of the command before
+    EXPECT_FALSE(Find<QWidget>("frameSM").isVisible());
+    EXPECT_EQ(Cell("Alpha (Large Icon)", &IconRow::LowResFile), "tAIB3500.bmp");
 }
 
 TEST_F(Importing, ALargerPictureWaitsAndNothingElseChanges)
@@ -172,26 +102,6 @@ TEST_F(Importing, AFilledLowResSlotStaysWithTheHighResImport)
     Import("cmdImportLG", PictureFile(64, 44, { 96, 96, 96 }));
 
     EXPECT_EQ(Find<QLabel>("lbl_SMsize").text(), "2 x 1 pixels");
-}
-
-TEST_F(Importing, WhileTheDialogIsUpNoFilesCanBeDroppedAndNoPicturesRemoved)
-{
-    Click("Alpha (Large Icon)");
-    QMimeData files;
-    files.setUrls({ QUrl::fromLocalFile(program.File("other.prc").c_str()) });
-    bool dropAccepted = true;
-    ask.Choose(PictureFile(2, 2, { 1, 2, 3 }), [&] {
-        QDragEnterEvent enter({ 5, 5 }, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
-        enter.ignore();
-        QCoreApplication::sendEvent(frame.get(), &enter);
-        dropAccepted = enter.isAccepted();
-        Entry("mnuRemoveHR").trigger();
-    });
-
-    Press("cmdImportLG");
-
-    EXPECT_FALSE(dropAccepted);
-    EXPECT_EQ(Find<QLabel>("lbl_LGsize").text(), "2 x 2 pixels");
 }
 
 TEST_F(Importing, ADocumentWithTheImportedPictureIsSavedAndOpenedAgain)

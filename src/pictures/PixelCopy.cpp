@@ -118,7 +118,7 @@ void CopyRows(const QImage& rows, int first, const Turned& turned, std::uint8_t*
     if (turned.IsOnItsSide()) {
         // Column by column, so that neighbours are written one after the other.
         const QRgb* const from = PixelsOf(rows, 0);
-        const auto nextRow = static_cast<std::ptrdiff_t>(rows.bytesPerLine() / sizeof(QRgb));
+        const auto nextRow = rows.bytesPerLine() / static_cast<std::ptrdiff_t>(sizeof(QRgb));
         for (int x = 0; x < width; ++x)
             for (int y = 0; y < height; ++y)
                 CopyPixel(from[y * nextRow + x], pixels + turned.Place(x, first + y) * 3);

@@ -185,6 +185,23 @@ TEST(LoadIcon, AlphaCountsAndTheMaskOnlyWhereThereIsNone)
         << "unblended";
 }
 
+TEST(LoadIcon, MoreColoursThanTheBitsTellAreBroken)
+{
+    const Bytes entry = Hex("0000 0100 0100 02 01 00 00 0100 0400 70000000 16000000");
+    for (const int colours : { 16, 17, -1 }) {
+        Bytes header = BmpHeader(2, 2, 4, 0, colours);
+        header.erase(header.begin(), header.begin() + 14);
+        // Table, a row of the pixels 1 and 1, a row of the mask.
+        const Bytes icon = Join({ entry, header, Hex("00000000 0000FF00"), Bytes(14 * 4, 0),
+            Hex("11000000 00000000") });
+
+        const LoadedPicture loaded = LoadBytes(icon);
+
+        EXPECT_EQ(loaded.whyNot.empty(), colours == 16) << colours;
+        EXPECT_EQ(Letters(loaded.picture), colours == 16 ? Rows{ "rr" } : Rows()) << colours;
+    }
+}
+
 } // namespace
 
 } // namespace vypx::test

@@ -118,11 +118,13 @@ TEST_P(BulkRemoval, LeavesTheWorkingFiles)
 TEST_P(BulkRemoval, TakesThePictureOnShowAndNoOther)
 {
     Select(Large);
+    ASSERT_TRUE(slot.hasTransparent);
 
     Remove();
 
     EXPECT_EQ(slot.path, "");
     EXPECT_FALSE(slot.loaded);
+    EXPECT_FALSE(slot.hasTransparent);
     EXPECT_EQ(other.path, WorkPath(NameFor(other, Large)));
     EXPECT_TRUE(other.loaded);
 }
@@ -238,6 +240,25 @@ TEST_P(BulkRemoval, ForgetsThePictureOnShow)
     EXPECT_EQ(slot.path, "");
     EXPECT_FALSE(slot.loaded);
     EXPECT_EQ(Cell(slot, Large), NameFor(slot, Large)) << "the document has it still";
+}
+
+class BulkRemovalOfHighRes : public Pictures { };
+
+/// Undo of a low-res import goes by the name of the high-res picture.
+TEST_F(BulkRemovalOfHighRes, LeavesNoBackupToUndoOfTheOtherSlot)
+{
+    Fill(SlotLG, Large, Many(8, 8));
+    Fill(SlotSM, Large, Many(8, 8));
+    Select(Large);
+    Import(SlotLG, Many(4, 4));
+    Import(SlotSM, Many(5, 5));
+    RemoveAllImages(SlotLG);
+    ForgetPictureOnShow(SlotLG);
+    const auto before = State();
+
+    UndoChange(SlotSM, host);
+
+    EXPECT_TRUE(State() == before);
 }
 
 } // namespace

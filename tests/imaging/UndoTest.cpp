@@ -184,6 +184,7 @@ TEST_P(Undo, ThatRestoresTakesTheMaskFromTheCornerWhateverItWas)
     Fill(slot, Large, Many(8, 8, { 40, 50, 60 }), Rgb{ 0, 255, 0 });
     Select(Large);
     DeleteImage(slot, host);
+    slot.hasTransparent = false; // as a draw of the empty panel leaves it
 
     UndoChange(slot, host);
 

@@ -2,6 +2,7 @@
 
 #include "companion/NearestColour.h"
 
+#include <algorithm>
 #include <climits>
 #include <cstdint>
 #include <optional>
@@ -79,24 +80,21 @@ private:
     std::size_t m_winner = 0;
 };
 
-/// The nearest of the 5-6-5 colours but for the one that `colour` is narrowed to. It is a step away
-/// along one component: each step more, along any, leads farther away.
+/// The nearest of the 5-6-5 colours but for the one that `colour` is narrowed to. It is at most a
+/// step away along each component: a step more leads farther away. Several steps at once can be as
+/// near as one, where a component lies in the middle of two levels.
 Rgb NearestNeighbour565(Rgb colour)
 {
-    struct Step {
-        int by, mask;
-    };
-    constexpr Step Down[] = { { 1 << 11, 31 << 11 }, { 1 << 5, 63 << 5 }, { 1, 31 } };
-    constexpr Step Up[] = { { 1, 31 }, { 1 << 5, 63 << 5 }, { 1 << 11, 31 << 11 } };
-
     const int value = To565(colour);
+    const int red = value >> 11, green = value >> 5 & 63, blue = value & 31;
     Contest contest(colour);
-    for (const Step& step : Down)
-        if ((value & step.mask) != 0)
-            contest.Offer(static_cast<std::size_t>(value - step.by), From565(value - step.by));
-    for (const Step& step : Up)
-        if ((value & step.mask) != step.mask)
-            contest.Offer(static_cast<std::size_t>(value + step.by), From565(value + step.by));
+    for (int r = std::max(red - 1, 0); r <= std::min(red + 1, 31); ++r)
+        for (int g = std::max(green - 1, 0); g <= std::min(green + 1, 63); ++g)
+            for (int b = std::max(blue - 1, 0); b <= std::min(blue + 1, 31); ++b) {
+                const int other = r << 11 | g << 5 | b;
+                if (other != value)
+                    contest.Offer(static_cast<std::size_t>(other), From565(other));
+            }
     return From565(static_cast<int>(contest.Winner()));
 }
 

@@ -104,6 +104,9 @@ TEST(NearestOther, OfTwoAsNearTakesTheLowerIndexOrValue)
     EXPECT_EQ(NearestOther(Magenta, Magenta, 8), (Rgb{ 255, 51, 255 }));
     // Green goes by fours there, so black and 0, 8, 0 are nearest.
     EXPECT_EQ(NearestOther({ 0, 4, 0 }, { 0, 4, 0 }, 16), Black);
+    // Each component is as far from the level below as from the one above: eight colours are as
+    // near.
+    EXPECT_EQ(NearestOther({ 29, 47, 29 }, { 33, 49, 33 }, 16), (Rgb{ 25, 45, 25 }));
 }
 
 /// Black ends the 8-bit palette many times over.

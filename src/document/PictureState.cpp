@@ -18,6 +18,9 @@ void ResetPictureState()
     TargetWidth = TargetHeight = 0;
     picbuff = {};
     ScratchTransparent.reset();
+    CropBackR = CropBackG = CropBackB = 255;
+    EditingLG = TCPreviewSet = false;
+    TCPreviewR = TCPreviewG = TCPreviewB = 0;
 }
 
 } // namespace vypx

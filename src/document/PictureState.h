@@ -24,6 +24,16 @@ inline MaskedPicture picbuff;
 /// The colour that stands for transparent pixels in the scratch picture.
 inline std::optional<Rgb> ScratchTransparent;
 
+/// Border colour of the crop window, 0 to 255, kept between its openings.
+inline int CropBackR = 255, CropBackG = 255, CropBackB = 255;
+
+/// The transparent colour editor serves the high-res panel, else the low-res one.
+inline bool EditingLG = false;
+/// The preview colour of the transparent colour editor that was used last, 0 to 255; kept while the
+/// program runs.
+inline int TCPreviewR = 0, TCPreviewG = 0, TCPreviewB = 0;
+inline bool TCPreviewSet = false; ///< there is one
+
 /// The slot held no picture before its last change, so undo empties it.
 inline bool LGWasEmpty = false, SMWasEmpty = false;
 /// Bare names of the working files that undo restores from their ".bak".

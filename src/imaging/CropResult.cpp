@@ -1,0 +1,77 @@
+#include "imaging/CropResult.h"
+
+#include "companion/FreeColour.h"
+#include "companion/ScaleImg.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace vypx {
+
+namespace {
+
+void Fill(Picture& picture, Rgb colour)
+{
+    for (int x = 0; x < picture.Width(); ++x)
+        picture.Set(x, 0, colour);
+    for (int y = 1; y < picture.Height(); ++y)
+        std::copy_n(picture.Row(0), picture.Width() * 3, picture.Row(y));
+}
+
+/// The part of the region that lies in the picture, in the region's own pixels.
+PixelRegion PartInside(const Picture& picture, const PixelRegion& region)
+{
+    const auto part = [](int start, int length, int whole) {
+        const int from = std::clamp(-start, 0, length);
+        return std::pair(from, std::clamp(whole - start, from, length) - from);
+    };
+    const auto [left, width] = part(region.left, region.width, picture.Width());
+    const auto [top, height] = part(region.top, region.height, picture.Height());
+    return { left, top, width, height };
+}
+
+/// A border of the colour that stands for transparent pixels would be one of them.
+MaskedPicture WithOpaqueBorder(const MaskedPicture& cut, const PixelRegion& inside)
+{
+    const Picture& pixels = cut.pixels;
+    std::vector<bool> isTransparent;
+    isTransparent.reserve(
+        static_cast<std::size_t>(pixels.Width()) * static_cast<std::size_t>(pixels.Height()));
+    for (int y = 0; y < pixels.Height(); ++y)
+        for (int x = 0; x < pixels.Width(); ++x)
+            isTransparent.push_back(x >= inside.left && x < inside.left + inside.width
+                && y >= inside.top && y < inside.top + inside.height
+                && pixels.At(x, y) == cut.transparent);
+    return WithFreeColour(pixels, isTransparent);
+}
+
+} // namespace
+
+MaskedPicture CutRegion(const MaskedPicture& source, const PixelRegion& region, Rgb border)
+{
+    MaskedPicture cut{ Picture(region.width, region.height), source.transparent };
+    const PixelRegion inside = PartInside(source.pixels, region);
+    const bool hasBorder = inside.width < region.width || inside.height < region.height;
+    if (hasBorder)
+        Fill(cut.pixels, border);
+    if (inside.width > 0)
+        for (int y = inside.top; y < inside.top + inside.height; ++y)
+            std::copy_n(source.pixels.Row(region.top + y) + (region.left + inside.left) * 3,
+                inside.width * 3, cut.pixels.Row(y) + inside.left * 3);
+    return hasBorder && cut.transparent == border ? WithOpaqueBorder(cut, inside) : cut;
+}
+
+MaskedPicture ScaleCropResult(const MaskedPicture& cut, PixelSize target, ColorDepth depth)
+{
+    const Picture& source = cut.pixels;
+    MaskedPicture scaled{ Picture(target.width, target.height), cut.transparent };
+    if (cut.transparent)
+        ScaleImg(source, scaled.pixels, source.Width(), source.Height(), target.width,
+            target.height, ScaleMask{ .transparent = *cut.transparent, .depth = BitsOf(depth) });
+    else
+        ScaleImg(
+            source, scaled.pixels, source.Width(), source.Height(), target.width, target.height);
+    return scaled;
+}
+
+} // namespace vypx

@@ -13,6 +13,9 @@ namespace vypx {
 /// Scratch picture of imports, crop window and low-res pictures, in the working folder.
 inline constexpr std::string_view ScratchName = "temp.bmp";
 
+/// The half of a large scratch picture, which the crop window works on.
+inline constexpr std::string_view HalfScratchName = "lgtemp.bmp";
+
 inline std::string ImageFile; ///< path of the picture file that is being imported
 /// Size of the slot for the import in hand, pixels, and what the crop window aims at. Kept from one
 /// import to the next.

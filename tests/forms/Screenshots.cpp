@@ -100,6 +100,56 @@ void TakeImports(const QString& folder, MDIForm1& frame, test::ScriptedAsk& ask)
     IconsetChanged = false;
 }
 
+/// Hills under a low sun, of any size.
+QString WrittenHills(const test::TempFolder& target, const QSize& size)
+{
+    QImage hills(size, QImage::Format_RGB32);
+    QPainter painter(&hills);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(size.width() / 100.0, size.height() / 100.0);
+    QLinearGradient sky(0, 0, 0, 70);
+    sky.setColorAt(0, QColor(70, 120, 190));
+    sky.setColorAt(1, QColor(250, 210, 150));
+    painter.fillRect(0, 0, 100, 100, sky);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(255, 240, 190));
+    painter.drawEllipse(QRectF(60, 36, 16, 16));
+    const std::pair<QColor, int> ranges[] = { { QColor(120, 130, 120), 48 },
+        { QColor(80, 110, 70), 60 }, { QColor(40, 70, 40), 76 } };
+    for (const auto& [colour, height] : ranges) {
+        painter.setBrush(colour);
+        painter.drawEllipse(QRectF(-30 + height, height, 90, 90));
+        painter.drawEllipse(QRectF(10 - height, height + 4, 90, 90));
+    }
+    painter.end();
+    const QString path = QString::fromStdString(target.File("hills.png"));
+    hills.save(path);
+    return path;
+}
+
+/// The crop window in its modes, and the window for its border's colour.
+void TakeCrop(const QString& folder, MDIForm1& frame, test::ScriptedAsk& ask)
+{
+    const test::TempFolder target;
+    auto& tree = *frame.findChild<IconTreeView*>("TreeView1");
+    tree.setCurrentItem(tree.NodeOf("Palm Calendar (palmOne) (Large Icon)"));
+    ask.Choose(WrittenHills(target, { 900, 600 }));
+    frame.findChild<QPushButton*>("cmdImportLG")->click();
+    auto& crop = *frame.findChild<QDialog*>("frmCrop");
+    crop.move(60, 80);
+    Take(folder, "crop");
+    crop.findChild<QPushButton*>("cmdChangeBackColor")->click();
+    auto& border = *crop.findChild<QDialog*>("frmChangeBackColor");
+    border.move(300, 300);
+    border.findChild<QScrollBar*>("VScrollBlue")->setValue(120);
+    Take(folder, "crop-border-color");
+    border.findChild<QPushButton*>("cmdOK")->click();
+    crop.findChild<QRadioButton*>("optStretch")->click();
+    Take(folder, "crop-stretch");
+    crop.findChild<QPushButton*>("cmdOK")->click();
+    Take(folder, "crop-imported");
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -174,6 +224,8 @@ int main(int argc, char** argv)
     bar("VScrollGrn")->setValue(0);
     bar("VScrollRed")->setValue(0);
     bar("VScrollBlue")->setValue(255);
+
+    TakeCrop(folder, frame, ask);
 
     // The whole road: mark an icon, save under a name, close, open what was saved.
     select("Palm Calculator (Large Icon)");

@@ -31,7 +31,7 @@ QPalette LightPalette()
 
 constexpr const char* GroupBoxes = R"(
 QGroupBox {
-    background-color: rgb(224, 223, 227);
+    background-color: %1;
     border: 1px solid rgb(172, 171, 178);
     border-radius: 4px;
     margin-top: 0.7em;
@@ -50,10 +50,13 @@ QGroupBox::title {
 
 void UseLightColours() { QApplication::setPalette(LightPalette()); }
 
-void PaintChrome(QWidget& window)
+void PaintChrome(QWidget& window, Rgb colour)
 {
     window.setAutoFillBackground(true);
-    window.setStyleSheet(GroupBoxes);
+    QPalette palette = window.palette();
+    palette.setColor(QPalette::Window, ScreenColour(colour));
+    window.setPalette(palette);
+    window.setStyleSheet(QString(GroupBoxes).arg(ScreenColour(colour).name()));
 }
 
 QValidator* Latin1Validator(QObject& owner)

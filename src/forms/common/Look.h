@@ -22,9 +22,12 @@ inline QColor ScreenColour(Rgb colour) { return QColor(colour.red, colour.green,
 /// first window.
 void UseLightColours();
 
-/// Gives a window the chrome colour. Its group boxes get a plain frame, since a style's own tints
-/// the colour.
-void PaintChrome(QWidget& window);
+/// Back colour of the crop window.
+inline constexpr Rgb CropColour{ 214, 219, 191 };
+
+/// Gives a window the chrome colour, or another one. Its group boxes get a plain frame, since a
+/// style's own tints the colour.
+void PaintChrome(QWidget& window, Rgb colour = ChromeColour);
 
 /// Where most dialogs open: 100 twips from the left and the top.
 inline QPoint DialogPlace() { return { PixelsFromTwips(100), PixelsFromTwips(100) }; }

@@ -33,4 +33,15 @@ QImage Masked(const QImage& picture, Rgb mask)
     return masked;
 }
 
+QImage ImageOf(const MaskedPicture& picture)
+{
+    const vypx::Picture& pixels = picture.pixels;
+    if (pixels.IsNull())
+        return {};
+    const QImage image(
+        pixels.Row(0), pixels.Width(), pixels.Height(), pixels.Width() * 3, QImage::Format_RGB888);
+    return picture.transparent ? Masked(image, *picture.transparent)
+                               : image.convertToFormat(QImage::Format_RGB32);
+}
+
 } // namespace vypx

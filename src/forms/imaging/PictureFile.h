@@ -1,6 +1,6 @@
 #pragma once
 
-#include "companion/Rgb.h"
+#include "companion/Picture.h"
 
 #include <QImage>
 #include <QString>
@@ -14,5 +14,8 @@ QString SizeText(const std::string& path);
 
 /// The picture with every pixel of exactly the mask's colour let through.
 QImage Masked(const QImage& picture, Rgb mask);
+
+/// A picture as Qt shows it; transparent pixels are let through.
+QImage ImageOf(const MaskedPicture& picture);
 
 } // namespace vypx

@@ -4,6 +4,7 @@
 #include "document/PictureState.h"
 #include "document/WorkingFolder.h"
 #include "forms/common/Text.h"
+#include "forms/imaging/frmCrop.h"
 #include "imaging/BulkRemoval.h"
 #include "imaging/LowRes.h"
 #include "imaging/Undo.h"
@@ -11,7 +12,6 @@
 #include "settings/Settings.h"
 
 #include <QApplication>
-#include <QPointer>
 
 namespace vypx {
 
@@ -73,17 +73,22 @@ void PictureCommands::Run(const std::function<void()>& work)
     const QPointer<QWidget> focus = QApplication::focusWidget();
     m_view.notes.Tell(Notes::Kind::Picture, {});
     m_busy.Run([&] {
-        try {
-            work();
-        } catch (const std::exception& fault) {
-            Message(tr("The picture was not changed.").toStdString() + '\n' + fault.what(), {});
-        }
+        Guard(work);
         if (m_view.working.isVisible())
             QCoreApplication::processEvents(); // what was typed meanwhile goes nowhere
         m_view.working.setVisible(false);
     });
     m_view.status.ShowTitle();
     KeepFocus(focus);
+}
+
+void PictureCommands::Guard(const std::function<void()>& work)
+{
+    try {
+        work();
+    } catch (const std::exception& fault) {
+        Message(tr("The picture was not changed.").toStdString() + '\n' + fault.what(), {});
+    }
 }
 
 /// A button that its own use disables hands the focus on, and the next press of a key would use
@@ -202,11 +207,24 @@ void PictureCommands::Draw(const vypx::Slot& slot) { PanelOf(slot).Draw(); }
 
 void PictureCommands::ShowCrop(const vypx::Slot& slot)
 {
-    m_view.notes.Tell(Notes::Kind::Picture,
-        tr("The picture was not imported: it is larger than %1 x %2 pixels.")
-            .arg(TargetWidth)
-            .arg(TargetHeight));
-    (void)slot;
+    if (m_crop)
+        m_crop->close();
+    const frmCrop::Doors doors{
+        .run = [this](const std::function<void()>& work) { Run(work); },
+        .import = [this](const CropTask& task) { ImportCropped(task); },
+    };
+    m_crop = new frmCrop(slot, Depth(), m_ask, doors, m_view.form);
+    m_crop->show();
+    Guard([this] { m_crop->CropFrmLoad(); });
+}
+
+void PictureCommands::ImportCropped(const CropTask& task)
+{
+    if (task.HandOver())
+        ImportPicture(task.ForSlot(), *this);
+    else
+        m_view.notes.Tell(Notes::Kind::Picture,
+            tr("The picture was not imported: its icon is not selected any more."));
 }
 
 void PictureCommands::StatsChanged() { m_icons.ShowCount(); }

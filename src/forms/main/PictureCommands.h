@@ -7,9 +7,13 @@
 #include "forms/main/SettingsWindows.h"
 #include "imaging/PictureHost.h"
 
+#include <QPointer>
 #include <functional>
 
 namespace vypx {
+
+class CropTask;
+class frmCrop;
 
 /// The commands that change pictures: import, deletion, undo, low-res pictures, and the removal of
 /// all pictures of a slot. It asks, loads and shows; what is done is decided downstairs.
@@ -39,6 +43,8 @@ public:
 
 private:
     void Run(const std::function<void()>& work);
+    void Guard(const std::function<void()>& work);
+    void ImportCropped(const CropTask& task);
     void KeepFocus(QWidget* before);
     ImagePanel& PanelOf(const vypx::Slot& slot) const;
 
@@ -62,6 +68,7 @@ private:
     SavedSettings& m_settings;
     const SettingsWindows& m_windows;
     ViewEntries& m_views;
+    QPointer<frmCrop> m_crop;
 };
 
 } // namespace vypx

@@ -1,0 +1,260 @@
+#include "forms/imaging/frmCrop.h"
+
+#include "document/PictureState.h"
+#include "forms/common/Look.h"
+#include "forms/common/Text.h"
+#include "forms/imaging/PictureFile.h"
+#include "forms/imaging/frmChangeBackColor.h"
+#include "ui_frmCrop.h"
+
+#include <QScreen>
+#include <QScrollBar>
+#include <utility>
+
+namespace vypx {
+
+namespace {
+
+int Twips(int pixels) { return pixels * TwipsPerPixel; }
+
+} // namespace
+
+frmCrop::frmCrop(const vypx::Slot& slot, ColorDepth depth, Ask& ask, Doors doors, QWidget& form)
+    : QDialog(&form)
+    , m_ui(std::make_unique<Ui::frmCrop>())
+    , m_ask(ask)
+    , m_doors(std::move(doors))
+    , m_task(slot, depth)
+    , m_disabled(std::make_unique<DisabledWindow>(*form.window()))
+{
+    m_ui->setupUi(this);
+    setEnabled(true); // though what it belongs to is not
+    setAttribute(Qt::WA_DeleteOnClose);
+    PaintChrome(*this, CropColour);
+    m_ui->viewScroll->viewport()->setAutoFillBackground(false);
+    // Nothing moves when these come and go.
+    for (QWidget* control : std::initializer_list<QWidget*>{
+             m_ui->lblWorking, m_ui->lblRegion, m_ui->picBackColor, m_ui->cmdChangeBackColor }) {
+        QSizePolicy policy = control->sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        control->setSizePolicy(policy);
+    }
+    m_ui->lblWorking->hide();
+    m_ui->lblStretch->hide();
+    move(DialogPlace());
+    Connect();
+    m_ui->picResize->setFocus();
+}
+
+frmCrop::~frmCrop() = default;
+
+void frmCrop::Connect()
+{
+    connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmCrop::cmdOK_Click);
+    connect(m_ui->cmdCancel, &QPushButton::clicked, this, &frmCrop::reject);
+    connect(
+        m_ui->cmdChangeBackColor, &QPushButton::clicked, this, &frmCrop::cmdChangeBackColor_Click);
+    connect(m_ui->optAspectSquare, &QRadioButton::toggled, this, [this] { optAspect_Click(); });
+    connect(m_ui->optStretch, &QRadioButton::toggled, this, &frmCrop::optStretch_Click);
+    connect(m_ui->picResize, &CropBox::RectangleChanged, this, [this](const QRect& reached) {
+        constexpr int Around = 12; // pixels
+        const QPoint middle = reached.center();
+        m_ui->viewScroll->ensureVisible(
+            middle.x(), middle.y(), reached.width() / 2 + Around, reached.height() / 2 + Around);
+        ShowSizes();
+    });
+}
+
+void frmCrop::CropFrmLoad()
+{
+    {
+        const QSignalBlocker quiet(m_ui->optStretch);
+        m_ui->optMaintainAspect->setChecked(true);
+    }
+    ShowMode(false);
+    Tell(m_task.CropFrmLoad());
+    ShowView();
+    const QPoint place = ViewPlace();
+    FitForm(CropFormSize(m_task.Geometry().View(), Twips(place.x()), Twips(place.y())));
+}
+
+void frmCrop::PicFit()
+{
+    RunAlone([this] { return m_task.PicFit(); });
+    ShowView();
+    const QPoint place = ViewPlace();
+    FitForm(PicFitFormSize(m_task.Geometry().View(), Twips(place.x()), Twips(place.y())));
+}
+
+void frmCrop::StretchMode()
+{
+    ShowMode(true);
+    StretchPreview();
+}
+
+void frmCrop::StretchPreview()
+{
+    RunAlone([this] { return m_task.StretchPreview(); });
+    ShowView();
+    const QPoint place = ViewPlace();
+    FitForm(StretchFormSize({ TargetWidth, TargetHeight }, Twips(place.x()), Twips(place.y())));
+}
+
+void frmCrop::optStretch_Click(bool stretches)
+{
+    if (stretches) {
+        StretchMode();
+        return;
+    }
+    ShowMode(false);
+    PicFit();
+}
+
+void frmCrop::optAspect_Click()
+{
+    m_task.ChooseAspect(m_ui->optAspectSquare->isChecked());
+    if (m_ui->optStretch->isChecked()) {
+        StretchMode();
+        return;
+    }
+    m_task.Geometry().RebuildRectangle();
+    m_ui->picResize->ShowRectangle();
+    ShowSizes();
+}
+
+void frmCrop::cmdChangeBackColor_Click()
+{
+    if (!m_borderWindow || !m_borderWindow->isVisible()) {
+        m_borderWindow = new frmChangeBackColor(this);
+        connect(m_borderWindow, &frmChangeBackColor::Chosen, this, [this] {
+            m_task.Geometry().SaveRectangle();
+            m_doors.run([this] { CropFrmLoad(); });
+        });
+    }
+    m_borderWindow->show();
+    m_borderWindow->raise();
+    m_borderWindow->activateWindow();
+}
+
+/// What is seen is what is cut, so a border colour that was not accepted goes first.
+void frmCrop::cmdOK_Click()
+{
+    if (m_borderWindow)
+        m_borderWindow->close();
+    bool isDone = false;
+    m_doors.run([&] {
+        m_ui->lblWorking->show();
+        QCoreApplication::processEvents();
+        const std::string_view message =
+            m_ui->optStretch->isChecked() ? m_task.Stretch() : m_task.Crop();
+        Tell(message);
+        isDone = message.empty();
+        if (isDone)
+            m_doors.import(m_task);
+    });
+    m_ui->lblWorking->hide();
+    if (isDone)
+        accept();
+}
+
+/// Every way out: what it belongs to is enabled before this one goes, so that it gets the focus.
+void frmCrop::done(int result)
+{
+    if (m_borderWindow)
+        m_borderWindow->close();
+    m_disabled.reset();
+    QDialog::done(result);
+}
+
+void frmCrop::RunAlone(const std::function<std::string_view()>& work)
+{
+    m_doors.run([&] { Tell(work()); });
+}
+
+void frmCrop::Tell(std::string_view message)
+{
+    if (!message.empty())
+        m_ask.Show(this, { .text = FromLatin1(message) });
+}
+
+void frmCrop::ShowMode(bool stretches)
+{
+    if (stretches && m_borderWindow)
+        m_borderWindow->close();
+    const bool hasBorder = !stretches && m_task.Geometry().HasBorder();
+    for (QWidget* control : std::initializer_list<QWidget*>{ m_ui->Label1, m_ui->Label2 })
+        control->setVisible(!stretches);
+    for (QWidget* control :
+        std::initializer_list<QWidget*>{ m_ui->cmdChangeBackColor, m_ui->picBackColor })
+        control->setVisible(hasBorder);
+    m_ui->lblStretch->setVisible(stretches);
+}
+
+/// The picture as the task shows it, with or without a rectangle over it.
+void frmCrop::ShowView()
+{
+    const bool stretches = m_ui->optStretch->isChecked();
+    ShowMode(stretches);
+    const QColor border(CropBackR, CropBackG, CropBackB);
+    m_ui->picBackColor->SetBackColour(border);
+    m_ui->picResize->SetBorderColour(border);
+    const QImage picture = ImageOf(m_task.Shown());
+    CropGeometry& geometry = m_task.Geometry();
+    if (picture.isNull()) {
+        m_ui->picResize->Clear();
+    } else if (stretches) {
+        m_ui->picResize->ShowPicture(picture, {}, picture.size());
+        m_ui->picResize->SetGeometryToDrag(nullptr);
+    } else {
+        const CropView& view = geometry.View();
+        const int side = view.side / TwipsPerPixel;
+        m_ui->picResize->ShowPicture(
+            picture, { view.PictureLeft(), view.PictureTop() }, { side, side });
+        m_ui->picResize->SetGeometryToDrag(&geometry);
+    }
+    ShowSizes();
+}
+
+void frmCrop::ShowSizes()
+{
+    const vypx::Picture& shown = m_task.Shown().pixels;
+    m_ui->lblRegion->setVisible(!shown.IsNull());
+    PixelSize from = m_task.SourceSize();
+    if (!m_ui->optStretch->isChecked()) {
+        const PixelRegion region = m_task.Geometry().Region();
+        from = { region.width, region.height };
+    }
+    m_ui->lblRegion->setText(tr("%1 x %2 to %3 x %4 pixels")
+                                 .arg(from.width)
+                                 .arg(from.height)
+                                 .arg(TargetWidth)
+                                 .arg(TargetHeight));
+}
+
+/// The place of the view in the window, pixels.
+QPoint frmCrop::ViewPlace() const
+{
+    layout()->activate();
+    return m_ui->viewScroll->mapTo(this, QPoint(0, 0));
+}
+
+/// As large as told, at least what all controls and the view need, and at most what the screen has;
+/// then the view scrolls.
+void frmCrop::FitForm(FormSize told)
+{
+    const QSize around = size() - m_ui->viewScroll->size();
+    const QSize needed = (around + m_ui->picResize->size()).expandedTo(minimumSizeHint());
+    const QSize wanted(PixelsFromTwips(told.width), PixelsFromTwips(told.height));
+    const QRect screen = this->screen()->availableGeometry();
+    const QSize frame = frameGeometry().size() - size();
+    const QSize room = screen.size() - frame - QSize(pos().x(), pos().y());
+    resize(wanted.expandedTo(needed).boundedTo(room.expandedTo(minimumSizeHint())));
+    layout()->activate();
+    if (m_task.Geometry().HasView()) {
+        const PixelRegion at = ViewPixels(m_task.Geometry().Rectangle());
+        m_ui->viewScroll->ensureVisible(
+            at.left + at.width / 2, at.top + at.height / 2, at.width / 2, at.height / 2);
+    }
+}
+
+} // namespace vypx

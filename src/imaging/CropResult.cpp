@@ -4,6 +4,8 @@
 #include "companion/ScaleImg.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace vypx {
@@ -21,17 +23,18 @@ void Fill(Picture& picture, Rgb colour)
 /// The part of the region that lies in the picture, in the region's own pixels.
 PixelRegion PartInside(const Picture& picture, const PixelRegion& region)
 {
-    const auto part = [](int start, int length, int whole) {
-        const int from = std::clamp(-start, 0, length);
-        return std::pair(from, std::clamp(whole - start, from, length) - from);
+    const auto part = [](std::int64_t start, std::int64_t length, std::int64_t whole) {
+        const std::int64_t from = std::clamp<std::int64_t>(-start, 0, length);
+        const std::int64_t end = std::clamp(whole - start, from, length);
+        return std::pair(static_cast<int>(from), static_cast<int>(end - from));
     };
     const auto [left, width] = part(region.left, region.width, picture.Width());
     const auto [top, height] = part(region.top, region.height, picture.Height());
     return { left, top, width, height };
 }
 
-/// A border of the colour that stands for transparent pixels would be one of them.
-MaskedPicture WithOpaqueBorder(const MaskedPicture& cut, const PixelRegion& inside)
+/// Row after row, those of the border are none.
+std::vector<bool> TransparentPixels(const MaskedPicture& cut, const PixelRegion& inside)
 {
     const Picture& pixels = cut.pixels;
     std::vector<bool> isTransparent;
@@ -42,7 +45,16 @@ MaskedPicture WithOpaqueBorder(const MaskedPicture& cut, const PixelRegion& insi
             isTransparent.push_back(x >= inside.left && x < inside.left + inside.width
                 && y >= inside.top && y < inside.top + inside.height
                 && pixels.At(x, y) == cut.transparent);
-    return WithFreeColour(pixels, isTransparent);
+    return isTransparent;
+}
+
+bool Contains(const Picture& picture, Rgb colour)
+{
+    for (int y = 0; y < picture.Height(); ++y)
+        for (int x = 0; x < picture.Width(); ++x)
+            if (picture.At(x, y) == colour)
+                return true;
+    return false;
 }
 
 } // namespace
@@ -58,7 +70,15 @@ MaskedPicture CutRegion(const MaskedPicture& source, const PixelRegion& region, 
         for (int y = inside.top; y < inside.top + inside.height; ++y)
             std::copy_n(source.pixels.Row(region.top + y) + (region.left + inside.left) * 3,
                 inside.width * 3, cut.pixels.Row(y) + inside.left * 3);
-    return hasBorder && cut.transparent == border ? WithOpaqueBorder(cut, inside) : cut;
+    // A border of the colour that stands for transparent pixels would be one of them.
+    if (hasBorder && cut.transparent == border) {
+        const std::vector<bool> isTransparent = TransparentPixels(cut, inside);
+        return WithFreeColour(std::move(cut.pixels), isTransparent);
+    }
+    // No opaque pixel has to keep away from a colour that stands for none.
+    if (cut.transparent && !Contains(cut.pixels, *cut.transparent))
+        cut.transparent.reset();
+    return cut;
 }
 
 MaskedPicture ScaleCropResult(const MaskedPicture& cut, PixelSize target, ColorDepth depth)

@@ -9,7 +9,7 @@
 namespace vypx {
 
 /// The region of the picture, at its own scale. What lies outside of the picture has the border's
-/// colour. Throws as Picture does.
+/// colour. Without a transparent pixel in it, it is opaque. Throws as Picture does.
 MaskedPicture CutRegion(const MaskedPicture& source, const PixelRegion& region, Rgb border);
 
 /// `ScaleCropResult`: the whole picture resampled to `target`, see ScaleImg. A transparent pixel

@@ -1,5 +1,6 @@
 #include "companion/Reduction.h"
 #include "companion/ScaleImg.h"
+#include "support/Pixels.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -12,14 +13,6 @@ namespace {
 
 /// The transparent colour of most tests, and opaque ones.
 constexpr Rgb T{ 255, 0, 255 }, A{ 0, 40, 80 }, B{ 100, 80, 40 }, AandB{ 50, 60, 60 };
-
-Picture Of(int width, const std::vector<Rgb>& pixels)
-{
-    Picture picture(width, static_cast<int>(pixels.size()) / width);
-    for (std::size_t i = 0; i < pixels.size(); ++i)
-        picture.Set(static_cast<int>(i) % width, static_cast<int>(i) / width, pixels[i]);
-    return picture;
-}
 
 Picture Scaled(
     const Picture& source, int width, int height, const ScaleMask& mask = { .transparent = T })

@@ -2,13 +2,13 @@
 
 #include "companion/Reduction.h"
 #include "support/Netpbm.h"
+#include "support/Pixels.h"
 #include "support/TempFolder.h"
 
 #include <algorithm>
 #include <climits>
 #include <cstdlib>
 #include <gtest/gtest.h>
-#include <random>
 #include <stdexcept>
 #include <vector>
 
@@ -18,24 +18,6 @@ namespace {
 
 /// The transparent colour of most tests, opaque ones and a border.
 constexpr Rgb T{ 255, 0, 255 }, A{ 0, 40, 80 }, B{ 100, 80, 40 }, White{ 255, 255, 255 };
-
-Picture Of(int width, const std::vector<Rgb>& pixels)
-{
-    Picture picture(width, static_cast<int>(pixels.size()) / width);
-    for (std::size_t i = 0; i < pixels.size(); ++i)
-        picture.Set(static_cast<int>(i) % width, static_cast<int>(i) / width, pixels[i]);
-    return picture;
-}
-
-Picture Noise(int width, int height)
-{
-    std::mt19937 random(11);
-    Picture picture(width, height);
-    for (int y = 0; y < height; ++y)
-        for (int i = 0; i < width * 3; ++i)
-            picture.Row(y)[i] = static_cast<std::uint8_t>(random());
-    return picture;
-}
 
 int LargestDifference(const Picture& one, const Picture& other)
 {
@@ -51,6 +33,16 @@ std::string PamcutOptions(const PixelRegion& region)
     return "-left=" + std::to_string(region.left) + " -top=" + std::to_string(region.top)
         + " -width=" + std::to_string(region.width) + " -height=" + std::to_string(region.height);
 }
+
+/// Beside what netpbm makes of the same file.
+class CropBesideNetpbm : public ::testing::Test {
+protected:
+    CropBesideNetpbm() { WritePpm(path, source); }
+
+    const TempFolder folder;
+    const std::string path = folder.File("source.ppm");
+    const Picture source = Noise(300, 230);
+};
 
 /// A picture of 3 x 2 pixels: six colours of which no two are equal.
 class CutRegionOfSix : public ::testing::Test {
@@ -109,21 +101,16 @@ TEST_F(CutRegionOfSix, WithoutASizeOrBeyondAPicturesSidesItIsNone)
         EXPECT_THROW(Cut(region), std::length_error);
 }
 
-TEST(CutRegion, IsWhatNetpbmCuts)
+TEST_F(CropBesideNetpbm, RegionsAreTheSame)
 {
     SKIP_WITHOUT_NETPBM();
-    const TempFolder folder;
-    const std::string path = folder.File("source.ppm");
-    const Picture source = Noise(97, 61);
-    WritePpm(path, source);
-
     // Inside, over each edge and corner, over all, outside; pamcut takes no place left of a
     // picture, so it cuts from one with a border all round.
     constexpr int padded = 150;
-    for (const PixelRegion& region : { PixelRegion{ 0, 0, 97, 61 }, { 13, 7, 64, 44 },
-             { 96, 60, 1, 1 }, { -5, 8, 30, 22 }, { 80, 8, 30, 22 }, { 20, -3, 30, 22 },
-             { 20, 50, 30, 22 }, { -5, -3, 30, 22 }, { 80, -3, 30, 22 }, { -5, 50, 30, 22 },
-             { 80, 50, 30, 22 }, { -10, -20, 130, 130 }, { 97, 5, 30, 22 } }) {
+    for (const PixelRegion& region : { PixelRegion{ 0, 0, 300, 230 }, { 13, 7, 64, 44 },
+             { 299, 229, 1, 1 }, { -5, 8, 30, 22 }, { 280, 8, 30, 22 }, { 20, -3, 30, 22 },
+             { 20, 220, 30, 22 }, { -5, -3, 30, 22 }, { 280, -3, 30, 22 }, { -5, 220, 30, 22 },
+             { 280, 220, 30, 22 }, { -10, -20, 350, 350 }, { 300, 5, 30, 22 } }) {
         const PixelRegion inPadded{ region.left + padded, region.top + padded, region.width,
             region.height };
         EXPECT_EQ(CutRegion({ source }, region, Black).pixels,
@@ -205,13 +192,9 @@ TEST(ScaleCropResult, OfTheTargetsSizeIsTheSamePicture)
 }
 
 /// One level of 255: both add up broken weights in their own order and round at the end.
-TEST(ScaleCropResult, IsTheAreaAverageOfNetpbmWithinALevel)
+TEST_F(CropBesideNetpbm, AreaAveragesAreTheSameWithinALevel)
 {
     SKIP_WITHOUT_NETPBM();
-    const TempFolder folder;
-    const std::string path = folder.File("source.ppm");
-    const Picture source = Noise(300, 230);
-    WritePpm(path, source);
     const struct {
         PixelRegion region;
         PixelSize target;

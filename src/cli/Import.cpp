@@ -6,12 +6,15 @@
 #include "document/PictureState.h"
 #include "document/Selection.h"
 #include "document/WorkingFolder.h"
+#include "imaging/CropResult.h"
 #include "imaging/Import.h"
+#include "imaging/SizeChecks.h"
 #include "pictures/PictureLoader.h"
 #include "settings/Settings.h"
 
 #include <algorithm>
 #include <unordered_map>
+#include <utility>
 
 namespace vypx {
 
@@ -49,16 +52,45 @@ private:
     std::unordered_map<std::string, const IconRow*> m_rows;
 };
 
-/// Takes the place of the windows. Of what an import tells, the last counts, as on a note line.
+std::string SizeText(const Picture& picture)
+{
+    return std::to_string(picture.Width()) + " x " + std::to_string(picture.Height());
+}
+
+bool IsInside(const PixelRegion& region, const Picture& picture)
+{
+    const auto fits = [](int start, int length, int whole) {
+        return start < whole && length <= whole - start;
+    };
+    return fits(region.left, region.width, picture.Width())
+        && fits(region.top, region.height, picture.Height());
+}
+
+/// Takes the place of the windows, the crop window among them. Of what an import tells, the last
+/// counts, as on a note line.
 class ToolHost : public PictureHost {
 public:
-    LoadedPicture Load(const std::string& path) override { return LoadPicture(path); }
+    ToolHost(const PictureLine& line, bool stretches)
+        : m_line(&line)
+        , m_stretches(stretches)
+    {
+    }
+
+    LoadedPicture Load(const std::string& path) override
+    {
+        LoadedPicture loaded = LoadPicture(path);
+        // The picture of the line comes first; behind it the half of what was stored.
+        const PictureLine* const line = std::exchange(m_line, nullptr);
+        if (line && !loaded.picture.pixels.IsNull())
+            BringToSlot(line->region, loaded);
+        return loaded;
+    }
     void Message(std::string_view text, std::string_view) override { m_told = text; }
     void Note(const std::string& text) override { m_told = text; }
     void ShowCrop(const Slot&) override
     {
-        m_told = "The picture has " + SizeText(picbuff.pixels.Width(), picbuff.pixels.Height())
-            + " pixels; this slot takes " + SizeText(TargetWidth, TargetHeight) + " at most.";
+        m_told = "The picture has " + SizeText(picbuff.pixels) + " pixels; this slot takes "
+            + std::to_string(TargetWidth) + " x " + std::to_string(TargetHeight) + " at most.";
     }
 
     void LowResFailed() override { m_lowResFailed = true; }
@@ -67,11 +99,25 @@ public:
     const std::string& Told() const { return m_told; }
 
 private:
-    static std::string SizeText(int width, int height)
+    /// Cuts the region, if there is one, or leaves no picture.
+    void BringToSlot(const std::optional<PixelRegion>& region, LoadedPicture& loaded) const
     {
-        return std::to_string(width) + " x " + std::to_string(height);
+        MaskedPicture& picture = loaded.picture;
+        const int width = picture.pixels.Width(), height = picture.pixels.Height();
+        if (region && !IsInside(*region, picture.pixels)) {
+            loaded = { .whyNot = "the region is not wholly inside of its "
+                    + SizeText(picture.pixels) + " pixels" };
+            return;
+        }
+        // The whole of a large one need not be copied.
+        if (region && *region != PixelRegion{ 0, 0, width, height })
+            picture = CutRegion(picture, *region, Black);
+        if (region || (m_stretches && ExceedsTarget(width, height)))
+            picture = ScaleCropResult(picture, { TargetWidth, TargetHeight }, Depth());
     }
 
+    const PictureLine* m_line; // until its picture was loaded
+    bool m_stretches;
     std::string m_told;
     bool m_lowResFailed = false;
 };
@@ -102,13 +148,13 @@ void TellOfLine(const PictureLine& line, std::string_view text)
 }
 
 /// False, and a word to standard error, when the line can't be followed.
-bool Follow(const PictureLine& line, const IconRow& icon)
+bool Follow(const PictureLine& line, const IconRow& icon, bool stretches)
 {
     SelectNode(icon.IconLabel, Tree.Root());
     TargetWidth = TargetHeight = 0; // what stands in a line counts for it alone
     DroppedFile = true;
     DroppedFileName = line.path;
-    ToolHost host;
+    ToolHost host(line, stretches);
     const ImportResult result = ImportPicture(*line.slot, host);
     // A picture that came in may have no half to make a low-res one of.
     if (!host.Told().empty())
@@ -117,7 +163,7 @@ bool Follow(const PictureLine& line, const IconRow& icon)
 }
 
 /// The same, of a line that nothing is known of.
-bool ImportLine(const PictureLine& line, const IconFinder& icons)
+bool ImportLine(const PictureLine& line, const IconFinder& icons, bool stretches)
 {
     try {
         if (!line.whyNot.empty())
@@ -127,19 +173,19 @@ bool ImportLine(const PictureLine& line, const IconFinder& icons)
             throw PictureFault("No icon has the label or resource \"" + line.icon + "\".");
         if (!SizeToImport(icon->IconLabel))
             throw PictureFault("The icon \"" + line.icon + "\" takes no pictures.");
-        return Follow(line, *icon);
+        return Follow(line, *icon, stretches);
     } catch (const PictureFault& fault) {
         TellOfLine(line, fault.what());
         return false;
     }
 }
 
-bool ImportAll(const std::vector<PictureLine>& lines)
+bool ImportAll(const std::vector<PictureLine>& lines, bool stretches)
 {
     const IconFinder icons;
     bool all = true;
     for (const PictureLine& line : lines)
-        all = ImportLine(line, icons) && all;
+        all = ImportLine(line, icons, stretches) && all;
     return all;
 }
 
@@ -155,7 +201,7 @@ int Import(const ImportOptions& options)
     if (!OpenAndTell(options.open))
         return 2;
     AutoCreateLowRes = options.lowRes;
-    if (FileLoaded && !ImportAll(*lines))
+    if (FileLoaded && !ImportAll(*lines, options.stretch))
         return 1;
     return SaveIconset(options.save);
 }

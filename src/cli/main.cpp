@@ -57,8 +57,12 @@ CLI::App& AddImport(CLI::App& tool, vypx::ImportOptions& options)
     command
         ->add_option("--list", options.list,
             "UTF-8 file with a line for each picture: the icon's label or resource, high or low, "
-            "path from the list's folder, with tabs between them; lines with # are passed over")
+            "path from the list's folder, with tabs between them, and as a fourth field, if a "
+            "part of the picture is to fill the slot, left,top,width,height of it in pixels; "
+            "lines with # are passed over")
         ->required();
+    command->add_flag("--stretch", options.stretch,
+        "Stretch a picture that is larger than its slot to the slot's size");
     command->add_flag("--low-res", options.lowRes,
         "Make the low-res picture of a high-res one where the icon has none");
     return *command;

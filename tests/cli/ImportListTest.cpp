@@ -107,14 +107,43 @@ TEST_F(ImportList, FieldsAreTakenToTheLetter)
     const std::string needed =
         "An icon, high or low, and a picture are needed, with tabs between them.";
     for (const char* line : { "tAIB3507", "tAIB3507\tlow", "tAIB3507\tlow\t", "\tlow\tp.ppm",
-             "tAIB3507\t\tp.ppm", "tAIB3507\tlow\tp.ppm\t", " " })
+             "tAIB3507\t\tp.ppm", "tAIB3507\tlow\t\t0,0,1,1", " " })
         EXPECT_EQ(ToldOf(line), needed) << line;
+    for (const char* line : { "tAIB3507\tlow\tp.ppm\t0,0,1,1\t", "tAIB3507\tlow\tp.ppm\t0,0,1,1\tx",
+             "tAIB3507\tlow\tp.ppm\t\t" })
+        EXPECT_EQ(ToldOf(line), "There are more than four fields.") << line;
     EXPECT_EQ(ToldOf("tAIB3507\tLow\tp.ppm"), "The second field must be high or low.");
     EXPECT_EQ(ToldOf("tAIB3507\tlow \tp.ppm"), "The second field must be high or low.");
     EXPECT_EQ(ToldOf("tAIB3505 (Zzzz - Large)\tlow\tp.ppm"),
         "No icon has the label or resource \"tAIB3505 (Zzzz - Large)\".")
         << "a blank is missing at its end";
     EXPECT_EQ(ToldOf("tAIB3507\tlow\tp.ppm "), "p.ppm  was not imported: it is not there.");
+}
+
+TEST_F(ImportList, ARegionIsFourWholeNumbers)
+{
+    for (const char* region :
+        { "", " ", "0", "0,0", "0,0,1", "0,0,1,1,", "0,0,1,1,1", ",0,1,1", "0,,1,1", "0,0,,1",
+            "0,0,1,", ",,,", "0,0,0,1", "0,0,1,0", "0,0,-1,1", "0,0,1,-1", "-1,0,1,1", "0,-1,1,1",
+            "-0,0,1,1", "+0,0,1,1", "0,0,+1,1", " 0,0,1,1", "0, 0,1,1", "0 ,0,1,1", "0,0,1,1 ",
+            "0.0,0,1,1", "0,0,1e1,1", "0x0,0,1,1", "0;0;1;1", "a,b,c,d", "2147483648,0,1,1",
+            "0,0,4294967297,1", "0,0,1,99999999999999999999", "\xEF\xBC\x90,0,1,1", "0,0,1,1\r" })
+        EXPECT_EQ(ToldOf(std::string("tAIB3507\tlow\tp.ppm\t") + region + "\r\n"),
+            "The fourth field must be the region to cut as left,top,width,height, in whole pixels, "
+            "width and height from 1 on.")
+            << region;
+    EXPECT_EQ(Run("tAIB3507\tlow\tp.ppm\t00,000,015,11\r\n").errors, "");
+}
+
+TEST_F(ImportList, ARegionOfWhatIsNoPictureIsToldAsThePictureIs)
+{
+    WriteText(folder.File("pictures/text"), "no picture");
+
+    EXPECT_EQ(ToldOf("tAIB3507\tlow\tgone\t0,0,1,1"), "gone was not imported: it is not there.");
+    EXPECT_EQ(ToldOf("tAIB3507\tlow\ttext\t0,0,1,1"),
+        "text was not imported: it is no picture that can be read here.");
+    EXPECT_EQ(
+        ToldOf("Nobody\tlow\tp.ppm\t0,0,99,99"), "No icon has the label or resource \"Nobody\".");
 }
 
 TEST_F(ImportList, FoldersAndPipesAreNoPictures)

@@ -65,17 +65,33 @@ void frmCrop::Connect()
     });
 }
 
-void frmCrop::CropFrmLoad()
+/// It is shown in its size: what is resized at once, before the desktop has framed it, may end with
+/// its title above the screen.
+void frmCrop::Open()
+{
+    std::string_view message;
+    try {
+        message = CropFrmLoad();
+    } catch (...) {
+        show();
+        throw;
+    }
+    show();
+    Tell(message);
+}
+
+std::string_view frmCrop::CropFrmLoad()
 {
     {
         const QSignalBlocker quiet(m_ui->optStretch);
         m_ui->optMaintainAspect->setChecked(true);
     }
     ShowMode(false);
-    Tell(m_task.CropFrmLoad());
+    const std::string_view message = m_task.CropFrmLoad();
     ShowView();
     const QPoint place = ViewPlace();
     FitForm(CropFormSize(m_task.Geometry().View(), Twips(place.x()), Twips(place.y())));
+    return message;
 }
 
 void frmCrop::PicFit()
@@ -128,7 +144,7 @@ void frmCrop::cmdChangeBackColor_Click()
         m_borderWindow = new frmChangeBackColor(this);
         connect(m_borderWindow, &frmChangeBackColor::Chosen, this, [this] {
             m_task.Geometry().SaveRectangle();
-            m_doors.run([this] { CropFrmLoad(); });
+            RunAlone([this] { return CropFrmLoad(); });
         });
     }
     m_borderWindow->show();
@@ -246,7 +262,8 @@ void frmCrop::FitForm(FormSize told)
     const QSize needed = (around + m_ui->picResize->size()).expandedTo(minimumSizeHint());
     const QSize wanted(PixelsFromTwips(told.width), PixelsFromTwips(told.height));
     const QRect screen = this->screen()->availableGeometry();
-    const QSize frame = frameGeometry().size() - size();
+    const QSize usualFrame(12, 40); // not known before the window is shown
+    const QSize frame = isVisible() ? frameGeometry().size() - size() : usualFrame;
     const QSize room = screen.size() - frame - QSize(pos().x(), pos().y());
     resize(wanted.expandedTo(needed).boundedTo(room.expandedTo(minimumSizeHint())));
     layout()->activate();

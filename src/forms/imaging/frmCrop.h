@@ -34,14 +34,14 @@ public:
     frmCrop(const vypx::Slot& slot, ColorDepth depth, Ask& ask, Doors doors, QWidget& form);
     ~frmCrop() override;
 
-    /// Builds the view anew: when the window opens and when the border has another colour. Within
-    /// `Doors::run`.
-    void CropFrmLoad();
+    /// Builds the view and shows the window. Within `Doors::run`.
+    void Open();
 
     void done(int result) override;
 
 private:
     void Connect();
+    std::string_view CropFrmLoad();
     void cmdOK_Click();
     void cmdChangeBackColor_Click();
     void optAspect_Click();

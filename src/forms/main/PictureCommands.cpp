@@ -214,8 +214,7 @@ void PictureCommands::ShowCrop(const vypx::Slot& slot)
         .import = [this](const CropTask& task) { ImportCropped(task); },
     };
     m_crop = new frmCrop(slot, Depth(), m_ask, doors, m_view.form);
-    m_crop->show();
-    Guard([this] { m_crop->CropFrmLoad(); });
+    Guard([this] { m_crop->Open(); });
 }
 
 void PictureCommands::ImportCropped(const CropTask& task)

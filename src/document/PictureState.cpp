@@ -18,6 +18,7 @@ void ResetPictureState()
     TargetWidth = TargetHeight = 0;
     picbuff = {};
     ScratchTransparent.reset();
+    DroppedTransparent.reset();
     CropBackR = CropBackG = CropBackB = 255;
     EditingLG = TCPreviewSet = false;
     TCPreviewR = TCPreviewG = TCPreviewB = 0;

@@ -37,6 +37,10 @@ inline bool EditingLG = false;
 inline int TCPreviewR = 0, TCPreviewG = 0, TCPreviewB = 0;
 inline bool TCPreviewSet = false; ///< there is one
 
+/// The colour that the dropped file declares as transparent, if it must be cut; its own pixels
+/// can't tell it.
+inline std::optional<Rgb> DroppedTransparent;
+
 /// The slot held no picture before its last change, so undo empties it.
 inline bool LGWasEmpty = false, SMWasEmpty = false;
 /// Bare names of the working files that undo restores from their ".bak".

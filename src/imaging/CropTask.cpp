@@ -1,14 +1,9 @@
 #include "imaging/CropTask.h"
 
-#include "companion/BmpFile.h"
-#include "companion/ReplaceWorkingFile.h"
 #include "document/PictureState.h"
 #include "document/WorkingFolder.h"
-#include "imaging/PictureHost.h"
 #include "imaging/WorkingPicture.h"
-#include "platform/Platform.h"
 
-#include <filesystem>
 #include <utility>
 
 namespace vypx {
@@ -25,18 +20,6 @@ std::string_view MessageFor(CropSize size)
     default:
         return {};
     }
-}
-
-std::string HalfPath() { return WorkPath(HalfScratchName); }
-
-void WriteHalf(const Picture& picture)
-{
-    const std::error_code error = ReplaceWorkingFile(HalfPath(), [&](const std::string& file) {
-        return WriteBmp24InPieces(picture, picture.Width(), picture.Height(), file);
-    });
-    if (error)
-        throw PictureFault(
-            FaultText(std::string(HalfScratchName) + " could not be written", error));
 }
 
 /// Enlarged pixels stay squares, so that the user sees which of them are under the rectangle.
@@ -76,30 +59,26 @@ std::string_view CropTask::CropFrmLoad()
     MaskedPicture source = FileExists(ImageFile) ? Source() : MaskedPicture();
     if (source.pixels.IsNull()) {
         m_geometry.ForgetSavedRectangle();
-        return UnableToLoad;
+        return WhyNoSource();
     }
     const PixelSize whole{ source.pixels.Width(), source.pixels.Height() };
     const bool isHalvedNow = !m_geometry.CropPrescaled() && IsHalvedFirst(whole);
     if (isHalvedNow)
         Halve(source);
     const CropSize size = m_geometry.CropFrmLoad(whole);
-    const std::string_view message = View(size, source);
-    if (isHalvedNow && message.empty())
+    if (isHalvedNow && size == CropSize::Fits)
         WriteScratch(source);
-    return message;
+    return View(size, source);
 }
 
 void CropTask::Halve(MaskedPicture& source)
 {
     const PixelSize half = Halved({ source.pixels.Width(), source.pixels.Height() });
-    if (half.width < 1 || half.height < 1) {
-        // Nothing is left of it, which is refused as too small all the same.
-        std::error_code ignored;
-        std::filesystem::remove(platform::NativePath(HalfPath()), ignored);
+    m_hasNoHalf = half.width < 1 || half.height < 1;
+    if (m_hasNoHalf)
         return;
-    }
     source = ScaleCropResult(source, half, ColorDepth::Bits16);
-    WriteHalf(source.pixels);
+    WriteWorkingBmp24(HalfScratchName, source.pixels);
 }
 
 std::string_view CropTask::PicFit()
@@ -109,7 +88,7 @@ std::string_view CropTask::PicFit()
     CropBackR = CropBackG = CropBackB = 255;
     const MaskedPicture source = Source();
     if (source.pixels.IsNull())
-        return UnableToLoad;
+        return WhyNoSource();
     return View(m_geometry.PicFit({ source.pixels.Width(), source.pixels.Height() }), source);
 }
 
@@ -180,8 +159,12 @@ bool CropTask::HandOver() const
 /// What is cropped: the half where there is one.
 MaskedPicture CropTask::Source() const
 {
-    return Read(m_geometry.CropPrescaled() ? HalfPath() : ScratchPath());
+    if (m_hasNoHalf)
+        return {};
+    return Read(m_geometry.CropPrescaled() ? WorkPath(HalfScratchName) : ScratchPath());
 }
+
+std::string_view CropTask::WhyNoSource() const { return m_hasNoHalf ? ImageToSmall : UnableToLoad; }
 
 /// Null for a file that is not there or is none of our pictures.
 MaskedPicture CropTask::Read(const std::string& path) const

@@ -16,8 +16,8 @@ inline constexpr std::string_view ImageToLarge = "Image is to large to process!"
 inline constexpr std::string_view ImageToSmall = "Image is to small to process!";
 inline constexpr std::string_view ErrorProcessing = "Error Processing Image!";
 
-/// One opening of the crop window. What fails without words of its own throws PictureFault; files
-/// and view are then as they were.
+/// One opening of the crop window. What fails without words of its own throws PictureFault; the
+/// scratch picture is then as it was, and nothing new is shown.
 class CropTask {
 public:
     /// The import into that slot waits with its scratch picture. TargetWidth and TargetHeight are
@@ -56,6 +56,7 @@ private:
     std::string_view View(CropSize size, const MaskedPicture& source);
     void Show(MaskedPicture shown, const MaskedPicture& source);
     MaskedPicture Source() const;
+    std::string_view WhyNoSource() const;
     MaskedPicture Read(const std::string& path) const;
 
     const Slot& m_slot;
@@ -65,6 +66,7 @@ private:
     CropGeometry m_geometry;
     MaskedPicture m_shown;
     PixelSize m_sourceSize;
+    bool m_hasNoHalf = false; // nothing is left of the picture when it is halved
 };
 
 } // namespace vypx

@@ -132,6 +132,8 @@ void Import::LoadIntoBuffer()
 
 ImportResult Import::SendToCrop()
 {
+    if (DroppedFile && !picbuff.transparent)
+        picbuff.transparent = DroppedTransparent; // or the cut would mix it with other colours
     WriteScratch(picbuff);
     ImageFile = ScratchPath();
     CropForLG = CropForSM = false; // what waited for it before waits no more

@@ -12,12 +12,17 @@ namespace {
 /// The flag that an import takes a file without asking, as long as this stands.
 class TakesFile {
 public:
-    explicit TakesFile(const std::string& path)
+    TakesFile(const std::string& path, std::optional<Rgb> transparent)
     {
         DroppedFileName = path;
+        DroppedTransparent = transparent;
         DroppedFile = true;
     }
-    ~TakesFile() { DroppedFile = false; }
+    ~TakesFile()
+    {
+        DroppedFile = false;
+        DroppedTransparent.reset();
+    }
     TakesFile(const TakesFile&) = delete;
     TakesFile& operator=(const TakesFile&) = delete;
 };
@@ -55,11 +60,9 @@ bool CreateLowRes(ColorDepth depth)
 
 ImportResult ImportLowRes(PictureHost& host)
 {
-    const TakesFile takesFile(ScratchPath());
+    const TakesFile takesFile(ScratchPath(), HighResMask());
     const bool isMade = CreateLowRes(host.Depth());
     const ImportResult result = ImportSM(host); // which fails without a scratch picture
-    if (result == ImportResult::Cropping)
-        ScratchTransparent = HighResMask(); // or the cut would mix it with other colours
     if (isMade)
         return result;
     host.Note("There is no low-res picture: the high-res one is too small to be halved.");

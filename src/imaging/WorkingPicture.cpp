@@ -59,14 +59,18 @@ Picture StoreWorkingPicture(const std::string& path, const MaskedPicture& pictur
 
 std::string ScratchPath() { return WorkPath(ScratchName); }
 
-void WriteScratch(const MaskedPicture& picture)
+void WriteWorkingBmp24(std::string_view name, const Picture& picture)
 {
-    const Picture& pixels = picture.pixels;
-    const std::error_code error = ReplaceWorkingFile(ScratchPath(), [&](const std::string& file) {
-        return WriteBmp24(pixels, pixels.Width(), pixels.Height(), file);
+    const std::error_code error = ReplaceWorkingFile(WorkPath(name), [&](const std::string& file) {
+        return WriteBmp24(picture, picture.Width(), picture.Height(), file);
     });
     if (error)
-        throw PictureFault(FaultText(std::string(ScratchName) + " could not be written", error));
+        throw PictureFault(FaultText(std::string(name) + " could not be written", error));
+}
+
+void WriteScratch(const MaskedPicture& picture)
+{
+    WriteWorkingBmp24(ScratchName, picture.pixels);
     ScratchTransparent = picture.transparent;
 }
 

@@ -22,6 +22,9 @@ std::optional<Picture> ReadWorkingPicture(const std::string& path);
 Picture StoreWorkingPicture(
     const std::string& path, const MaskedPicture& picture, ColorDepth depth);
 
+/// Replaces the working file of that name by the picture at 24 bits. Throws PictureFault.
+void WriteWorkingBmp24(std::string_view name, const Picture& picture);
+
 /// The scratch picture, through which pictures reach the crop window and the low-res slot.
 std::string ScratchPath();
 /// Replaces it. Throws PictureFault.

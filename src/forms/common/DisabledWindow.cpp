@@ -7,6 +7,7 @@ namespace vypx {
 namespace {
 
 constexpr const char* Holders = "vypxHolders"; // how many hold the window
+constexpr const char* Focus = "vypxFocus";     // what had the focus in it before the first
 
 int Count(QWidget& window, int more)
 {
@@ -19,9 +20,9 @@ int Count(QWidget& window, int more)
 
 DisabledWindow::DisabledWindow(QWidget& window)
     : m_window(&window)
-    , m_focus(window.focusWidget())
 {
-    Count(window, 1);
+    if (Count(window, 1) == 1)
+        window.setProperty(Focus, QVariant::fromValue(QPointer<QObject>(window.focusWidget())));
     window.setEnabled(false);
 }
 
@@ -30,8 +31,10 @@ DisabledWindow::~DisabledWindow()
     if (!m_window || Count(*m_window, -1) > 0)
         return;
     m_window->setEnabled(true);
-    if (m_focus && m_focus->isVisible())
-        m_focus->setFocus();
+    auto* const focus =
+        qobject_cast<QWidget*>(m_window->property(Focus).value<QPointer<QObject>>().data());
+    if (focus && focus->isVisible())
+        focus->setFocus();
 }
 
 } // namespace vypx

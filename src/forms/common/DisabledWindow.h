@@ -18,7 +18,6 @@ public:
 
 private:
     QPointer<QWidget> m_window;
-    QPointer<QWidget> m_focus;
 };
 
 } // namespace vypx

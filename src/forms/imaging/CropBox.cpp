@@ -148,6 +148,7 @@ bool CropBox::TakeKey(const QKeyEvent& event)
         m_geometry->MoveBy(0, step);
         return true;
     case Qt::Key_Plus:
+    case Qt::Key_Equal: // the same key without Shift on many keyboards
         m_geometry->ResizeBy(Twips(1));
         return true;
     case Qt::Key_Minus:

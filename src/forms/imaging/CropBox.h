@@ -15,7 +15,7 @@ class CropBox : public QWidget {
 public:
     explicit CropBox(QWidget* parent = nullptr);
 
-    /// Shows the picture with its top left corner there; `side` is that of the square view. Pixels.
+    /// Shows the picture with its top left corner there in a view of that size, pixels.
     void ShowPicture(const QImage& picture, const QPoint& corner, const QSize& view);
     /// Nothing is shown, and there is no rectangle.
     void Clear();

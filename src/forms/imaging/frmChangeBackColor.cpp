@@ -1,6 +1,7 @@
 #include "forms/imaging/frmChangeBackColor.h"
 
 #include "document/PictureState.h"
+#include "forms/common/HeldKeys.h"
 #include "forms/common/Look.h"
 #include "ui_frmChangeBackColor.h"
 
@@ -14,6 +15,7 @@ frmChangeBackColor::frmChangeBackColor(QWidget* parent)
     m_ui->setupUi(this);
     setAttribute(Qt::WA_DeleteOnClose);
     PaintChrome(*this);
+    move(DialogPlace());
     layout()->setSizeConstraint(QLayout::SetFixedSize);
     m_ui->borderColour->SetColour(m_before);
     Take(m_before);
@@ -32,14 +34,25 @@ void frmChangeBackColor::Take(const Rgb& colour)
     m_ui->picBackCol->SetBackColour(ScreenColour(colour));
 }
 
+void frmChangeBackColor::keyPressEvent(QKeyEvent* event)
+{
+    if (!HeldKeys::OfProgram().IsHeldEnd(*event))
+        QDialog::keyPressEvent(event);
+}
+
+/// What has closed it once counts.
 void frmChangeBackColor::accept()
 {
+    if (!isVisible())
+        return;
     QDialog::accept();
     emit Chosen();
 }
 
 void frmChangeBackColor::reject()
 {
+    if (!isVisible())
+        return;
     CropBackR = m_before.red;
     CropBackG = m_before.green;
     CropBackB = m_before.blue;

@@ -28,6 +28,9 @@ public slots:
     void accept() override;
     void reject() override;
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     void Take(const Rgb& colour);
 

@@ -1,14 +1,17 @@
 #include "forms/imaging/frmCrop.h"
 
 #include "document/PictureState.h"
+#include "forms/common/HeldKeys.h"
 #include "forms/common/Look.h"
 #include "forms/common/Text.h"
 #include "forms/imaging/PictureFile.h"
 #include "forms/imaging/frmChangeBackColor.h"
 #include "ui_frmCrop.h"
 
+#include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QScreen>
-#include <QScrollBar>
+#include <algorithm>
 #include <utility>
 
 namespace vypx {
@@ -57,10 +60,9 @@ void frmCrop::Connect()
     connect(m_ui->optAspectSquare, &QRadioButton::toggled, this, [this] { optAspect_Click(); });
     connect(m_ui->optStretch, &QRadioButton::toggled, this, &frmCrop::optStretch_Click);
     connect(m_ui->picResize, &CropBox::RectangleChanged, this, [this](const QRect& reached) {
-        constexpr int Around = 12; // pixels
         const QPoint middle = reached.center();
         m_ui->viewScroll->ensureVisible(
-            middle.x(), middle.y(), reached.width() / 2 + Around, reached.height() / 2 + Around);
+            middle.x(), middle.y(), reached.width() / 2, reached.height() / 2);
         ShowSizes();
     });
 }
@@ -157,20 +159,22 @@ void frmCrop::cmdOK_Click()
 {
     if (m_borderWindow)
         m_borderWindow->close();
-    bool isDone = false;
-    m_doors.run([&] {
-        m_ui->lblWorking->show();
-        QCoreApplication::processEvents();
+    const bool isDone = RunAlone([this] {
         const std::string_view message =
             m_ui->optStretch->isChecked() ? m_task.Stretch() : m_task.Crop();
-        Tell(message);
-        isDone = message.empty();
-        if (isDone)
+        if (message.empty())
             m_doors.import(m_task);
+        return message;
     });
-    m_ui->lblWorking->hide();
     if (isDone)
         accept();
+}
+
+/// Not while it works: it would be gone before the work is.
+void frmCrop::reject()
+{
+    if (!m_isWorking)
+        QDialog::reject();
 }
 
 /// Every way out: what it belongs to is enabled before this one goes, so that it gets the focus.
@@ -182,9 +186,33 @@ void frmCrop::done(int result)
     QDialog::done(result);
 }
 
-void frmCrop::RunAlone(const std::function<std::string_view()>& work)
+/// An Enter that is still held from the file dialog must not cut a picture that nobody has seen.
+void frmCrop::keyPressEvent(QKeyEvent* event)
 {
-    m_doors.run([&] { Tell(work()); });
+    if (!HeldKeys::OfProgram().IsHeldEnd(*event))
+        QDialog::keyPressEvent(event);
+}
+
+/// True: it was done without a word. An exit that was put off until then may close this window.
+bool frmCrop::RunAlone(const std::function<std::string_view()>& work)
+{
+    bool isDone = false;
+    m_doors.run([&] {
+        const QScopedValueRollback working(m_isWorking, true);
+        m_ui->lblWorking->show();
+        QCoreApplication::processEvents();
+        std::string_view message;
+        try {
+            message = work();
+        } catch (...) {
+            m_ui->lblWorking->hide();
+            throw;
+        }
+        m_ui->lblWorking->hide();
+        Tell(message);
+        isDone = message.empty();
+    });
+    return isDone;
 }
 
 void frmCrop::Tell(std::string_view message)
@@ -255,17 +283,23 @@ QPoint frmCrop::ViewPlace() const
 }
 
 /// As large as told, at least what all controls and the view need, and at most what the screen has;
-/// then the view scrolls.
+/// then the view scrolls. Where there is no room for it to the right or below, it moves.
 void frmCrop::FitForm(FormSize told)
 {
     const QSize around = size() - m_ui->viewScroll->size();
     const QSize needed = (around + m_ui->picResize->size()).expandedTo(minimumSizeHint());
     const QSize wanted(PixelsFromTwips(told.width), PixelsFromTwips(told.height));
-    const QRect screen = this->screen()->availableGeometry();
+    const QRect room = screen()->availableGeometry();
     const QSize usualFrame(12, 40); // not known before the window is shown
     const QSize frame = isVisible() ? frameGeometry().size() - size() : usualFrame;
-    const QSize room = screen.size() - frame - QSize(pos().x(), pos().y());
-    resize(wanted.expandedTo(needed).boundedTo(room.expandedTo(minimumSizeHint())));
+    const QSize most = (room.size() - frame).expandedTo(minimumSizeHint());
+    resize(wanted.expandedTo(needed).boundedTo(most));
+    const QSize whole = size() + frame;
+    const QPoint farthest(room.right() + 1 - whole.width(), room.bottom() + 1 - whole.height());
+    const QPoint place(std::max(room.left(), std::min(pos().x(), farthest.x())),
+        std::max(room.top(), std::min(pos().y(), farthest.y())));
+    if (place != pos())
+        move(place);
     layout()->activate();
     if (m_task.Geometry().HasView()) {
         const PixelRegion at = ViewPixels(m_task.Geometry().Rectangle());

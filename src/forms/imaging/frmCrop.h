@@ -37,7 +37,11 @@ public:
     /// Builds the view and shows the window. Within `Doors::run`.
     void Open();
 
+    void reject() override;
     void done(int result) override;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void Connect();
@@ -49,7 +53,7 @@ private:
     void StretchMode();
     void StretchPreview();
     void PicFit();
-    void RunAlone(const std::function<std::string_view()>& work);
+    bool RunAlone(const std::function<std::string_view()>& work);
     void Tell(std::string_view message);
     void ShowMode(bool stretches);
     void ShowView();
@@ -63,6 +67,7 @@ private:
     CropTask m_task;
     std::unique_ptr<DisabledWindow> m_disabled;
     QPointer<frmChangeBackColor> m_borderWindow;
+    bool m_isWorking = false;
 };
 
 } // namespace vypx

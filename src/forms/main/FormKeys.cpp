@@ -27,19 +27,6 @@ bool IsEditor(const QObject& object)
 
 } // namespace
 
-void HeldKey::Released(const QKeyEvent& release)
-{
-    m_key = release.key();
-    m_released = release.timestamp();
-}
-
-bool HeldKey::IsRepeat(const QKeyEvent& press) const
-{
-    constexpr quint64 SameMoment = 2; // milliseconds
-    const bool isKnown = m_released != 0 && press.key() == m_key;
-    return press.isAutoRepeat() || (isKnown && press.timestamp() - m_released <= SameMoment);
-}
-
 FormKeys::FormKeys(QWidget& form, QWidget& tree, std::function<void()> remove)
     : m_form(form)
     , m_tree(tree)
@@ -59,9 +46,6 @@ bool FormKeys::eventFilter(QObject* watched, QEvent* event)
     switch (event->type()) {
     case QEvent::ShortcutOverride: // comes before every press
         m_isRepeat = m_held.IsRepeat(static_cast<QKeyEvent&>(*event));
-        return false;
-    case QEvent::KeyRelease:
-        m_held.Released(static_cast<QKeyEvent&>(*event));
         return false;
     case QEvent::Shortcut:
         return !static_cast<QShortcutEvent*>(event)->isAmbiguous() && TakesMnemonic(*watched);

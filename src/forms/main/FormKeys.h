@@ -1,5 +1,7 @@
 #pragma once
 
+#include "forms/common/HeldKeys.h"
+
 #include <QElapsedTimer>
 #include <QObject>
 #include <functional>
@@ -8,18 +10,6 @@ class QKeyEvent;
 class QWidget;
 
 namespace vypx {
-
-/// Whether presses of a key come from holding it down. Desktops mark such presses, but under X11
-/// not reliably: there a press at the very moment of the key's own release is one as well.
-class HeldKey {
-public:
-    void Released(const QKeyEvent& release);
-    bool IsRepeat(const QKeyEvent& press) const;
-
-private:
-    int m_key = 0;
-    quint64 m_released = 0; // milliseconds of the event; 0: not known
-};
 
 /// The keys of the main form. Plain R marks the selected icon: from anywhere in the form that
 /// isn't written into, once however long it is held down, but not amid a search by typing in the
@@ -39,7 +29,7 @@ private:
     QWidget& m_form;
     QWidget& m_tree;
     std::function<void()> m_remove;
-    HeldKey m_held;
+    HeldKeys& m_held = HeldKeys::OfProgram();
     bool m_isRepeat = false;     // the press that is on its way
     QElapsedTimer m_sinceLetter; // the last one that the tree searched for
 };

@@ -12,6 +12,7 @@
 #include "settings/Settings.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 
 namespace vypx {
 
@@ -72,9 +73,12 @@ void PictureCommands::Run(const std::function<void()>& work)
         return;
     const QPointer<QWidget> focus = QApplication::focusWidget();
     m_view.notes.Tell(Notes::Kind::Picture, {});
+    QElapsedTimer since;
+    since.start();
     m_busy.Run([&] {
         Guard(work);
-        if (m_view.working.isVisible())
+        constexpr int Noticeable = 100; // milliseconds
+        if (m_view.working.isVisible() || since.hasExpired(Noticeable))
             QCoreApplication::processEvents(); // what was typed meanwhile goes nowhere
         m_view.working.setVisible(false);
     });

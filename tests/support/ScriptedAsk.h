@@ -25,6 +25,8 @@ public:
     {
         m_boxes.push_back({ button, std::move(during) });
     }
+    /// Boxes that nobody expected are answered so and fail no test.
+    void AnswerFurther(QMessageBox::StandardButton button) { m_further = button; }
     /// The next file dialog gives this path; `during` runs while it is up.
     void Choose(const QString& path, std::function<void()> during = {})
     {
@@ -38,6 +40,8 @@ public:
     QMessageBox::StandardButton Show(QWidget*, const Box& box) override
     {
         shown.push_back(box);
+        if (m_boxes.empty() && m_further)
+            return *m_further;
         if (m_boxes.empty()) {
             ADD_FAILURE() << "unexpected box: " << box.text.toStdString();
             return QMessageBox::Cancel;
@@ -89,6 +93,7 @@ private:
         std::function<void()> during;
     };
     std::deque<BoxAnswer> m_boxes;
+    std::optional<QMessageBox::StandardButton> m_further;
     std::deque<FileAnswer> m_files;
     std::deque<std::optional<QString>> m_targets;
 };

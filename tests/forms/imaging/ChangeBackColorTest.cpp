@@ -291,6 +291,35 @@ TEST_F(ChangeBackColor, AnEnterThatIsHeldDoesNotCutTheNextMoment)
     EXPECT_TRUE(IsUntouched(StoredLG()));
 }
 
+TEST_F(ChangeBackColor, OfEnterAndEscapeInAHurryTheFirstCounts)
+{
+    for (const bool accepted : { true, false }) {
+        Choose(10, 120, 30);
+        const QPointer<QDialog> border = &Border();
+        for (const Qt::Key key : { accepted ? Qt::Key_Return : Qt::Key_Escape,
+                 accepted ? Qt::Key_Escape : Qt::Key_Return })
+            if (border)
+                QTest::keyClick(border.data(), key);
+        EXPECT_FALSE(IsBorderOpen());
+        ExpectBorder(accepted ? QColor(10, 120, 30) : QColor(Qt::white));
+        Cancel();
+        OpenCrop(700, 500);
+        Push("cmdChangeBackColor");
+    }
+}
+
+TEST_F(ChangeBackColor, WhatIsSeenIsCutWhileItStands)
+{
+    DragLeft({ 175, 175 }, { 175, 0 }); // to the upper edge: all border
+    Choose(10, 120, 30);
+    const Rgb seen = BorderColour() == QColor(Qt::white) ? Rgb{ 255, 255, 255 } : Chosen();
+
+    Ok();
+
+    EXPECT_FALSE(IsBorderOpen() || IsOpen());
+    EXPECT_EQ(StoredLG().At(5, 5), seen);
+}
+
 TEST_F(ChangeBackColor, StretchingChosenMeanwhileEndsInCropping)
 {
     Control<QAbstractButton>("optStretch").click(); // if it can be used at all

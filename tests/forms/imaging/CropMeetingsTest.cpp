@@ -1,15 +1,39 @@
 #include "CropFixture.h"
 
+#include <QDragEnterEvent>
+#include <QMimeData>
 #include <QScrollBar>
 #include <QTimer>
+#include <QUrl>
 #include <filesystem>
+#include <gmock/gmock.h>
 
 namespace vypx::test {
 
 namespace {
 
+using ::testing::AnyOf;
+using ::testing::Not;
+
 /// What the rest of the program may do while the window stands.
-class CropMeetings : public CropFixture { };
+class CropMeetings : public CropFixture {
+protected:
+    void ExpectNoFileLeft()
+    {
+        for (const auto& entry : std::filesystem::directory_iterator(WorkFolder()))
+            EXPECT_THAT(entry.path().extension(), Not(AnyOf(".bmp", ".bak", ".bin")))
+                << entry.path();
+    }
+    static bool TakesFiles(QWidget& target)
+    {
+        QMimeData files;
+        files.setUrls({ QUrl::fromLocalFile("/tmp/a.prc") });
+        QDragEnterEvent enter({ 2, 2 }, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+        enter.ignore();
+        QCoreApplication::sendEvent(&target, &enter);
+        return enter.isAccepted();
+    }
+};
 
 } // namespace
 
@@ -28,9 +52,11 @@ TEST_F(CropMeetings, MeanwhileTheOtherWindowsTakeNoInput)
     QTest::keyClick(&View(), Qt::Key_R);
     EXPECT_EQ(IconTable[*FindIconRow("Alpha (Large Icon)")].IconState, 1);
     EXPECT_TRUE(IsUntouched(StoredLG()));
+    EXPECT_FALSE(TakesFiles(*frame) || TakesFiles(Crop()));
 
     Cancel();
 
+    EXPECT_TRUE(TakesFiles(*frame));
     EXPECT_TRUE(Find<QWidget>("frmProgOptions").isEnabled());
     EXPECT_TRUE(Find<QScrollBar>("VScrollRed").isEnabled());
     EXPECT_TRUE(Find<QWidget>("menuBar").isEnabled());
@@ -69,7 +95,7 @@ TEST_F(CropMeetings, ADocumentThatWasClosedMeanwhileGetsNothing)
 {
     OpenCrop(700, 500);
     IconsetChanged = false;
-    Entry("mnuClose").trigger();
+    Entry("mnuCloseIconset").trigger();
     ASSERT_FALSE(FileLoaded);
     ask.AnswerFurther(QMessageBox::Ok);
 
@@ -92,7 +118,7 @@ TEST_F(CropMeetings, ClosingTheFrameExitsClosesTheWindowsAndLeavesNoFile)
 
     EXPECT_FALSE(frame->isVisible());
     EXPECT_FALSE(IsOpen() || IsOpen("frmChangeBackColor"));
-    EXPECT_TRUE(std::filesystem::is_empty(WorkFolder()));
+    ExpectNoFileLeft();
 }
 
 TEST_F(CropMeetings, AnExitDoesTheSame)
@@ -103,7 +129,7 @@ TEST_F(CropMeetings, AnExitDoesTheSame)
 
     EXPECT_FALSE(frame->isVisible());
     EXPECT_FALSE(IsOpen());
-    EXPECT_TRUE(std::filesystem::is_empty(WorkFolder()));
+    ExpectNoFileLeft();
 }
 
 TEST_F(CropMeetings, AnExitWhileItsMessageStandsDoesTheSame)
@@ -114,7 +140,7 @@ TEST_F(CropMeetings, AnExitWhileItsMessageStandsDoesTheSame)
 
     EXPECT_FALSE(frame->isVisible());
     EXPECT_FALSE(IsOpen());
-    EXPECT_TRUE(std::filesystem::is_empty(WorkFolder()));
+    ExpectNoFileLeft();
 }
 
 TEST_F(CropMeetings, TheProgramsEndWithTheWindowOpenHarmsNothing)

@@ -200,7 +200,13 @@ TEST_F(CropModes, OnPurposeAnIconWithoutASizeKeepsTheSquareTarget)
 {
     Push("optAspectSquare");
     Ok();
-    Click("tAIB3503 (Orphan) ");
+    IconsetChanged = false;
+    Open(Written(Iconset{ .name = "Unknown",
+                     .resources = { { "iTbl", 1000, IndexRecord("appl", "ABCD", 3601, 0) },
+                         vypx::test::Picture(3601) } }
+                     .File(),
+        "unknown.prc"));
+    Click("tAIB3601 (ABCD - Large) ");
 
     OpenCrop(45, 44);
 

@@ -14,9 +14,12 @@
 
 #include <QAction>
 #include <QCoreApplication>
+#include <QDragEnterEvent>
 #include <QGroupBox>
 #include <QLabel>
+#include <QMimeData>
 #include <QTest>
+#include <QUrl>
 #include <memory>
 
 namespace vypx::test {
@@ -92,6 +95,17 @@ protected:
         for (const Box& box : ask.shown)
             texts << box.text;
         return texts;
+    }
+
+    /// Whether files could be dropped on it.
+    static bool TakesFiles(QWidget& target)
+    {
+        QMimeData files;
+        files.setUrls({ QUrl::fromLocalFile("/tmp/a.prc") });
+        QDragEnterEvent enter({ 2, 2 }, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+        enter.ignore();
+        QCoreApplication::sendEvent(&target, &enter);
+        return enter.isAccepted();
     }
 
     TempFolder program;

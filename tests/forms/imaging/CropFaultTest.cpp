@@ -1,6 +1,5 @@
 #include "CropFixture.h"
-
-#include <QProcess>
+#include "FaultChild.h"
 
 /// A picture is cut by the window while one file operation fails. A child process runs the one
 /// disabled test below with the fault library before it.
@@ -43,24 +42,15 @@ class CuttingWithFaults : public ::testing::TestWithParam<std::tuple<std::string
 protected:
     int Cut(const std::string& file, int at)
     {
-        QProcess child;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        const auto set = [&](const char* name, const std::string& value) {
-            environment.insert(name, QString::fromStdString(value));
-        };
-        set("CROP_CHILD_MODE", std::get<1>(GetParam()));
-        set("LD_PRELOAD", VYPX_FAULTS);
-        set("FAULT_PATH", file);
-        set("FAULT_KIND", std::get<0>(GetParam()));
-        set("FAULT_AT", std::to_string(at));
-        set("FAULT_COUNT", folder.File("count"));
-        child.setProcessEnvironment(environment);
-        child.setStandardOutputFile(QProcess::nullDevice());
-        child.setStandardErrorFile(QProcess::nullDevice());
-        child.start(QCoreApplication::applicationFilePath(),
-            { "--gtest_also_run_disabled_tests", "--gtest_filter=CropChild.DISABLED_CutsOnce" });
-        EXPECT_TRUE(child.waitForFinished());
-        return child.exitStatus() == QProcess::NormalExit ? child.exitCode() : -1;
+        return RunWithFaults("CropChild.DISABLED_CutsOnce",
+            {
+                { "CROP_CHILD_MODE", std::get<1>(GetParam()) },
+                { "TMPDIR", folder.Path() }, // a child that exits leaves its folders there
+                { "FAULT_PATH", file },
+                { "FAULT_KIND", std::get<0>(GetParam()) },
+                { "FAULT_AT", std::to_string(at) },
+                { "FAULT_COUNT", folder.File("count") },
+            });
     }
 
     TempFolder folder;

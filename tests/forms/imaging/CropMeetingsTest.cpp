@@ -1,10 +1,7 @@
 #include "CropFixture.h"
 
-#include <QDragEnterEvent>
-#include <QMimeData>
 #include <QScrollBar>
 #include <QTimer>
-#include <QUrl>
 #include <filesystem>
 #include <gmock/gmock.h>
 
@@ -23,15 +20,6 @@ protected:
         for (const auto& entry : std::filesystem::directory_iterator(WorkFolder()))
             EXPECT_THAT(entry.path().extension(), Not(AnyOf(".bmp", ".bak", ".bin")))
                 << entry.path();
-    }
-    static bool TakesFiles(QWidget& target)
-    {
-        QMimeData files;
-        files.setUrls({ QUrl::fromLocalFile("/tmp/a.prc") });
-        QDragEnterEvent enter({ 2, 2 }, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
-        enter.ignore();
-        QCoreApplication::sendEvent(&target, &enter);
-        return enter.isAccepted();
     }
 };
 

@@ -1,7 +1,6 @@
 #include "CropFixture.h"
 #include "support/Netpbm.h"
 
-#include <QImage>
 #include <random>
 
 namespace vypx::test {

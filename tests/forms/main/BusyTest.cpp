@@ -1,12 +1,9 @@
 #include "WindowFixture.h"
 
 #include <QDialog>
-#include <QDropEvent>
 #include <QMenuBar>
-#include <QMimeData>
 #include <QPushButton>
 #include <QTimer>
-#include <QUrl>
 
 namespace vypx::test {
 
@@ -35,16 +32,6 @@ protected:
     {
         QTest::mouseClick(Nodes().viewport(), Qt::LeftButton, {},
             Nodes().visualItemRect(Nodes().NodeOf("tAIB3501 () ")).center());
-    }
-
-    static bool TakesFiles(QWidget& target)
-    {
-        QMimeData files;
-        files.setUrls({ QUrl::fromLocalFile("/tmp/a.prc") });
-        QDragEnterEvent enter({ 2, 2 }, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
-        enter.ignore();
-        QCoreApplication::sendEvent(&target, &enter);
-        return enter.isAccepted();
     }
 };
 

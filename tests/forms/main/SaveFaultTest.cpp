@@ -1,6 +1,5 @@
+#include "FaultChild.h"
 #include "WindowFixture.h"
-
-#include <QProcess>
 
 /// A save by the window while one file operation fails or the process dies there. A child process
 /// runs the one disabled test below with the fault library before it.
@@ -51,25 +50,15 @@ protected:
         WriteBytes(folder.File("set.prc"), old);
         WriteBytes(folder.File("set.prc.bak"), older);
         RemovePassingFiles(folder.Path()); // or looking at them would count as operations
-        QProcess child;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        const auto set = [&](const char* name, const std::string& value) {
-            environment.insert(name, QString::fromStdString(value));
-        };
-        set("SAVE_CHILD_FOLDER", folder.Path());
-        set("TMPDIR", folder.Path()); // a killed child leaves its own folder there
-        set("LD_PRELOAD", VYPX_FAULTS);
-        set("FAULT_PATH", "set.prc");
-        set("FAULT_KIND", GetParam());
-        set("FAULT_AT", std::to_string(at));
-        set("FAULT_COUNT", folder.File("count"));
-        child.setProcessEnvironment(environment);
-        child.setStandardOutputFile(QProcess::nullDevice());
-        child.setStandardErrorFile(QProcess::nullDevice());
-        child.start(QCoreApplication::applicationFilePath(),
-            { "--gtest_also_run_disabled_tests", "--gtest_filter=SaveChild.DISABLED_SavesOnce" });
-        EXPECT_TRUE(child.waitForFinished());
-        return child.exitStatus() == QProcess::NormalExit ? child.exitCode() : -1;
+        return RunWithFaults("SaveChild.DISABLED_SavesOnce",
+            {
+                { "SAVE_CHILD_FOLDER", folder.Path() },
+                { "TMPDIR", folder.Path() }, // a killed child leaves its own folder there
+                { "FAULT_PATH", "set.prc" },
+                { "FAULT_KIND", GetParam() },
+                { "FAULT_AT", std::to_string(at) },
+                { "FAULT_COUNT", folder.File("count") },
+            });
     }
     Bytes File(const std::string& name)
     {

@@ -1,12 +1,13 @@
 #!/usr/bin/env bash
-# Renders the drawings of this folder: 16 pixels and 32 ("@2x") for tree and buttons, and the
-# program's icon from 16 to 256 pixels. Wants rsvg-convert (Debian: librsvg2-bin).
+# Renders the drawings of this folder: 16 pixels and 32 ("@2x") for tree and buttons, 24 for the
+# pointer, and the program's icon from 16 to 256 pixels. Wants rsvg-convert (Debian: librsvg2-bin).
 set -euo pipefail
 cd "$(dirname "$0")"
 for drawing in tree1 tree2 tree3 tree4 tree5 tree6 remove restore; do
     rsvg-convert -w 16 -h 16 "$drawing.svg" -o "$drawing.png"
     rsvg-convert -w 32 -h 32 "$drawing.svg" -o "$drawing@2x.png"
 done
+rsvg-convert -w 24 -h 24 eyedropper.svg -o eyedropper.png
 for size in 16 24 32 48 64 128 256; do
     rsvg-convert -w "$size" -h "$size" program.svg -o "program$size.png"
 done

@@ -3,26 +3,9 @@
 #include "ui_ColourBars.h"
 
 #include <QPainter>
-#include <QRegularExpressionValidator>
 #include <QScopedValueRollback>
 
 namespace vypx {
-
-namespace {
-
-constexpr int LargestValue = 255;
-
-/// The number that a text stands for; empty when it is none from 0 to 255.
-std::optional<int> ValueOf(const QString& text)
-{
-    bool isNumber = false;
-    const int value = text.toInt(&isNumber);
-    if (!isNumber || value < 0 || value > LargestValue)
-        return std::nullopt;
-    return value;
-}
-
-} // namespace
 
 ColourBars::ColourBars(QWidget* parent)
     : QWidget(parent)
@@ -32,10 +15,7 @@ ColourBars::ColourBars(QWidget* parent)
     m_columns = { Column{ m_ui->VScrollRed, m_ui->TextRed, &Rgb::red },
         Column{ m_ui->VScrollGrn, m_ui->TextGrn, &Rgb::green },
         Column{ m_ui->VScrollBlue, m_ui->TextBlue, &Rgb::blue } };
-    auto* const digits = new QRegularExpressionValidator(QRegularExpression("[0-9]*"), this);
     for (const Column& column : m_columns) {
-        column.text->setValidator(digits);
-        column.text->setMaximumWidth(column.text->fontMetrics().horizontalAdvance("8888") + 10);
         column.bar->installEventFilter(this);
         Connect(column);
     }
@@ -52,8 +32,7 @@ void ColourBars::Connect(const Column& column)
         [this, &column](int value) { VScroll_Change(column, value); });
     connect(column.bar, &QScrollBar::sliderMoved, this,
         [this, &column](int position) { VScroll_Scroll(column, position); });
-    connect(column.text, &QLineEdit::textChanged, this,
-        [this, &column](const QString& text) { Text_Change(column, text); });
+    connect(column.text, &QLineEdit::textChanged, this, [this, &column] { Text_Change(column); });
 }
 
 void ColourBars::SetColour(const Rgb& colour)
@@ -89,11 +68,11 @@ void ColourBars::VScroll_Scroll(const Column& column, int position)
     emit ColourChanged(m_colour);
 }
 
-void ColourBars::Text_Change(const Column& column, const QString& text)
+void ColourBars::Text_Change(const Column& column)
 {
     if (m_isFilling)
         return;
-    const std::optional<int> value = ValueOf(text);
+    const std::optional<int> value = column.text->Value();
     if (!value) {
         const QScopedValueRollback filling(m_isFilling, true);
         column.text->setText("0");
@@ -124,9 +103,7 @@ void ColourBars::MoveBars()
 void ColourBars::WriteText(const Column& column)
 {
     const QScopedValueRollback filling(m_isFilling, true);
-    const QString number = QString::number(m_colour.*column.component);
-    if (column.text->text() != number) // else the cursor would jump while it is typed in
-        column.text->setText(number);
+    column.text->SetValue(m_colour.*column.component);
 }
 
 void ColourBars::WriteTexts()

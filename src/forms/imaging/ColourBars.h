@@ -1,13 +1,13 @@
 #pragma once
 
 #include "companion/Rgb.h"
+#include "forms/imaging/ColourText.h"
 
 #include <QWidget>
 #include <array>
 #include <memory>
 
 class QLabel;
-class QLineEdit;
 class QScrollBar;
 
 namespace Ui {
@@ -48,14 +48,14 @@ private:
     /// The controls of one component.
     struct Column {
         QScrollBar* bar;
-        QLineEdit* text;
+        ColourText* text;
         int Rgb::*component;
     };
 
     void Connect(const Column& column);
     void VScroll_Change(const Column& column, int value);
     void VScroll_Scroll(const Column& column, int position);
-    void Text_Change(const Column& column, const QString& text);
+    void Text_Change(const Column& column);
     void chkBackGray_Click(bool locked);
     void MoveBars();
     void WriteText(const Column& column);

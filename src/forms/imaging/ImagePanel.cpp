@@ -101,10 +101,15 @@ void ImagePanel::Show(const SlotEffects& effects)
 
 void ImagePanel::ShowMask(Rgb colour)
 {
+    SetMaskColour(colour);
+    ShowColour(true);
+}
+
+void ImagePanel::SetMaskColour(Rgb colour)
+{
     m_ui->picColSwatchXX->SetBackColour(ScreenColour(colour));
     m_ui->lblC_RGB_XX->setText(
         QString("%1, %2, %3").arg(colour.red).arg(colour.green).arg(colour.blue));
-    ShowColour(true);
 }
 
 void ImagePanel::ClearImage()

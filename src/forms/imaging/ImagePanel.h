@@ -41,6 +41,8 @@ public:
 
     /// There is a transparent colour, and it is this one.
     void ShowMask(Rgb colour);
+    /// The swatch and its text alone, whether they are in sight or not.
+    void SetMaskColour(Rgb colour);
 
     void ClearPicture();
     /// The picture and all that is told of it.

@@ -9,6 +9,7 @@
 #include "forms/main/PictureCommands.h"
 #include "forms/main/Saving.h"
 #include "forms/main/Session.h"
+#include "forms/main/TransparencyCommands.h"
 #include "ui_Form1.h"
 
 #include <QCloseEvent>
@@ -47,6 +48,7 @@ struct Form1::Parts {
     Documents documents;
     Saving saving;
     PictureCommands pictures;
+    TransparencyCommands transparency;
     Session session;
     FormKeys keys;
 
@@ -67,6 +69,7 @@ struct Form1::Parts {
         , saving({ form, commands, status, notes }, ask, icons, settings, windows)
         , pictures({ form, *ui.TreeView1, panels, commands, status, notes, *ui.lblWorking }, ask,
               busy, icons, settings, windows, views)
+        , transparency({ form, panels, commands, status }, windows)
         , session({ frame, form, panels, commands, views, notes, *ui.lblWorking, sides }, ask, busy,
               settings, windows, documents)
         , keys(form, *ui.TreeView1, [this] { icons.RemoveSelected(); })
@@ -88,6 +91,7 @@ Form1::Form1(QWidget& frame, Ask& ask)
     connect(&parts.icons, &IconCommands::Counted, &parts.windows, &SettingsWindows::ShowDepthLock);
     connect(
         &parts.watcher, &LoadWatcher::Began, this, [&parts] { parts.views.ShowPanelsByOption(); });
+    connect(&parts.watcher, &LoadWatcher::Began, &parts.transparency, &TransparencyCommands::Close);
     connect(&parts.watcher, &LoadWatcher::FolderChosen, this, [&parts] { parts.settings.Save(); });
     connect(&parts.windows, &SettingsWindows::OptionsDone, this, [&parts] {
         if (!parts.session.HasEnded()) // an exit saves them itself

@@ -35,10 +35,10 @@ FormKeys::FormKeys(QWidget& form, QWidget& tree, std::function<void()> remove)
     qApp->installEventFilter(this);
 }
 
-bool FormKeys::IsInForm(const QObject& object) const
+bool FormKeys::IsInUsableForm(const QObject& object) const
 {
     const auto* const widget = qobject_cast<const QWidget*>(&object);
-    return widget && (widget == &m_form || m_form.isAncestorOf(widget));
+    return widget && m_form.isEnabled() && (widget == &m_form || m_form.isAncestorOf(widget));
 }
 
 bool FormKeys::eventFilter(QObject* watched, QEvent* event)
@@ -50,7 +50,7 @@ bool FormKeys::eventFilter(QObject* watched, QEvent* event)
     case QEvent::Shortcut:
         return !static_cast<QShortcutEvent*>(event)->isAmbiguous() && TakesMnemonic(*watched);
     case QEvent::KeyPress:
-        return IsInForm(*watched) && !IsEditor(*watched)
+        return IsInUsableForm(*watched) && !IsEditor(*watched)
             && TakesRemoveKey(*watched, static_cast<QKeyEvent&>(*event));
     default:
         return false;
@@ -62,7 +62,7 @@ bool FormKeys::eventFilter(QObject* watched, QEvent* event)
 bool FormKeys::TakesMnemonic(QObject& watched)
 {
     auto* const button = qobject_cast<QAbstractButton*>(&watched);
-    if (!button || !IsInForm(watched))
+    if (!button || !IsInUsableForm(watched))
         return false;
     if (!std::exchange(m_isRepeat, false))
         button->click();

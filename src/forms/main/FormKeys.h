@@ -13,8 +13,8 @@ namespace vypx {
 
 /// The keys of the main form. Plain R marks the selected icon: from anywhere in the form that
 /// isn't written into, once however long it is held down, but not amid a search by typing in the
-/// tree, which the letter belongs to then. A button's mnemonic acts at once, on the icon that is
-/// selected when it is pressed.
+/// tree, which the letter belongs to then, and not while the form is disabled. A button's mnemonic
+/// acts at once, on the icon that is selected when it is pressed.
 class FormKeys : public QObject {
 public:
     /// `remove` is the command of the key R.
@@ -24,7 +24,7 @@ private:
     bool eventFilter(QObject* watched, QEvent* event) override;
     bool TakesMnemonic(QObject& watched);
     bool TakesRemoveKey(QObject& watched, const QKeyEvent& press);
-    bool IsInForm(const QObject& object) const;
+    bool IsInUsableForm(const QObject& object) const;
 
     QWidget& m_form;
     QWidget& m_tree;

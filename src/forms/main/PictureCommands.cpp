@@ -104,11 +104,6 @@ void PictureCommands::KeepFocus(QWidget* before)
         m_view.tree.setFocus();
 }
 
-ImagePanel& PictureCommands::PanelOf(const vypx::Slot& slot) const
-{
-    return &m_view.panels[0]->Shows() == &slot ? *m_view.panels[0] : *m_view.panels[1];
-}
-
 void PictureCommands::Import(const vypx::Slot& slot)
 {
     Run([&] { ImportPicture(slot, *this); });
@@ -150,7 +145,7 @@ void PictureCommands::RemoveAll(const vypx::Slot& slot)
         m_views.ShowAfterRemoval(slot);
         m_icons.UpdateIconStats();
         ForgetPictureOnShow(slot);
-        PanelOf(slot).ClearImage();
+        PanelOf(m_view.panels, slot).ClearImage();
         m_view.commands.Enable(slot.ofStored, false);
         m_view.commands.Enable(slot.ofUndo, false);
     });
@@ -202,12 +197,15 @@ void PictureCommands::Enable(std::span<const Command> commands, bool on)
 
 void PictureCommands::ShowColour(const vypx::Slot& slot, Rgb colour)
 {
-    PanelOf(slot).ShowMask(colour);
+    PanelOf(m_view.panels, slot).ShowMask(colour);
 }
 
-void PictureCommands::ClearPanel(const vypx::Slot& slot) { PanelOf(slot).ClearImage(); }
+void PictureCommands::ClearPanel(const vypx::Slot& slot)
+{
+    PanelOf(m_view.panels, slot).ClearImage();
+}
 
-void PictureCommands::Draw(const vypx::Slot& slot) { PanelOf(slot).Draw(); }
+void PictureCommands::Draw(const vypx::Slot& slot) { PanelOf(m_view.panels, slot).Draw(); }
 
 void PictureCommands::ShowCrop(const vypx::Slot& slot)
 {

@@ -46,7 +46,6 @@ private:
     void Guard(const std::function<void()>& work);
     void ImportCropped(const CropTask& task);
     void KeepFocus(QWidget* before);
-    ImagePanel& PanelOf(const vypx::Slot& slot) const;
 
     std::string ChoosePicture() override;
     LoadedPicture Load(const std::string& path) override;

@@ -150,6 +150,24 @@ void TakeCrop(const QString& folder, MDIForm1& frame, test::ScriptedAsk& ask)
     Take(folder, "crop-imported");
 }
 
+/// The window for the transparent colour over the icon on show, its background green: the mark of
+/// the keys beside the picture's middle, at the larger size.
+void TakeTransparency(const QString& folder, MDIForm1& frame)
+{
+    frame.findChild<QPushButton*>("cmdChangeTC_LG")->click();
+    auto& window = *frame.findChild<QDialog*>("frmChangeTC");
+    window.move(60, 80);
+    window.findChild<QScrollBar*>("VScrollBlue")->setValue(90);
+    window.findChild<QScrollBar*>("VScrollGrn")->setValue(140);
+    window.findChild<QPushButton*>("cmdZoom4X")->click();
+    auto& view = *window.findChild<QWidget*>("picMain");
+    view.setFocus(Qt::TabFocusReason);
+    for (int i = 0; i < 15; ++i)
+        QTest::keyClick(&view, i < 5 ? Qt::Key_Down : Qt::Key_Right);
+    Take(folder, "change-transparent-color");
+    QTest::keyClick(&view, Qt::Key_Escape);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -215,6 +233,8 @@ int main(int argc, char** argv)
     frame.findChild<QAction*>("mnuOpen")->trigger();
     select("Palm Calendar (palmOne) (Large Icon)");
     Take(folder, "main-form");
+    TakeTransparency(folder, frame);
+    IconsetChanged = false;
     const auto bar = [&](const char* name) { return frame.findChild<QScrollBar*>(name); };
     bar("VScrollRed")->setValue(170);
     frame.findChild<QCheckBox*>("chkBackGray")->click();

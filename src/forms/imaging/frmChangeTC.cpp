@@ -103,8 +103,6 @@ void frmChangeTC::KeepPlaces()
         component.sample->setMinimumWidth(component.text->maximumWidth());
     }
     m_ui->frmSampColors->hide();
-    m_ui->picFrame->viewport()->setBackgroundRole(QPalette::Window);
-    m_ui->picFrame->viewport()->setAutoFillBackground(true);
 }
 
 void frmChangeTC::ShowEntry()
@@ -155,9 +153,7 @@ void frmChangeTC::ShowColourControls(bool on)
 void frmChangeTC::PaintPreview(const Rgb& colour)
 {
     m_ui->picMain->SetBackColour(ScreenColour(colour));
-    QPalette palette = m_ui->picFrame->viewport()->palette();
-    palette.setColor(QPalette::Window, ScreenColour(colour));
-    m_ui->picFrame->viewport()->setPalette(palette);
+    m_ui->picFrame->SetBackColour(ScreenColour(colour));
 }
 
 void frmChangeTC::ShowSample(const Rgb& colour)

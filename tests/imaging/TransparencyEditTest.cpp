@@ -81,7 +81,7 @@ TEST_P(TransparencyEditTest, EveryRowOfTheFileFollowsAndNoOther)
 
     edit.Cancel();
 
-    EXPECT_EQ(CellsOf(BitmapTable.back()), (Cells{ 1, 0, 0, 0 })) << "that of the last row";
+    EXPECT_EQ(CellsOf(BitmapTable.back()), (Cells{ 1, 10, 20, 30 })) << "the one on show";
 }
 
 TEST_P(TransparencyEditTest, ATypedComponentKeepsTheOtherTwo)
@@ -202,14 +202,22 @@ TEST_P(TransparencyEditTest, WithoutItsDocumentItWritesNothing)
     ClearSlots();
     const std::vector<BitmapEntry> rows = BitmapTable;
     const Rgb mask = slot.Mask();
+    const bool flag = slot.hasTransparent;
 
+    edit.UseNone();
     edit.Pick({ 40, 50, 60 });
     edit.UseNone();
+    edit.Type(&Rgb::red, 1);
+
+    EXPECT_EQ(BitmapTable, rows);
+    EXPECT_EQ(slot.Mask(), mask);
+    EXPECT_EQ(slot.hasTransparent, flag);
+
     edit.Cancel();
 
     EXPECT_EQ(BitmapTable, rows);
     EXPECT_EQ(slot.Mask(), mask);
-    EXPECT_FALSE(slot.hasTransparent);
+    EXPECT_EQ(slot.hasTransparent, flag);
 }
 
 TEST_P(TransparencyEditTest, AFileWithoutARowHasNoColour)

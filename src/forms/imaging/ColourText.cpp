@@ -9,7 +9,7 @@ ColourText::ColourText(QWidget* parent)
     : QLineEdit(parent)
 {
     setValidator(new QRegularExpressionValidator(QRegularExpression("[0-9]*"), this));
-    setMaximumWidth(fontMetrics().horizontalAdvance("8888") + 10);
+    setFixedWidth(fontMetrics().horizontalAdvance("8888") + 10);
     connect(this, &QLineEdit::returnPressed, this, &ColourText::Entered);
 }
 

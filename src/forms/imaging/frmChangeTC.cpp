@@ -41,9 +41,9 @@ frmChangeTC::frmChangeTC(ColorDepth depth, QWidget* parent)
     setAttribute(Qt::WA_DeleteOnClose);
     PaintChrome(*this);
     move(EditorPlace());
-    m_components = { Component{ m_ui->txtTC_Red, m_ui->lblSampRed, &Rgb::red },
-        Component{ m_ui->txtTC_Grn, m_ui->lblSampGrn, &Rgb::green },
-        Component{ m_ui->txtTC_Blue, m_ui->lblSampBlue, &Rgb::blue } };
+    m_components = { Component{ m_ui->lblTC_Red, m_ui->txtTC_Red, m_ui->lblSampRed, &Rgb::red },
+        Component{ m_ui->lblTC_Grn, m_ui->txtTC_Grn, m_ui->lblSampGrn, &Rgb::green },
+        Component{ m_ui->lblTC_Blue, m_ui->txtTC_Blue, m_ui->lblSampBlue, &Rgb::blue } };
     KeepPlaces();
     const bool isReduced = depth == ColorDepth::Bits8 || depth == ColorDepth::Bits4;
     m_ui->optManualColor->setEnabled(!isReduced);
@@ -95,13 +95,18 @@ void frmChangeTC::Connect()
 
 void frmChangeTC::KeepPlaces()
 {
-    for (QWidget* control : std::initializer_list<QWidget*>{ m_ui->frmSampColors, m_ui->picTCswatch,
-             m_ui->txtTC_Red, m_ui->txtTC_Grn, m_ui->txtTC_Blue })
+    for (QWidget* control :
+        { static_cast<QWidget*>(m_ui->frmSampColors), static_cast<QWidget*>(m_ui->picTCswatch) })
         KeepRoom(*control);
     for (const Component& component : m_components) {
+        KeepRoom(*component.title);
+        KeepRoom(*component.text);
         component.text->setEnabled(false); // the picker is chosen at first
-        component.sample->setMinimumWidth(component.text->maximumWidth());
+        component.sample->setMinimumWidth(component.text->width());
     }
+    constexpr int AroundTitle = 34; // pixels, which a group box leaves out of its own hint
+    m_ui->Frame3->setMinimumWidth(
+        m_ui->Frame3->fontMetrics().horizontalAdvance(m_ui->Frame3->title()) + AroundTitle);
     m_ui->frmSampColors->hide();
 }
 
@@ -146,8 +151,10 @@ void frmChangeTC::ShowTransparentColour()
 void frmChangeTC::ShowColourControls(bool on)
 {
     m_ui->picTCswatch->setVisible(on);
-    for (const Component& component : m_components)
+    for (const Component& component : m_components) {
+        component.title->setVisible(on);
         component.text->setVisible(on);
+    }
 }
 
 void frmChangeTC::PaintPreview(const Rgb& colour)

@@ -45,6 +45,7 @@ protected:
 private:
     /// What belongs to one component of a colour.
     struct Component {
+        QLabel* title;
         ColourText* text;
         QLabel* sample;
         int Rgb::*value;

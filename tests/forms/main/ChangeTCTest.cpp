@@ -205,6 +205,22 @@ TEST_F(ChangeTC, ZoomingShowsThePictureCentredAndMagnified)
     EXPECT_EQ(View().size(), QSize(4, 2));
 }
 
+TEST_F(ChangeTC, TabGoesFromThePictureToTheButtons)
+{
+    OpenEditor();
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), "optUseTransparent");
+    View().setFocus();
+
+    for (const QString name :
+        { "cmdZoom2X", "cmdZoom4X", "chkViewTransparent", "VScrollRed", "TextRed", "VScrollGrn",
+            "TextGrn", "VScrollBlue", "TextBlue", "chkBackGray", "cmdApplyTC", "cmdCancelTC" }) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(QApplication::focusWidget()->objectName(), name);
+    }
+    for (const QString name : { "picMain", "txtTC_Red", "txtTC_Grn", "txtTC_Blue" })
+        EXPECT_FALSE(Part<QWidget>(name).accessibleName().isEmpty()) << name.toStdString();
+}
+
 TEST_F(ChangeTC, ALargePictureScrolls)
 {
     Click("Alpha (Large Icon)");

@@ -1,5 +1,6 @@
 #include "forms/imaging/ZoomView.h"
 
+#include <QPixmap>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -59,6 +60,21 @@ TEST(ZoomView, PixelsOfExactlyTheTransparentColourShowTheBackColour)
 
     view.SetTransparent({});
     EXPECT_EQ(view.grab().toImage().pixelColor(2, 0), QColor(1, 0, 200));
+}
+
+TEST(ZoomView, ThePointersTipIsItsLowestLeftMostPixel)
+{
+    ZoomView view;
+    const QImage pointer = view.cursor().pixmap().toImage();
+    const QPoint tip = view.cursor().hotSpot();
+    ASSERT_FALSE(pointer.isNull());
+
+    EXPECT_GT(pointer.pixelColor(tip).alpha(), 128);
+    for (int y = 0; y < pointer.height(); ++y)
+        for (int x = 0; x < pointer.width(); ++x)
+            if (x < tip.x() || y > tip.y()) {
+                EXPECT_LT(pointer.pixelColor(x, y).alpha(), 128) << x << ' ' << y;
+            }
 }
 
 TEST(ZoomView, ANewPictureKeepsTheMarkWithinIt)

@@ -1,41 +1,8 @@
-#include "imaging/CropTask.h"
-
-#include "imaging/WorkingPicture.h"
-#include "support/PicturesFixture.h"
+#include "support/CroppingFixture.h"
 
 namespace vypx::test {
 
 namespace {
-
-constexpr Rgb Grey{ 120, 130, 140 }, Pink{ 255, 0, 255 };
-
-/// A picture that is larger than its slot waits for the crop window.
-class Cropping : public Pictures {
-protected:
-    /// The import of that picture into the high-res slot of the large icon.
-    CropTask Waiting(const MaskedPicture& picture)
-    {
-        Select(Large);
-        EXPECT_EQ(Import(SlotLG, picture), ImportResult::Cropping);
-        return CropTask(SlotLG, ColorDepth::Bits16);
-    }
-    CropTask Waiting(int width, int height)
-    {
-        return Waiting({ .pixels = Plain(width, height, Grey) });
-    }
-    static PixelSize SizeOf(const std::string& name)
-    {
-        const Picture picture = Stored(name);
-        return { picture.Width(), picture.Height() };
-    }
-    /// Nobody can write over a folder.
-    static void Block(const std::string& name)
-    {
-        std::filesystem::remove(WorkPath(name));
-        std::filesystem::create_directory(WorkPath(name));
-        WriteBytes(WorkPath(name + "/inside"), Bytes(1));
-    }
-};
 
 TEST_F(Cropping, ASmallerPictureStaysWhatItIsOnDisk)
 {
@@ -104,6 +71,8 @@ TEST_F(Cropping, APictureOfOneRowHasNoHalf)
 
     EXPECT_EQ(task.CropFrmLoad(), "Image is to small to process!");
     EXPECT_EQ(task.StretchPreview(), "");
+    EXPECT_EQ(task.PicFit(), "Image is to small to process!");
+    EXPECT_EQ(task.CropFrmLoad(), "Image is to small to process!");
     EXPECT_EQ(task.Stretch(), "");
     EXPECT_EQ(SizeOf("temp.bmp"), (PixelSize{ 64, 44 }));
 }
@@ -130,72 +99,6 @@ TEST_F(Cropping, ATargetOfLessThanFivePixelsIsNotShown)
 
     EXPECT_EQ(task.StretchPreview(), "Image is to small to process!");
     EXPECT_TRUE(task.Shown().pixels.IsNull());
-}
-
-/// Gone, or no picture any more.
-class CroppingLostFiles : public Cropping, public ::testing::WithParamInterface<bool> {
-protected:
-    static void Lose(const std::string& name)
-    {
-        std::filesystem::remove(WorkPath(name));
-        if (GetParam())
-            WriteText(WorkPath(name), "no picture");
-    }
-};
-INSTANTIATE_TEST_SUITE_P(Ways, CroppingLostFiles, ::testing::Bool());
-
-TEST_P(CroppingLostFiles, AreToldWhenTheWindowOpens)
-{
-    CropTask task = Waiting(100, 60);
-    Lose("temp.bmp");
-
-    EXPECT_EQ(task.CropFrmLoad(), "Unable to load original image!");
-    EXPECT_TRUE(task.Shown().pixels.IsNull());
-    EXPECT_EQ(task.Crop(), "Error Processing Image!");
-}
-
-TEST_P(CroppingLostFiles, AreToldInEveryLaterStep)
-{
-    CropTask task = Waiting(100, 60);
-    task.CropFrmLoad();
-    Lose("temp.bmp");
-
-    EXPECT_EQ(task.Crop(), "Error Processing Image!");
-    EXPECT_EQ(task.StretchPreview(), "Unable to load original image!");
-    EXPECT_EQ(task.Stretch(), "Unable to load original image!");
-    EXPECT_EQ(task.PicFit(), "Unable to load original image!");
-    EXPECT_EQ(NamedFileExists(WorkPath("temp.bmp")), GetParam());
-}
-
-TEST_P(CroppingLostFiles, TheHalfIsCutThoughItsSecondFileIsGone)
-{
-    CropTask task = Waiting(3000, 60);
-    task.CropFrmLoad();
-    Lose("temp.bmp");
-
-    EXPECT_EQ(task.Crop(), "");
-    EXPECT_EQ(SizeOf("temp.bmp"), (PixelSize{ 64, 44 }));
-}
-
-TEST_F(Cropping, AHalfThatCantBeWrittenLeavesThePictureToCancelOrStretch)
-{
-    CropTask task = Waiting(3000, 60);
-    Block("lgtemp.bmp");
-
-    EXPECT_THROW(task.CropFrmLoad(), PictureFault);
-
-    EXPECT_TRUE(task.Shown().pixels.IsNull());
-    EXPECT_EQ(SizeOf("temp.bmp"), (PixelSize{ 3000, 60 }));
-    EXPECT_EQ(task.Stretch(), "");
-}
-
-TEST_F(Cropping, AResultThatCantBeWrittenIsAFault)
-{
-    CropTask task = Waiting(3000, 60);
-    task.CropFrmLoad();
-    Block("temp.bmp");
-
-    EXPECT_THROW(task.Crop(), PictureFault);
 }
 
 TEST_F(Cropping, TheBorderIsWhiteAtEachOpeningAndWhenStretchingEnds)

@@ -75,15 +75,16 @@ TEST_F(BorderMeetings, WhatIsSeenIsCutWhileItStands)
     EXPECT_EQ(StoredLG().At(5, 5), seen);
 }
 
-TEST_F(BorderMeetings, StretchingChosenMeanwhileEndsInCropping)
+TEST_F(BorderMeetings, StretchingTakesItAlongWithItsColour)
 {
-    Control<QAbstractButton>("optStretch").click(); // if it can be used at all
-    BorderOk();
+    Choose(10, 120, 30);
 
-    EXPECT_TRUE(IsChosen("optMaintainAspect"));
-    EXPECT_TRUE(IsSeen("CropRec") && IsSeen("Label1") && IsSeen("picBackColor"));
-    EXPECT_FALSE(IsSeen("lblStretch"));
-    EXPECT_EQ(View().size(), QSize(350, 350));
+    Control<QAbstractButton>("optStretch").click();
+    Settle();
+
+    EXPECT_FALSE(IsBorderOpen());
+    EXPECT_TRUE(IsSeen("lblStretch"));
+    EXPECT_EQ(Chosen(), (Rgb{ 255, 255, 255 }));
 }
 
 } // namespace vypx::test

@@ -235,12 +235,13 @@ int main(int argc, char** argv)
     Take(folder, "main-form");
     TakeTransparency(folder, frame);
     IconsetChanged = false;
-    const auto bar = [&](const char* name) { return frame.findChild<QScrollBar*>(name); };
+    auto& preview = *frame.findChild<QWidget*>("frmPreviewOpt");
+    const auto bar = [&](const char* name) { return preview.findChild<QScrollBar*>(name); };
     bar("VScrollRed")->setValue(170);
-    frame.findChild<QCheckBox*>("chkBackGray")->click();
+    preview.findChild<QCheckBox*>("chkBackGray")->click();
     bar("VScrollRed")->setFocus();
     Take(folder, "preview-options");
-    frame.findChild<QCheckBox*>("chkBackGray")->click();
+    preview.findChild<QCheckBox*>("chkBackGray")->click();
     bar("VScrollGrn")->setValue(0);
     bar("VScrollRed")->setValue(0);
     bar("VScrollBlue")->setValue(255);

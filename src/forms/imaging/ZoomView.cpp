@@ -102,9 +102,10 @@ void ZoomView::paintEvent(QPaintEvent* event)
     if (m_showsMark) {
         const QRect square = MarkedSquare();
         painter.setPen(Qt::black);
-        painter.drawRect(square.adjusted(-2, -2, 1, 1));
+        const QRect whole = rect().adjusted(0, 0, -1, -1); // at the edges the frame lies inside
+        painter.drawRect(square.adjusted(-2, -2, 1, 1).intersected(whole));
         painter.setPen(Qt::white);
-        painter.drawRect(square.adjusted(-1, -1, 0, 0));
+        painter.drawRect(square.adjusted(-1, -1, 0, 0).intersected(whole.adjusted(1, 1, -1, -1)));
     }
 }
 
@@ -135,11 +136,19 @@ void ZoomView::mousePressEvent(QMouseEvent* event)
     }
 }
 
-void ZoomView::leaveEvent(QEvent*) { emit SampleLeft(); }
+/// The mark's sample stays.
+void ZoomView::leaveEvent(QEvent*)
+{
+    if (!m_showsMark)
+        emit SampleLeft();
+}
 
+/// Not when the window comes to the front again: who used the mouse wants no mark.
 void ZoomView::focusInEvent(QFocusEvent* event)
 {
-    if (event->reason() != Qt::MouseFocusReason)
+    const Qt::FocusReason reason = event->reason();
+    if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason
+        || reason == Qt::ShortcutFocusReason)
         ShowMark(true);
 }
 
@@ -154,7 +163,9 @@ void ZoomView::keyPressEvent(QKeyEvent* event)
     const std::optional<QPoint> step = StepOf(event->key());
     const bool picks = event->key() == Qt::Key_Space || event->key() == Qt::Key_Return
         || event->key() == Qt::Key_Enter;
-    if (!m_isPicking || (!step && !picks)) {
+    const bool isCommand =
+        event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    if (!m_isPicking || isCommand || (!step && !picks)) {
         QWidget::keyPressEvent(event);
         return;
     }

@@ -1,11 +1,13 @@
 #include "forms/imaging/frmChangeTC.h"
 
 #include "document/PictureState.h"
+#include "forms/common/HeldKeys.h"
 #include "forms/common/Look.h"
 #include "forms/common/Text.h"
 #include "ui_frmChangeTC.h"
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 
 namespace vypx {
 
@@ -68,6 +70,9 @@ void frmChangeTC::Connect()
         });
     };
     whenChosen(m_ui->optUseTransparent, &frmChangeTC::optUseTransparent_Click);
+    // It may be chosen already, by a typed colour that is not used yet.
+    connect(m_ui->optUseTransparent, &QRadioButton::clicked, this,
+        &frmChangeTC::optUseTransparent_Click);
     whenChosen(m_ui->optNoTransparent, &frmChangeTC::optNoTransparent_Click);
     whenChosen(m_ui->optUsePicker, &frmChangeTC::optUsePicker_Click);
     whenChosen(m_ui->optManualColor, &frmChangeTC::optManualColor_Click);
@@ -244,8 +249,10 @@ void frmChangeTC::KeepPreviewColour()
 
 void frmChangeTC::cmdApplyTC_Click()
 {
+    if (m_hasEnded)
+        return;
     for (const Component& component : m_components)
-        if (component.text == focusWidget()) // a key on the button left it there
+        if (component.text == focusWidget()) // where a click does not take the focus
             ApplyManualColor(component);
     KeepPreviewColour();
     if (m_ui->optUseTransparent->isChecked())
@@ -257,6 +264,8 @@ void frmChangeTC::cmdApplyTC_Click()
 
 void frmChangeTC::cmdCancelTC_Click()
 {
+    if (m_hasEnded)
+        return;
     m_edit.Cancel();
     emit ColourChanged(m_edit.Colour());
     End();
@@ -270,6 +279,20 @@ void frmChangeTC::End()
 }
 
 void frmChangeTC::reject() { cmdCancelTC_Click(); }
+
+/// Enter uses the button that has the focus; there is no other that it stands for, since in a text
+/// it only takes that over.
+void frmChangeTC::keyPressEvent(QKeyEvent* event)
+{
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    auto* const button = qobject_cast<QPushButton*>(focusWidget());
+    if (HeldKeys::OfProgram().IsHeldEnd(*event))
+        return;
+    if (isEnter && button)
+        button->click();
+    else
+        QDialog::keyPressEvent(event);
+}
 
 /// The frame, or the program's end: what was written stays. A dialog of Qt's would take it for a
 /// Cancel.

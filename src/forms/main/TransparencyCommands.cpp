@@ -36,9 +36,10 @@ void TransparencyCommands::ShowColour(const vypx::Slot& slot, const Rgb& colour)
     if (!m_window->IsOnShow())
         return;
     ImagePanel& panel = PanelOf(m_view.panels, slot);
-    panel.SetMaskColour(colour);
     if (slot.hasTransparent)
         panel.ShowMask(colour);
+    else
+        panel.SetMaskColour(colour);
 }
 
 void TransparencyCommands::Ended()

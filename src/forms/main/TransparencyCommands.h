@@ -31,7 +31,7 @@ public:
     /// For the picture that the slot shows. On purpose: the document counts as changed from now on,
     /// whatever comes of it.
     void Open(const vypx::Slot& slot);
-    /// As by its frame: another document begins, or the program ends.
+    /// As by its frame: a load begins.
     void Close();
 
 private:

@@ -164,7 +164,7 @@ TEST_F(ChangeTCType, TheCheckBoxChangesTheViewAlone)
     EXPECT_EQ(Seen(0, 0), QColor(0, 0, 255));
 }
 
-TEST_F(ChangeTCType, EnterAndSpaceOfAButtonDoNotMeet)
+TEST_F(ChangeTCType, EnterInATextUsesNoButton)
 {
     OpenEditor();
     Choose("optManualColor");

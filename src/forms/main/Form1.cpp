@@ -4,8 +4,10 @@
 #include "forms/common/DropTarget.h"
 #include "forms/common/Text.h"
 #include "forms/main/Documents.h"
+#include "forms/main/ExportCommands.h"
 #include "forms/main/FormKeys.h"
 #include "forms/main/Menus.h"
+#include "forms/main/PanelKeys.h"
 #include "forms/main/PictureCommands.h"
 #include "forms/main/Saving.h"
 #include "forms/main/Session.h"
@@ -49,8 +51,10 @@ struct Form1::Parts {
     Saving saving;
     PictureCommands pictures;
     TransparencyCommands transparency;
+    ExportCommands exports;
     Session session;
     FormKeys keys;
+    PanelKeys panelKeys;
 
     Parts(QWidget& frame, Form1& form, Ui::Form1& ui, Ask& ask)
         : panels{ MakePanel(SlotLG, *ui.ImageBUF, form), MakePanel(SlotSM, *ui.ImageBUF, form) }
@@ -70,9 +74,11 @@ struct Form1::Parts {
         , pictures({ form, *ui.TreeView1, panels, commands, status, notes, *ui.lblWorking }, ask,
               busy, icons, settings, windows, views)
         , transparency({ form, panels, commands, status }, windows)
+        , exports({ form, commands, notes }, ask, settings)
         , session({ frame, form, panels, commands, views, notes, *ui.lblWorking, sides }, ask, busy,
               settings, windows, documents)
         , keys(form, *ui.TreeView1, [this] { icons.RemoveSelected(); })
+        , panelKeys(form, panels, commands)
     {
     }
 };

@@ -1,13 +1,10 @@
 #include "forms/main/FormKeys.h"
 
+#include "forms/common/Editors.h"
+
 #include <QAbstractButton>
-#include <QAbstractSpinBox>
 #include <QApplication>
-#include <QComboBox>
 #include <QKeyEvent>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QTextEdit>
 #include <utility>
 
 namespace vypx {
@@ -16,14 +13,6 @@ namespace {
 
 constexpr Qt::KeyboardModifiers CommandModifiers =
     Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-
-bool IsEditor(const QObject& object)
-{
-    return qobject_cast<const QLineEdit*>(&object) || qobject_cast<const QTextEdit*>(&object)
-        || qobject_cast<const QPlainTextEdit*>(&object)
-        || qobject_cast<const QAbstractSpinBox*>(&object)
-        || qobject_cast<const QComboBox*>(&object);
-}
 
 } // namespace
 

@@ -42,6 +42,7 @@ void ResetDocument()
         text->clear();
     IconsetChanged = ChangeMark();
     TemplateMode = SkipOpenDialog = DroppedFile = DuplicateResource = false;
+    DropLGEnabled = DropSMEnabled = false;
     LGhasTransparent = SMhasTransparent = false;
     MaskR_LG = MaskG_LG = MaskB_LG = MaskR_SM = MaskG_SM = MaskB_SM = 0;
     TransparentUse = true;

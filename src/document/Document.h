@@ -79,6 +79,8 @@ inline bool SkipOpenDialog = false;    ///< FileName is set already; lives for o
 inline bool DuplicateResource = false; ///< the next load reads no pictures; nothing sets it
 inline bool DroppedFile = false;       ///< DroppedFileName replaces the file dialog
 inline std::string DroppedFileName;
+/// Whether cmdImportLG and cmdImportSM could be used when the file was dropped.
+inline bool DropLGEnabled = false, DropSMEnabled = false;
 
 /// What the main form shows and remembers of the selected icon.
 inline std::string SelectedNode;            ///< IconLabel of the selected row

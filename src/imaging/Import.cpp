@@ -112,6 +112,12 @@ ImportResult Import::BringIn()
 bool Import::Choose()
 {
     ImageFile = DroppedFile ? DroppedFileName : m_host.ChoosePicture();
+    if (DroppedFile && !m_host.TakesDropped(ImageFile)) {
+        DroppedFile = false; // it waited for this one import
+        throw PictureFault(LastComponent(ImageFile)
+            + " was not imported: its ending is not one of a picture. The next import asks for a"
+              " file.");
+    }
     if (!DroppedFile)
         m_dialogPath = ImageFile;
     return !ImageFile.empty();

@@ -22,6 +22,8 @@ public:
 
     /// Path of the picture file that the user chose (UTF-8); empty when the dialog was cancelled.
     virtual std::string ChoosePicture() { return {}; }
+    /// Whether a dropped file can be a picture, by its name. One that can't fails the import.
+    virtual bool TakesDropped(const std::string&) const { return true; }
     virtual LoadedPicture Load(const std::string& path) = 0;
     /// The depth at which pictures of the open document are stored.
     virtual ColorDepth Depth() const { return DefaultColorDepth; }

@@ -104,6 +104,27 @@ TEST_P(ImportFailures, ADroppedFileThatIsNoPictureFails)
     ExpectUsable();
 }
 
+TEST_P(ImportFailures, ADroppedFileThatIsNamedLikeNoPictureIsNotLoadedAndFailsOnce)
+{
+    Fill(slot, Large, Many(8, 8));
+    Select(Large);
+    const auto before = State();
+    DroppedFile = true;
+    DroppedFileName = folder.File("dropped.dat");
+    WriteBytes(DroppedFileName, EncodeBmp24(Many(4, 4)));
+    host.takesDropped = false;
+
+    EXPECT_EQ(Again(slot), ImportResult::Failed);
+
+    ExpectFailureExit("dropped.dat");
+    EXPECT_TRUE(State() == before);
+    EXPECT_THAT(host.steps, Not(Contains("load dropped.dat")));
+    EXPECT_TRUE(IconsetChanged);
+    EXPECT_EQ(Stored(Name() + ".bak"), Many(8, 8));
+    EXPECT_FALSE(DroppedFile) << "the next import asks for its file";
+    ExpectUsable();
+}
+
 TEST_P(ImportFailures, WithoutAWorkingFolderNothingFillsASlot)
 {
     Select(Large);

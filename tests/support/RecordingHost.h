@@ -18,6 +18,7 @@ class RecordingHost : public PictureHost {
 public:
     std::string choice; ///< the file dialog gives this path; empty: it is cancelled
     std::map<std::string, MaskedPicture> prepared; ///< by path; any other file is read as a BMP
+    bool takesDropped = true;                      ///< a dropped file can be a picture
     std::function<void()> duringDialog = [] {};
     std::function<void(const std::string& name)> duringLoad = [](const std::string&) {};
 
@@ -51,6 +52,7 @@ public:
         duringDialog();
         return choice;
     }
+    bool TakesDropped(const std::string&) const override { return takesDropped; }
     LoadedPicture Load(const std::string& path) override
     {
         const std::string name = LastComponent(path);

@@ -1,16 +1,29 @@
 #pragma once
 
+#include <QString>
 #include <functional>
 
-class QMimeData;
 class QWidget;
 
 namespace vypx {
 
-using TakeFiles = std::function<void(const QMimeData&)>;
+/// What is dragged, as far as it counts here.
+struct DraggedData {
+    QString file;           ///< path of the first local file; empty: there is none
+    bool isPicture = false; ///< a picture by itself, without a local file
+};
 
-/// From now on the widget accepts files that are dragged onto it and hands those that are dropped
-/// to `take`, after the program they come from was told that they arrived.
-void TakeDrops(QWidget& target, TakeFiles take);
+/// What a widget does with what is dragged onto it.
+struct DropHandler {
+    /// Whether it would take it now.
+    std::function<bool(const DraggedData&)> takes;
+    /// It was dropped, and the program that it comes from knows that it arrived.
+    std::function<void(const DraggedData&)> take;
+};
+
+/// From now on files and pictures can be dropped on the widget. They are copied, never moved,
+/// whatever the other program prefers. What a part of the widget refuses that has a handler of its
+/// own, the widget refuses as well.
+void TakeDrops(QWidget& target, DropHandler handler);
 
 } // namespace vypx

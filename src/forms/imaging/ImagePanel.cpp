@@ -2,7 +2,6 @@
 
 #include "document/Document.h"
 #include "document/WorkingFolder.h"
-#include "forms/common/DropTarget.h"
 #include "forms/common/Look.h"
 #include "forms/common/Text.h"
 #include "forms/imaging/PictureFile.h"
@@ -23,9 +22,6 @@ ImagePanel::ImagePanel(const vypx::Slot& slot, PictureBox& imageBuffer, QWidget*
     m_ui->setupUi(this);
     NameBySlot();
     m_ui->picXXfrm->installEventFilter(this);
-    for (QWidget* target :
-        std::initializer_list<QWidget*>{ this, m_ui->frameTC_XX, m_ui->picXXfrm, m_ui->picXX })
-        TakeDrops(*target, [this](const QMimeData& files) { emit FilesDropped(files); });
 }
 
 ImagePanel::~ImagePanel() = default;

@@ -7,7 +7,6 @@
 #include <memory>
 
 class QMenu;
-class QMimeData;
 
 namespace Ui {
 class ImagePanel;
@@ -57,10 +56,6 @@ public:
     void PaintBackground(const QColor& colour);
     /// The background alone, while a picture is on show.
     void SetBackColour(const QColor& colour);
-
-signals:
-    /// Files were dropped on the panel.
-    void FilesDropped(const QMimeData& files);
 
 private:
     void NameBySlot();

@@ -1,7 +1,11 @@
 #include "forms/imaging/PictureFile.h"
 
 #include "forms/common/Look.h"
+#include "pictures/PictureLoader.h"
 #include "platform/Platform.h"
+
+#include <QFileInfo>
+#include <algorithm>
 
 namespace vypx {
 
@@ -31,6 +35,14 @@ QImage Masked(const QImage& picture, Rgb mask)
                 row[x] = 0;
     }
     return masked;
+}
+
+bool HasPictureEnding(const std::string& path)
+{
+    const std::vector<std::string> endings = PictureEndings();
+    const std::string ending =
+        QFileInfo(QString::fromStdString(path)).suffix().toLower().toStdString();
+    return std::find(endings.begin(), endings.end(), ending) != endings.end();
 }
 
 QImage ImageOf(const MaskedPicture& picture)

@@ -15,6 +15,10 @@ QString SizeText(const std::string& path);
 /// The picture with every pixel of exactly the mask's colour let through.
 QImage Masked(const QImage& picture, Rgb mask);
 
+/// Whether the file's name (UTF-8 path) ends like one of a picture that can be loaded here: what
+/// stands behind its last point counts, in any case of letters.
+bool HasPictureEnding(const std::string& path);
+
 /// A picture as Qt shows it; transparent pixels are let through.
 QImage ImageOf(const MaskedPicture& picture);
 

@@ -73,6 +73,7 @@ void Documents::New()
 
 void Documents::Open()
 {
+    ForgetDropped();
     m_view.commands.Enable(Command::ChangeDatabaseName, false);
     const bool wasPendingNew = std::exchange(PendingNew, false);
     for (ImagePanel* panel : m_view.panels)
@@ -96,10 +97,19 @@ void Documents::GoOn()
         ShowNewIconset();
     if (!PendingOpen)
         return;
-    if (ChangedSinceAsked() && !MayLeave(Leaving::ForOpen))
+    if (ChangedSinceAsked() && !MayLeave(Leaving::ForOpen)) {
         GiveUp();
-    else
+    } else {
+        ForgetDropped();
         m_loading.LoadFile();
+    }
+}
+
+/// A dropped file that waits for an import would take the place of the one that is to be chosen.
+void Documents::ForgetDropped()
+{
+    if (std::exchange(DroppedFile, false))
+        m_view.notes.Tell(Notes::Kind::Picture, {});
 }
 
 /// No document came of the command: the open one keeps its depth and resolution. As long as one of

@@ -42,6 +42,7 @@ private:
     bool MayLeave(Leaving command);
     bool ChangedSinceAsked() const;
     void GoOn();
+    void ForgetDropped();
     void ShowNewIconset();
     void MakeNewIconset(const QString& name);
     void GiveUp();

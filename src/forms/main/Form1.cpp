@@ -1,9 +1,9 @@
 #include "forms/main/Form1.h"
 
 #include "document/Slot.h"
-#include "forms/common/DropTarget.h"
 #include "forms/common/Text.h"
 #include "forms/main/Documents.h"
+#include "forms/main/Drops.h"
 #include "forms/main/ExportCommands.h"
 #include "forms/main/FormKeys.h"
 #include "forms/main/Menus.h"
@@ -52,6 +52,7 @@ struct Form1::Parts {
     PictureCommands pictures;
     TransparencyCommands transparency;
     ExportCommands exports;
+    Drops drops;
     Session session;
     FormKeys keys;
     PanelKeys panelKeys;
@@ -75,6 +76,10 @@ struct Form1::Parts {
               busy, icons, settings, windows, views)
         , transparency({ form, panels, commands, status }, windows)
         , exports({ form, commands, notes }, ask, settings)
+        , drops({ frame, form, panels, commands, notes }, ask, busy,
+              { .load = [this] { loading.LoadFile(); },
+                  .import = [this](const vypx::Slot& slot) { pictures.Import(slot); },
+                  .paste = {} })
         , session({ frame, form, panels, commands, views, notes, *ui.lblWorking, sides }, ask, busy,
               settings, windows, documents)
         , keys(form, *ui.TreeView1, [this] { icons.RemoveSelected(); })
@@ -90,10 +95,8 @@ Form1::Form1(QWidget& frame, Ask& ask)
     m_ui->setupUi(this);
     m_parts = std::make_unique<Parts>(frame, *this, *m_ui, ask);
     Parts& parts = *m_parts;
-    for (ImagePanel* panel : parts.panels) {
+    for (ImagePanel* panel : parts.panels)
         m_ui->panelRowLayout->addWidget(panel);
-        connect(panel, &ImagePanel::FilesDropped, this, &Form1::TakeDrop);
-    }
     connect(&parts.icons, &IconCommands::Counted, &parts.windows, &SettingsWindows::ShowDepthLock);
     connect(
         &parts.watcher, &LoadWatcher::Began, this, [&parts] { parts.views.ShowPanelsByOption(); });
@@ -104,7 +107,6 @@ Form1::Form1(QWidget& frame, Ask& ask)
             parts.settings.Save();
     });
     ShowKeyImages();
-    TurnOnDrops();
 }
 
 Form1::~Form1() = default;
@@ -114,14 +116,6 @@ void Form1::ShowKeyImages()
     for (const int image : { ImageVY, ImagePalm, ImageApp, ImageUnknown, ImageDelete })
         findChild<QLabel*>(QString("imgKey%1").arg(image))
             ->setPixmap(m_ui->TreeView1->Image(image).pixmap(16, 16));
-}
-
-/// The panels turn theirs on by themselves.
-void Form1::TurnOnDrops()
-{
-    for (QWidget* target : std::initializer_list<QWidget*>{
-             this, m_ui->frameKey, m_ui->TreeView1, m_ui->TreeView1->viewport() })
-        TakeDrops(*target, [this](const QMimeData& files) { TakeDrop(files); });
 }
 
 void Form1::StartUp(const QString& programFolder, const QString& userFolder)
@@ -160,6 +154,6 @@ void Form1::ImportSM() { m_parts->pictures.Import(SlotSM); }
 void Form1::DrawLG() { m_parts->panels[0]->Draw(); }
 void Form1::DrawSM() { m_parts->panels[1]->Draw(); }
 
-void Form1::TakeDrop(const QMimeData&) { }
+void Form1::ChkDragFile() { m_parts->drops.ChkDragFile(); }
 
 } // namespace vypx

@@ -5,7 +5,6 @@
 #include <QWidget>
 #include <memory>
 
-class QMimeData;
 class QTreeWidgetItem;
 
 namespace Ui {
@@ -58,8 +57,8 @@ public:
     void DrawLG();
     void DrawSM();
 
-    /// Files were dropped on this window or on the frame.
-    void TakeDrop(const QMimeData& data);
+    /// Does with the file that was dropped (DroppedFileName) what its ending asks for.
+    void ChkDragFile();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -68,7 +67,6 @@ private:
     struct Parts;
 
     void ShowKeyImages();
-    void TurnOnDrops();
 
     std::unique_ptr<Ui::Form1> m_ui;
     std::unique_ptr<Parts> m_parts;

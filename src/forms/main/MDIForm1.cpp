@@ -6,10 +6,8 @@
 #include "ui_MDIForm1.h"
 
 #include <QCloseEvent>
-#include <QDragEnterEvent>
 #include <QIcon>
 #include <QMdiSubWindow>
-#include <QMimeData>
 #include <algorithm>
 
 namespace vypx {
@@ -32,7 +30,6 @@ MDIForm1::MDIForm1(Ask& ask)
     UseLightColours();
     m_ui->setupUi(this);
     setWindowIcon(ProgramIcon());
-    setAcceptDrops(true);
     MakeMenus(*m_ui->menuBar);
     m_form = new Form1(*this, ask);
     // A title and nothing more: buttons in there would end the program or hide all that there is.
@@ -43,6 +40,7 @@ MDIForm1::MDIForm1(Ask& ask)
     m_child->setSystemMenu(nullptr); // nor the keys of its menu, Ctrl+W and its like
     m_ui->mdiArea->viewport()->installEventFilter(this);
     m_form->installEventFilter(this);
+    installEventFilter(this);
 }
 
 /// The form is as high as the area, or as it must be; to its right there is room for the side
@@ -59,9 +57,12 @@ void MDIForm1::FitForm()
 
 bool MDIForm1::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == this && event->type() == QEvent::Drop)
+        m_ui->mdiArea->setBackground(ScreenColour(ChromeColour));
     const bool changesRoom = watched == m_ui->mdiArea->viewport()
         ? event->type() == QEvent::Resize || event->type() == QEvent::Show
-        : event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show;
+        : watched == m_form
+            && (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show);
     if (changesRoom)
         FitForm();
     return QMainWindow::eventFilter(watched, event);
@@ -75,18 +76,5 @@ void MDIForm1::Start(const QString& programFolder, const QString& userFolder)
 }
 
 void MDIForm1::closeEvent(QCloseEvent* event) { event->setAccepted(m_form->MayClose()); }
-
-void MDIForm1::dragEnterEvent(QDragEnterEvent* event)
-{
-    if (event->mimeData()->hasUrls())
-        event->acceptProposedAction();
-}
-
-void MDIForm1::dropEvent(QDropEvent* event)
-{
-    event->acceptProposedAction();
-    m_form->TakeDrop(*event->mimeData());
-    m_ui->mdiArea->setBackground(ScreenColour(ChromeColour));
-}
 
 } // namespace vypx

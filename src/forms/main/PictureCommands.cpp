@@ -4,6 +4,7 @@
 #include "document/PictureState.h"
 #include "document/WorkingFolder.h"
 #include "forms/common/Text.h"
+#include "forms/imaging/PictureFile.h"
 #include "forms/imaging/frmCrop.h"
 #include "imaging/BulkRemoval.h"
 #include "imaging/LowRes.h"
@@ -162,6 +163,8 @@ std::string PictureCommands::ChoosePicture()
         question.folder = PathText(LastDirImageLoad);
     return m_ask.OpenFile(&m_view.form, question).toStdString();
 }
+
+bool PictureCommands::TakesDropped(const std::string& path) const { return HasPictureEnding(path); }
 
 LoadedPicture PictureCommands::Load(const std::string& path)
 {

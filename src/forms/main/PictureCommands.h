@@ -48,6 +48,7 @@ private:
     void KeepFocus(QWidget* before);
 
     std::string ChoosePicture() override;
+    bool TakesDropped(const std::string& path) const override;
     LoadedPicture Load(const std::string& path) override;
     ColorDepth Depth() const override;
     void Message(std::string_view text, std::string_view title) override;

@@ -6,12 +6,8 @@
 #include "support/Files.h"
 #include "support/TempFolder.h"
 
-#include <QCoreApplication>
-#include <QDropEvent>
 #include <QLabel>
-#include <QMimeData>
 #include <QPushButton>
-#include <QUrl>
 #include <gtest/gtest.h>
 
 namespace vypx::test {
@@ -126,26 +122,6 @@ TEST_F(Panel, OneKnowsNothingOfTheOther)
 
     EXPECT_FALSE(In<PictureBox>(high, "picLG").Picture().isNull());
     EXPECT_EQ(In<QLabel>(high, "lbl_LGsize").text(), "3 x 2 pixels");
-}
-
-TEST_F(Panel, FilesDroppedOnAnyPartOfItAreHandedOn)
-{
-    ImagePanel panel(SlotSM, buffer);
-    int dropped = 0;
-    QObject::connect(&panel, &ImagePanel::FilesDropped, [&] { ++dropped; });
-    QMimeData files;
-    files.setUrls({ QUrl::fromLocalFile("/tmp/a.png") });
-
-    for (QWidget* target : { static_cast<QWidget*>(&panel), &In<QWidget>(panel, "frameTC_SM"),
-             &In<QWidget>(panel, "picSMfrm"), &In<QWidget>(panel, "picSM") }) {
-        QDragEnterEvent enter({ 1, 1 }, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(target, &enter);
-        QDropEvent drop({ 1, 1 }, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
-        drop.ignore();
-        QCoreApplication::sendEvent(target, &drop);
-        EXPECT_TRUE(drop.isAccepted()) << target->objectName().toStdString();
-    }
-    EXPECT_EQ(dropped, 4);
 }
 
 } // namespace

@@ -10,7 +10,7 @@
 //   under NAME     "yes" where the pointer is on it
 //   hover          the control that was last offered what is dragged
 //   box            text of the box that stands; its lines are apart by "|"
-//   root           text of the tree's root
+//   root           text of the tree's root; empty while there is none
 //   quit           ends
 
 #include "document/Document.h"
@@ -75,7 +75,7 @@ private:
             { "under", [&] { return QString(IsUnderPointer(Find(what)) ? "yes" : "no"); } },
             { "hover", [&] { return m_hover; } },
             { "box", [&] { return BoxText(); } },
-            { "root", [&] { return Tree().Root()->text(0); } },
+            { "root", [&] { return Tree().Root() ? Tree().Root()->text(0) : QString(); } },
             { "quit", [&] { return QApplication::exit(0), QString("ok"); } },
         };
         const auto found = answers.find(command);

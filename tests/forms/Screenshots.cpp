@@ -168,6 +168,18 @@ void TakeTransparency(const QString& folder, MDIForm1& frame)
     QTest::keyClick(&view, Qt::Key_Escape);
 }
 
+/// A picture that was dropped on the form.
+void TakeDrop(const QString& folder, MDIForm1& frame)
+{
+    const test::TempFolder target;
+    DroppedFileName = WrittenBall(target).toStdString();
+    frame.Form().ChkDragFile();
+    auto& window = *frame.findChild<QDialog*>("frmDropIconTarget");
+    window.move(120, 160);
+    Take(folder, "picture-dropped");
+    window.findChild<QPushButton*>("cmdCancel")->click();
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -246,6 +258,7 @@ int main(int argc, char** argv)
     bar("VScrollRed")->setValue(0);
     bar("VScrollBlue")->setValue(255);
 
+    TakeDrop(folder, frame);
     TakeCrop(folder, frame, ask);
 
     // The whole road: mark an icon, save under a name, close, open what was saved.

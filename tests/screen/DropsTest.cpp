@@ -105,8 +105,11 @@ TEST_F(DropsOnScreen, TheOtherProgramGoesOnWhileTheQuestionStands)
             == "The current iconset has been modified.|Are you sure you want to load a different "
                "iconset?";
     }));
-    screen.Run({ "xdotool", "key", "Return" });
-    EXPECT_TRUE(WaitUntil([&] { return Ask("root") == "chain"; }));
+    // The box gets the keys a moment after it came up.
+    EXPECT_TRUE(WaitUntil([this] { return Ask("root") == "chain"; },
+        [this] {
+            screen.Run({ "xdotool", "key", "Return" });
+        }));
     EXPECT_EQ(Ask("box"), "");
 }
 

@@ -1,7 +1,9 @@
-// drag_source FILE...: a small window in the lower right corner of the screen. Pressed, it drags
-// the files. Writes "ready X Y" when it can be pressed, "taken" or "refused" whenever what it is
-// over changes its mind, and "done" with the answer when the drag has ended.
+// drag_source ATOM FILE...: a small window in the lower right corner of the screen. Pressed, it
+// drags the files. Writes "ready X Y" when it can be pressed, "taken" or "refused" whenever what it
+// is over changes its mind, "done" with the answer when the drag has ended, and "finished" when a
+// message of the type ATOM (the number of XdndFinished) says that the drop was served.
 
+#include <QAbstractNativeEventFilter>
 #include <QApplication>
 #include <QDrag>
 #include <QMimeData>
@@ -9,9 +11,36 @@
 #include <QScreen>
 #include <QUrl>
 #include <QWidget>
+#include <cstdint>
+#include <cstring>
 #include <iostream>
+#include <utility>
 
 namespace {
+
+/// Tells of the message by which the other program lets go of what was dropped.
+class FinishWatcher : public QAbstractNativeEventFilter {
+public:
+    explicit FinishWatcher(std::uint32_t finished)
+        : m_finished(finished)
+    {
+    }
+
+    bool nativeEventFilter(const QByteArray&, void* message, qintptr*) override
+    {
+        // An event of X: its kind is the first byte, a client message's type the 32 bits at 8.
+        constexpr std::uint8_t ClientMessage = 33;
+        const auto* const event = static_cast<const std::uint8_t*>(message);
+        std::uint32_t type = 0;
+        std::memcpy(&type, event + 8, sizeof type);
+        if ((event[0] & 0x7F) == ClientMessage && type == m_finished)
+            std::cout << "finished" << std::endl;
+        return false;
+    }
+
+private:
+    std::uint32_t m_finished;
+};
 
 class Source : public QWidget {
 public:
@@ -62,7 +91,10 @@ private:
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
-    Source source(QApplication::arguments().mid(1));
+    const QStringList arguments = QApplication::arguments();
+    FinishWatcher watcher(arguments.value(1).toUInt());
+    application.installNativeEventFilter(&watcher);
+    Source source(arguments.mid(2));
     source.show();
     return QApplication::exec();
 }

@@ -27,7 +27,11 @@ protected:
     /// Another program begins to drag the files.
     void BeginDrag(std::vector<std::string> files)
     {
-        files.insert(files.begin(), VYPX_DRAG_SOURCE);
+        // "123<tab>XdndFinished"; the program has made the atom known.
+        const std::vector<std::string> atoms = screen.Run({ "xlsatoms", "-name", "XdndFinished" });
+        EXPECT_EQ(atoms.size(), 1u);
+        const std::string atom = atoms.empty() ? "" : std::to_string(std::stoul(atoms[0]));
+        files.insert(files.begin(), { VYPX_DRAG_SOURCE, atom });
         source = screen.Start(files);
         Place from;
         std::string word;
@@ -122,6 +126,7 @@ TEST_F(DropsOnScreen, TheOtherProgramGoesOnWhileTheQuestionStands)
 
     EXPECT_EQ(Drag({ path }, "TreeView1"), "done copied");
 
+    EXPECT_EQ(source->ReadLine(), "finished") << "before anybody has answered";
     EXPECT_TRUE(WaitUntil([this] {
         return Ask("box")
             == "The current iconset has been modified.|Are you sure you want to load a different "
@@ -145,8 +150,10 @@ TEST_F(DropsOnScreen, WhileAWindowDisablesTheFrameNothingIsTaken)
 
     EXPECT_TRUE(IsVisible("frmCrop"));
     EXPECT_FALSE(IsVisible("frmDropIconTarget"));
-    screen.Run({ "xdotool", "key", "Escape" });
-    EXPECT_TRUE(WaitForWindow("frmCrop", false));
+    EXPECT_TRUE(WaitUntil([this] { return !IsVisible("frmCrop"); },
+        [this] {
+            screen.Run({ "xdotool", "key", "Escape" });
+        }));
     EXPECT_EQ(DragBlindly(small, "frameKey"), "done copied") << "afterwards it is taken";
     EXPECT_TRUE(WaitForWindow("frmDropIconTarget"));
 }

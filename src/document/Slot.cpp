@@ -24,6 +24,17 @@ constexpr Command OfStoredSM[] = { Command::ChangeColourSM, Command::ExportSM, C
 constexpr Command OfImportSM[] = { Command::PasteSM, Command::ImportSM, Command::MenuPasteSM };
 constexpr Command OfUndoSM[] = { Command::UndoSM, Command::MenuUndoSM };
 
+// On purpose: "High" and "Low" follow the icon's size and not the panel.
+constexpr SizeGuards GuardsOfImportLG{
+    .large = { 64, 44, " the the maximum size of a large High Res Icon." },
+    // On purpose: 32 and "Low", though nothing wider than 30 comes so far.
+    .small = { 32, 22, " the the maximum size of a large Low Res Icon." },
+};
+constexpr SizeGuards GuardsOfSM{
+    .large = { 32, 22, " the the maximum size of a small High Res Icon." },
+    .small = { 15, 11, " the the maximum size of a small Low Res Icon." },
+};
+
 } // namespace
 
 const Slot SlotLG{
@@ -39,9 +50,9 @@ const Slot SlotLG{
     .fileSuffix = "-d144.bmp",
     .limitOfLarge = { 64, 44 },
     .limitOfSmall = { 30, 22 },
-    .guardOfLarge = { 64, 44, " the the maximum size of a large High Res Icon." },
-    // On purpose: 32 and "Low", though nothing wider than 30 comes so far.
-    .guardOfSmall = { 32, 22, " the the maximum size of a large Low Res Icon." },
+    .importGuards = GuardsOfImportLG,
+    // On purpose: an import lets a small icon be 2 pixels wider than a paste does.
+    .pasteGuards = { GuardsOfImportLG.large, { 30, 22, GuardsOfImportLG.small.phrase } },
     .ofPicture = OfPictureLG,
     .ofStored = OfStoredLG,
     .ofImport = OfImportLG,
@@ -70,9 +81,8 @@ const Slot SlotSM{
     .fileSuffix = ".bmp",
     .limitOfLarge = { 32, 22 },
     .limitOfSmall = { 15, 11 },
-    // On purpose: "High" and "Low" follow the icon's size and not the panel.
-    .guardOfLarge = { 32, 22, " the the maximum size of a small High Res Icon." },
-    .guardOfSmall = { 15, 11, " the the maximum size of a small Low Res Icon." },
+    .importGuards = GuardsOfSM,
+    .pasteGuards = GuardsOfSM,
     .ofPicture = OfPictureSM,
     .ofStored = OfStoredSM,
     .ofImport = OfImportSM,

@@ -26,6 +26,13 @@ struct SizeGuard {
     std::string_view phrase;   ///< what it exceeds
 };
 
+/// By the icon's size.
+struct SizeGuards {
+    SizeGuard large, small;
+
+    const SizeGuard& Of(SizeClass size) const { return size == SizeClass::Large ? large : small; }
+};
+
 /// One of the two pictures of an icon: high-res (`LG` in names) or low-res (`SM`), whatever the
 /// icon's size. The list of its fields is the list of differences between the two.
 struct Slot {
@@ -40,7 +47,7 @@ struct Slot {
     std::string_view resolution; ///< "High Res" or "Low Res", as the user reads it
     std::string_view fileSuffix; ///< of the working file's name, behind the resource's key
     PixelSize limitOfLarge, limitOfSmall;
-    SizeGuard guardOfLarge, guardOfSmall;
+    SizeGuards importGuards, pasteGuards;
     std::span<const Command> ofPicture; ///< commands that a selected icon's picture enables
     std::span<const Command> ofStored;  ///< those of them that need the picture itself
     std::span<const Command> ofImport;  ///< commands that bring one in
@@ -62,10 +69,6 @@ struct Slot {
     PixelSize LimitOf(SizeClass size) const
     {
         return size == SizeClass::Large ? limitOfLarge : limitOfSmall;
-    }
-    const SizeGuard& GuardOf(SizeClass size) const
-    {
-        return size == SizeClass::Large ? guardOfLarge : guardOfSmall;
     }
 };
 

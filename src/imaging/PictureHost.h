@@ -6,6 +6,7 @@
 #include "document/Slot.h"
 #include "settings/ColorDepth.h"
 
+#include <functional>
 #include <span>
 #include <stdexcept>
 #include <string>
@@ -25,6 +26,9 @@ public:
     /// Whether a dropped file can be a picture, by its name. One that can't fails the import.
     virtual bool TakesDropped(const std::string&) const { return true; }
     virtual LoadedPicture Load(const std::string& path) = 0;
+    /// What loads the picture on the clipboard; empty when there is none. Asked first, so that what
+    /// a large picture takes the place of can be given up before.
+    virtual std::function<LoadedPicture()> ClipboardPicture() { return {}; }
     /// The depth at which pictures of the open document are stored.
     virtual ColorDepth Depth() const { return DefaultColorDepth; }
 

@@ -39,12 +39,12 @@ void SetTargetSize(const Slot& slot, std::string_view label)
 
 bool ExceedsTarget(int width, int height) { return width > TargetWidth || height > TargetHeight; }
 
-std::string TooLargeText(const Slot& slot, std::string_view label, int width, int height)
+std::string TooLargeText(const SizeGuards& guards, std::string_view label, int width, int height)
 {
     for (const Side& side :
         { Side{ "width", &SizeGuard::width, width }, Side{ "height", &SizeGuard::height, height } })
         for (const SizeClass size : { SizeClass::Large, SizeClass::Small }) {
-            const SizeGuard& guard = slot.GuardOf(size);
+            const SizeGuard& guard = guards.Of(size);
             if (SaysIconOf(size, label) && side.pixels > guard.*side.limit)
                 return TextOf(side, guard);
         }

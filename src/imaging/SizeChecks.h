@@ -17,7 +17,7 @@ bool ExceedsTarget(int width, int height);
 
 /// The second test of a size, behind that of the target: what a box says of a picture that is too
 /// large for its icon. Empty for one that fits.
-std::string TooLargeText(const Slot& slot, std::string_view label, int width, int height);
+std::string TooLargeText(const SizeGuards& guards, std::string_view label, int width, int height);
 inline constexpr std::string_view TooLargeTitle = "Image Too Large!";
 
 } // namespace vypx

@@ -110,14 +110,20 @@ void Restore(const Slot& slot, PictureHost& host)
 
 } // namespace
 
-void KeepForUndo(const Slot& slot)
+void KeepForUndo(const Slot& slot, std::string IconRow::*nameCell, PictureHost& host)
 {
     NoteWhetherEmpty(slot);
     for (const IconRow& row : IconTable)
         if (row.IconLabel == SelectedText())
-            slot.undoName = row.*slot.importUndoCell;
-    if (!slot.wasEmpty)
-        BackUp(slot.path);
+            slot.undoName = row.*nameCell;
+    try {
+        if (!slot.wasEmpty)
+            BackUp(slot.path);
+    } catch (...) {
+        host.Enable(slot.ofUndo, false); // of the change before
+        throw;
+    }
+    host.Enable(slot.ofUndo, true);
 }
 
 void DeleteImage(const Slot& slot, PictureHost& host)

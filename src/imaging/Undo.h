@@ -4,9 +4,10 @@
 
 namespace vypx {
 
-/// Before an import: notes whether the slot holds a picture, which file an undo will go back to,
-/// and keeps that file's content under ".bak". One step is kept for each slot. Throws PictureFault.
-void KeepForUndo(const Slot& slot);
+/// Before a picture comes in: notes whether the slot holds one and which file an undo will go back
+/// to, by that cell of the selected icon's row, keeps the slot's file under ".bak", and offers the
+/// undo. One step is kept for each slot. Throws PictureFault; then undo is not offered.
+void KeepForUndo(const Slot& slot, std::string IconRow::*nameCell, PictureHost& host);
 
 /// Takes the slot's picture from the selected icon and all that share its resource; the working
 /// file stays, and its ".bak" is made. Throws PictureFault, and nothing is deleted then.

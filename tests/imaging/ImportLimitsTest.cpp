@@ -114,43 +114,56 @@ std::string Told(
 TEST_F(ImportLimits, TheGuardTellsEveryRowOfItsTable)
 {
     EXPECT_EQ(TooLargeTitle, "Image Too Large!");
-    EXPECT_EQ(TooLargeText(SlotLG, Large, 65, 44), Told("width", LargeHigh, "64", "65"));
-    EXPECT_EQ(TooLargeText(SlotLG, Large, 64, 45), Told("height", LargeHigh, "44", "45"));
-    EXPECT_EQ(TooLargeText(SlotLG, Small, 33, 22), Told("width", LargeLow, "32", "33"));
-    EXPECT_EQ(TooLargeText(SlotLG, Small, 32, 23), Told("height", LargeLow, "22", "23"));
-    EXPECT_EQ(TooLargeText(SlotSM, Large, 33, 22), Told("width", SmallHigh, "32", "33"));
-    EXPECT_EQ(TooLargeText(SlotSM, Large, 32, 23), Told("height", SmallHigh, "22", "23"));
-    EXPECT_EQ(TooLargeText(SlotSM, Small, 16, 11), Told("width", SmallLow, "15", "16"));
-    EXPECT_EQ(TooLargeText(SlotSM, Small, 15, 12), Told("height", SmallLow, "11", "12"));
+    EXPECT_EQ(
+        TooLargeText(SlotLG.importGuards, Large, 65, 44), Told("width", LargeHigh, "64", "65"));
+    EXPECT_EQ(
+        TooLargeText(SlotLG.importGuards, Large, 64, 45), Told("height", LargeHigh, "44", "45"));
+    EXPECT_EQ(
+        TooLargeText(SlotLG.importGuards, Small, 33, 22), Told("width", LargeLow, "32", "33"));
+    EXPECT_EQ(
+        TooLargeText(SlotLG.importGuards, Small, 32, 23), Told("height", LargeLow, "22", "23"));
+    EXPECT_EQ(
+        TooLargeText(SlotSM.importGuards, Large, 33, 22), Told("width", SmallHigh, "32", "33"));
+    EXPECT_EQ(
+        TooLargeText(SlotSM.importGuards, Large, 32, 23), Told("height", SmallHigh, "22", "23"));
+    EXPECT_EQ(
+        TooLargeText(SlotSM.importGuards, Small, 16, 11), Told("width", SmallLow, "15", "16"));
+    EXPECT_EQ(
+        TooLargeText(SlotSM.importGuards, Small, 15, 12), Told("height", SmallLow, "11", "12"));
 }
 
 TEST_F(ImportLimits, TheGuardTellsTheWidthBeforeTheHeight)
 {
-    EXPECT_EQ(TooLargeText(SlotLG, Large, 1000, 2000), Told("width", LargeHigh, "64", "1000"));
-    EXPECT_EQ(TooLargeText(SlotSM, Small, 1000, 2000), Told("width", SmallLow, "15", "1000"));
+    EXPECT_EQ(TooLargeText(SlotLG.importGuards, Large, 1000, 2000),
+        Told("width", LargeHigh, "64", "1000"));
+    EXPECT_EQ(TooLargeText(SlotSM.importGuards, Small, 1000, 2000),
+        Told("width", SmallLow, "15", "1000"));
 }
 
 TEST_F(ImportLimits, TheGuardLetsFittingPicturesPass)
 {
-    EXPECT_EQ(TooLargeText(SlotLG, Large, 64, 44), "");
-    EXPECT_EQ(TooLargeText(SlotLG, Small, 32, 22), "") << "32, though the limit is 30";
-    EXPECT_EQ(TooLargeText(SlotSM, Large, 32, 22), "");
-    EXPECT_EQ(TooLargeText(SlotSM, Small, 15, 11), "");
+    EXPECT_EQ(TooLargeText(SlotLG.importGuards, Large, 64, 44), "");
+    EXPECT_EQ(TooLargeText(SlotLG.importGuards, Small, 32, 22), "") << "32, though the limit is 30";
+    EXPECT_EQ(TooLargeText(SlotSM.importGuards, Large, 32, 22), "");
+    EXPECT_EQ(TooLargeText(SlotSM.importGuards, Small, 15, 11), "");
 }
 
 TEST_F(ImportLimits, TheGuardLetsIconsOfUntoldSizePass)
 {
-    EXPECT_EQ(TooLargeText(SlotLG, Unknown, 1000, 1000), "");
-    EXPECT_EQ(TooLargeText(SlotSM, Launcher, 1000, 1000), "");
+    EXPECT_EQ(TooLargeText(SlotLG.importGuards, Unknown, 1000, 1000), "");
+    EXPECT_EQ(TooLargeText(SlotSM.importGuards, Launcher, 1000, 1000), "");
 }
 
 TEST_F(ImportLimits, TheGuardTestsTheLargeIconFirst)
 {
     const char* const both = "Large Icon Maker (Small Icon)";
-    EXPECT_EQ(TooLargeText(SlotLG, both, 65, 50), Told("width", LargeHigh, "64", "65"));
-    EXPECT_EQ(TooLargeText(SlotLG, both, 33, 50), Told("width", LargeLow, "32", "33"));
-    EXPECT_EQ(TooLargeText(SlotLG, both, 30, 50), Told("height", LargeHigh, "44", "50"));
-    EXPECT_EQ(TooLargeText(SlotLG, both, 30, 23), Told("height", LargeLow, "22", "23"));
+    EXPECT_EQ(
+        TooLargeText(SlotLG.importGuards, both, 65, 50), Told("width", LargeHigh, "64", "65"));
+    EXPECT_EQ(TooLargeText(SlotLG.importGuards, both, 33, 50), Told("width", LargeLow, "32", "33"));
+    EXPECT_EQ(
+        TooLargeText(SlotLG.importGuards, both, 30, 50), Told("height", LargeHigh, "44", "50"));
+    EXPECT_EQ(
+        TooLargeText(SlotLG.importGuards, both, 30, 23), Told("height", LargeLow, "22", "23"));
 }
 
 } // namespace

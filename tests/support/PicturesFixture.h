@@ -4,6 +4,7 @@
 #include "document/PictureState.h"
 #include "document/Selection.h"
 #include "imaging/Import.h"
+#include "imaging/Paste.h"
 #include "support/CompileFixture.h"
 #include "support/RecordingHost.h"
 
@@ -108,6 +109,20 @@ protected:
     ImportResult Again(const Slot& slot)
     {
         return slot.letters == "LG" ? ImportLG(host) : ImportSM(host);
+    }
+    /// The clipboard holds that picture, and it is pasted.
+    ImportResult Paste(const Slot& slot, const MaskedPicture& picture)
+    {
+        host.clipboard = LoadedPicture{ .picture = picture };
+        return PasteAgain(slot);
+    }
+    ImportResult Paste(const Slot& slot, const Picture& picture)
+    {
+        return Paste(slot, MaskedPicture{ .pixels = picture });
+    }
+    ImportResult PasteAgain(const Slot& slot)
+    {
+        return slot.letters == "LG" ? PasteImageLG(host) : PasteImageSM(host);
     }
     bool UndoIsOn(const Slot& slot) const
     {

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <set>
 #include <vector>
 
@@ -19,7 +20,9 @@ public:
     std::string choice; ///< the file dialog gives this path; empty: it is cancelled
     std::map<std::string, MaskedPicture> prepared; ///< by path; any other file is read as a BMP
     bool takesDropped = true;                      ///< a dropped file can be a picture
+    std::optional<LoadedPicture> clipboard;        ///< what a paste finds; empty: no picture
     std::function<void()> duringDialog = [] {};
+    std::function<void()> duringPaste = [] {}; ///< while the clipboard is read
     std::function<void(const std::string& name)> duringLoad = [](const std::string&) {};
 
     /// The calls in order, but for Enable: "choose", "load in.bmp", "folder", "colour LG", ...
@@ -65,6 +68,14 @@ public:
         const std::optional<Picture> picture = DecodeBmp(ReadBytes(path));
         return picture ? LoadedPicture{ .picture = { .pixels = *picture } }
                        : LoadedPicture{ .whyNot = "it is no picture" };
+    }
+    std::function<LoadedPicture()> ClipboardPicture() override
+    {
+        steps.emplace_back("clipboard");
+        duringPaste();
+        if (!clipboard)
+            return {};
+        return [this] { return *clipboard; };
     }
     void Message(std::string_view text, std::string_view title) override
     {

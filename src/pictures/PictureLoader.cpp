@@ -4,6 +4,7 @@
 #include "pictures/PixelCopy.h"
 #include "platform/Platform.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QImageReader>
 #include <QLoggingCategory>
@@ -26,9 +27,9 @@ constexpr const char* NoPicture = "it is no picture that can be read here";
 // Qt's readers don't tell the one from the other.
 constexpr const char* Broken = "its data are broken or of a kind that can't be read here";
 
-/// An open picture file.
+/// An open picture file, or the bytes of one.
 struct PictureSource {
-    QFile file;
+    QIODevice& file;
     const PictureFormat* format = nullptr;
     HeaderClaim claim{};
 
@@ -79,15 +80,19 @@ std::string WhyTooLarge(const HeaderClaim& claim)
     return {};
 }
 
-/// Opens the file and looks at its header. Returns why the picture can't be loaded; empty: it can,
-/// as far as the header tells.
-std::string Open(PictureSource& source, const std::string& path)
+/// Returns why there is no open file; empty: there is.
+std::string Open(QFile& file, const std::string& path)
 {
     if (std::string whyNot = WhyNotOpened(path); !whyNot.empty())
         return whyNot;
-    source.file.setFileName(QString::fromUtf8(path.data(), static_cast<qsizetype>(path.size())));
-    if (!source.file.open(QIODevice::ReadOnly))
-        return "it can't be opened";
+    file.setFileName(QString::fromUtf8(path.data(), static_cast<qsizetype>(path.size())));
+    return file.open(QIODevice::ReadOnly) ? "" : "it can't be opened";
+}
+
+/// Looks at the header. Returns why the picture can't be loaded; empty: it can, as far as the
+/// header tells.
+std::string Examine(PictureSource& source)
+{
     if (source.file.size() > MostFileBytes)
         return "it has more than 1000 MB";
     source.format = FormatOf(source.file);
@@ -129,10 +134,10 @@ QImage Decode(PictureSource& source, QImageIOHandler::Transformations& turn)
     return reader.read(&image) ? image : QImage();
 }
 
-LoadedPicture Load(const std::string& path)
+LoadedPicture Load(QIODevice& file)
 {
-    PictureSource source;
-    if (std::string whyNot = Open(source, path); !whyNot.empty())
+    PictureSource source{ .file = file };
+    if (std::string whyNot = Examine(source); !whyNot.empty())
         return { {}, std::move(whyNot) };
     QImageIOHandler::Transformations turn;
     QImage image = Decode(source, turn);
@@ -176,13 +181,13 @@ void PrepareReaders()
     std::call_once(once, [] { filterBefore = QLoggingCategory::installFilter(SilenceReaders); });
 }
 
-} // namespace
-
-LoadedPicture LoadPicture(const std::string& path)
+/// What both kinds of sources are loaded by.
+template <typename Loader>
+LoadedPicture Guarded(Loader load)
 {
     try {
         PrepareReaders();
-        return Load(path);
+        return load();
     } catch (const BrokenFile&) {
         return { {}, Broken };
     } catch (const std::bad_alloc&) {
@@ -190,16 +195,57 @@ LoadedPicture LoadPicture(const std::string& path)
     }
 }
 
-std::int64_t PixelsClaimed(const std::string& path)
+std::int64_t PixelsClaimedIn(QIODevice& file)
 {
     try {
         PrepareReaders();
-        PictureSource source;
-        Open(source, path);
+        PictureSource source{ .file = file };
+        Examine(source);
         return source.claim.width * source.claim.height;
     } catch (const std::exception&) {
         return 0;
     }
+}
+
+/// A device over the bytes, which stay whose they are.
+void OpenBytes(QBuffer& buffer, std::span<const std::uint8_t> bytes)
+{
+    buffer.setData(QByteArray::fromRawData(
+        reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size())));
+    buffer.open(QIODevice::ReadOnly);
+}
+
+} // namespace
+
+LoadedPicture LoadPicture(const std::string& path)
+{
+    return Guarded([&] {
+        QFile file;
+        std::string whyNot = Open(file, path);
+        return whyNot.empty() ? Load(file) : LoadedPicture{ {}, std::move(whyNot) };
+    });
+}
+
+LoadedPicture LoadPictureBytes(std::span<const std::uint8_t> bytes)
+{
+    return Guarded([&] {
+        QBuffer buffer;
+        OpenBytes(buffer, bytes);
+        return Load(buffer);
+    });
+}
+
+std::int64_t PixelsClaimed(const std::string& path)
+{
+    QFile file;
+    return Open(file, path).empty() ? PixelsClaimedIn(file) : 0;
+}
+
+std::int64_t PixelsClaimed(std::span<const std::uint8_t> bytes)
+{
+    QBuffer buffer;
+    OpenBytes(buffer, bytes);
+    return PixelsClaimedIn(buffer);
 }
 
 std::vector<std::string> PictureEndings()

@@ -3,6 +3,7 @@
 #include "companion/LoadedPicture.h"
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -20,9 +21,13 @@ namespace vypx {
 /// where one takes 8 bytes or the file is a progressive JPEG. Nothing throws.
 LoadedPicture LoadPicture(const std::string& path);
 
+/// The same of a file's bytes.
+LoadedPicture LoadPictureBytes(std::span<const std::uint8_t> bytes);
+
 /// Pixels that the file's header claims, without decoding it; 0 when they can't be told, as of a
 /// file that is no picture.
 std::int64_t PixelsClaimed(const std::string& path);
+std::int64_t PixelsClaimed(std::span<const std::uint8_t> bytes);
 
 /// Endings of the files that can be loaded here, in lower case without a point, sorted.
 std::vector<std::string> PictureEndings();

@@ -13,18 +13,11 @@ namespace {
 
 constexpr std::uintmax_t MostFileBytes = 400'000'000;
 
-std::optional<Picture> Load(const std::string& path)
-{
-    const auto file = platform::ReadWholeFile(path, MostFileBytes);
-    return file ? DecodeBmp(*file) : std::nullopt;
-}
-
-} // namespace
-
-LoadedPicture LoadPicture(const std::string& path)
+template <typename Source>
+LoadedPicture Load(const Source& source)
 {
     try {
-        if (std::optional<Picture> picture = Load(path))
+        if (std::optional<Picture> picture = source())
             return { { std::move(*picture), std::nullopt }, {} };
         return { {}, "it is no picture that can be read here" };
     } catch (const std::bad_alloc&) {
@@ -32,10 +25,31 @@ LoadedPicture LoadPicture(const std::string& path)
     }
 }
 
-std::int64_t PixelsClaimed(const std::string& path)
+std::int64_t PixelsOf(const LoadedPicture& loaded)
 {
-    const LoadedPicture loaded = LoadPicture(path);
     return std::int64_t{ loaded.picture.pixels.Width() } * loaded.picture.pixels.Height();
+}
+
+} // namespace
+
+LoadedPicture LoadPicture(const std::string& path)
+{
+    return Load([&]() -> std::optional<Picture> {
+        const auto file = platform::ReadWholeFile(path, MostFileBytes);
+        return file ? DecodeBmp(*file) : std::nullopt;
+    });
+}
+
+LoadedPicture LoadPictureBytes(std::span<const std::uint8_t> bytes)
+{
+    return Load([&] { return DecodeBmp(ByteView(bytes)); });
+}
+
+std::int64_t PixelsClaimed(const std::string& path) { return PixelsOf(LoadPicture(path)); }
+
+std::int64_t PixelsClaimed(std::span<const std::uint8_t> bytes)
+{
+    return PixelsOf(LoadPictureBytes(bytes));
 }
 
 std::vector<std::string> PictureEndings() { return { "bmp" }; }

@@ -7,8 +7,10 @@
 #include "forms/imaging/PictureFile.h"
 #include "ui_ImagePanel.h"
 
-#include <QEvent>
+#include <QContextMenuEvent>
+#include <QKeyEvent>
 #include <QMenu>
+#include <QMouseEvent>
 #include <algorithm>
 
 namespace vypx {
@@ -21,7 +23,8 @@ ImagePanel::ImagePanel(const vypx::Slot& slot, PictureBox& imageBuffer, QWidget*
 {
     m_ui->setupUi(this);
     NameBySlot();
-    m_ui->picXXfrm->installEventFilter(this);
+    for (QWidget* box : { m_ui->picXXfrm, m_ui->picXX })
+        box->installEventFilter(this);
 }
 
 ImagePanel::~ImagePanel() = default;
@@ -183,11 +186,47 @@ void ImagePanel::CentrePicture()
         box.width() / 2 - picture.width() / 2, box.height() / 2 - picture.height() / 2);
 }
 
+/// By a key: in the middle of the picture.
+void ImagePanel::AskForMenu()
+{
+    emit MenuAsked(m_ui->picXXfrm->mapToGlobal(m_ui->picXXfrm->rect().center()));
+}
+
+void ImagePanel::keyPressEvent(QKeyEvent* event)
+{
+    const bool isShiftF10 = event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier;
+    if (event->key() == Qt::Key_Menu || isShiftF10)
+        AskForMenu();
+    else
+        QGroupBox::keyPressEvent(event);
+}
+
+/// As some desktops say it themselves. The mouse has a place and a moment of its own.
+void ImagePanel::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        AskForMenu();
+    else
+        QGroupBox::contextMenuEvent(event);
+}
+
+bool ImagePanel::TakesRelease(const QMouseEvent& release)
+{
+    const QPoint place = release.globalPosition().toPoint();
+    const QWidget& box = *m_ui->picXXfrm;
+    if (release.button() != Qt::RightButton || !box.rect().contains(box.mapFromGlobal(place)))
+        return false;
+    emit MenuAsked(place);
+    return true;
+}
+
 /// The box grows with the window; its picture stays in the middle.
 bool ImagePanel::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Resize)
+    if (event->type() == QEvent::Resize && watched == m_ui->picXXfrm)
         CentrePicture();
+    if (event->type() == QEvent::MouseButtonRelease)
+        return TakesRelease(static_cast<const QMouseEvent&>(*event));
     return QGroupBox::eventFilter(watched, event);
 }
 

@@ -57,12 +57,23 @@ public:
     /// The background alone, while a picture is on show.
     void SetBackColour(const QColor& colour);
 
+signals:
+    /// The user wants the pop-up menu at that place of the screen: by the right button over the
+    /// picture, or by a key while the panel has the focus.
+    void MenuAsked(const QPoint& place);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
 private:
     void NameBySlot();
     void ShowColour(bool hasTransparent);
     void HideColour();
     void ReserveColourWidth();
     void CentrePicture();
+    void AskForMenu();
+    bool TakesRelease(const QMouseEvent& release);
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     std::unique_ptr<Ui::ImagePanel> m_ui;

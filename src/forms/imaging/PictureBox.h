@@ -7,7 +7,7 @@ namespace vypx {
 
 /// A box with a back colour and a picture at its top left corner, one pixel of the screen for each
 /// of the picture (at a scale of 2 both grow alike). Pixels of the picture that are transparent
-/// show the back colour.
+/// show the back colour. One that can have the keyboard's focus shows it at its edge.
 class PictureBox : public QWidget {
     Q_OBJECT
 
@@ -25,6 +25,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void PaintFocus();
+
     QColor m_backColour = Qt::blue;
     QImage m_picture;
 };

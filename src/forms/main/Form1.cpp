@@ -2,6 +2,7 @@
 
 #include "document/Slot.h"
 #include "forms/common/Text.h"
+#include "forms/main/ClipboardCommands.h"
 #include "forms/main/Documents.h"
 #include "forms/main/Drops.h"
 #include "forms/main/ExportCommands.h"
@@ -53,6 +54,7 @@ struct Form1::Parts {
     TransparencyCommands transparency;
     ExportCommands exports;
     Drops drops;
+    ClipboardCommands clipboard;
     Session session;
     FormKeys keys;
     PanelKeys panelKeys;
@@ -79,7 +81,8 @@ struct Form1::Parts {
         , drops({ frame, form, panels, commands, notes }, ask, busy,
               { .load = [this] { loading.LoadFile(); },
                   .import = [this](const vypx::Slot& slot) { pictures.Import(slot); },
-                  .paste = {} })
+                  .paste = [this] { pictures.Paste(SlotLG); } })
+        , clipboard({ form, panels, commands }, ask, pictures, icons)
         , session({ frame, form, panels, commands, views, notes, *ui.lblWorking, sides }, ask, busy,
               settings, windows, documents)
         , keys(form, *ui.TreeView1, [this] { icons.RemoveSelected(); })

@@ -4,15 +4,18 @@
 #include "document/PictureState.h"
 #include "document/WorkingFolder.h"
 #include "forms/common/Text.h"
+#include "forms/imaging/ClipboardPicture.h"
 #include "forms/imaging/PictureFile.h"
 #include "forms/imaging/frmCrop.h"
 #include "imaging/BulkRemoval.h"
 #include "imaging/LowRes.h"
+#include "imaging/Paste.h"
 #include "imaging/Undo.h"
 #include "pictures/PictureLoader.h"
 #include "settings/Settings.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QElapsedTimer>
 
 namespace vypx {
@@ -47,6 +50,13 @@ QString AllPicturesFilter()
     for (const std::string& ending : PictureEndings())
         patterns << "*." + QString::fromStdString(ending);
     return QObject::tr("All Pictures (%1)").arg(patterns.join(' '));
+}
+
+/// At once, before what takes long.
+void Show(QLabel& note)
+{
+    note.setVisible(true);
+    QCoreApplication::processEvents();
 }
 
 } // namespace
@@ -110,6 +120,11 @@ void PictureCommands::Import(const vypx::Slot& slot)
     Run([&] { ImportPicture(slot, *this); });
 }
 
+void PictureCommands::Paste(const vypx::Slot& slot)
+{
+    Run([&] { PasteImage(slot, *this); });
+}
+
 void PictureCommands::Delete(const vypx::Slot& slot)
 {
     Run([&] { DeleteImage(slot, *this); });
@@ -168,11 +183,28 @@ bool PictureCommands::TakesDropped(const std::string& path) const { return HasPi
 
 LoadedPicture PictureCommands::Load(const std::string& path)
 {
-    if (PixelsClaimed(path) > ManyPixels) {
-        m_view.working.setVisible(true);
-        QCoreApplication::processEvents();
-    }
+    if (PixelsClaimed(path) > ManyPixels)
+        Show(m_view.working);
     return LoadPicture(path);
+}
+
+std::function<LoadedPicture()> PictureCommands::ClipboardPicture()
+{
+    if (!QGuiApplication::clipboard()->ownsClipboard())
+        Show(m_view.working); // another program has to answer, and may take its time
+    const QString format = PictureFormatOnClipboard();
+    if (format.isEmpty())
+        return {};
+    return [this, format]() -> LoadedPicture {
+        const QByteArray file = PictureFileOnClipboard(format);
+        if (file.isEmpty())
+            return { .whyNot = "the program that it comes from does not hand it over" };
+        const std::span bytes(reinterpret_cast<const std::uint8_t*>(file.data()),
+            static_cast<std::size_t>(file.size()));
+        if (PixelsClaimed(bytes) > ManyPixels)
+            Show(m_view.working);
+        return LoadPictureBytes(bytes);
+    };
 }
 
 ColorDepth PictureCommands::Depth() const { return m_windows.DepthOfDocument(); }

@@ -15,8 +15,8 @@ namespace vypx {
 class CropTask;
 class frmCrop;
 
-/// The commands that change pictures: import, deletion, undo, low-res pictures, and the removal of
-/// all pictures of a slot. It asks, loads and shows; what is done is decided downstairs.
+/// The commands that change pictures: import, paste, deletion, undo, low-res pictures, and the
+/// removal of all pictures of a slot. It asks, loads and shows; what is done is decided downstairs.
 class PictureCommands : public QObject, private PictureHost {
     Q_OBJECT
 
@@ -36,6 +36,7 @@ public:
         SavedSettings& settings, const SettingsWindows& windows, ViewEntries& views);
 
     void Import(const vypx::Slot& slot);
+    void Paste(const vypx::Slot& slot);
     void Delete(const vypx::Slot& slot);
     void Undo(const vypx::Slot& slot);
     void CreateLowRes();
@@ -50,6 +51,7 @@ private:
     std::string ChoosePicture() override;
     bool TakesDropped(const std::string& path) const override;
     LoadedPicture Load(const std::string& path) override;
+    std::function<LoadedPicture()> ClipboardPicture() override;
     ColorDepth Depth() const override;
     void Message(std::string_view text, std::string_view title) override;
     void Note(const std::string& text) override;

@@ -7,6 +7,9 @@
 //   at NAME        "X Y": a place on the screen where NAME is what is pointed at
 //   text NAME      of a label or a window's title
 //   visible NAME   "yes" or "no"
+//   enabled NAME   "yes" or "no"
+//   stored SLOT    path of the working file on show, SLOT is LG or SM
+//   clipboard      "ours" or "not ours"
 //   under NAME     "yes" where the pointer is on it
 //   hover          the control that was last offered what is dragged
 //   box            text of the box that stands; its lines are apart by "|"
@@ -21,6 +24,7 @@
 #include "settings/Settings.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QLabel>
 #include <QPushButton>
 #include <QSettings>
@@ -73,6 +77,10 @@ private:
             { "text", [&] { return Text(Find(what)); } },
             { "visible", [&] { return QString(IsVisible(Find(what)) ? "yes" : "no"); } },
             { "under", [&] { return QString(IsUnderPointer(Find(what)) ? "yes" : "no"); } },
+            { "enabled", [&] { return QString(Find(what)->isEnabled() ? "yes" : "no"); } },
+            { "stored", [&] { return Stored(what); } },
+            { "clipboard",
+                [&] { return QString(Clipboard().ownsClipboard() ? "ours" : "not ours"); } },
             { "hover", [&] { return m_hover; } },
             { "box", [&] { return BoxText(); } },
             { "root", [&] { return Tree().Root() ? Tree().Root()->text(0) : QString(); } },
@@ -98,6 +106,13 @@ private:
         Tree().setCurrentItem(Tree().NodeOf(label));
         return SelectedNode == label.toStdString() ? "ok" : "not selected";
     }
+
+    static QString Stored(const QString& slot)
+    {
+        return QString::fromStdString(slot == "LG" ? HighResPath : LowResPath);
+    }
+
+    static const QClipboard& Clipboard() { return *QGuiApplication::clipboard(); }
 
     static QWidget* Find(const QString& name)
     {

@@ -75,12 +75,7 @@ TEST_P(ImportEmpty, EnablesTheCommandsOfItsPicture)
 
     Import(slot, Many(4, 4));
 
-    EXPECT_EQ(host.Told(true),
-        isLG ? (std::set{ Command::ChangeColourLG, Command::ExportLG, Command::CopyLG,
-            Command::CreateLowRes, Command::DeleteLG, Command::UndoLG, Command::MenuUndoLG })
-             : (std::set{ Command::ChangeColourSM, Command::ExportSM, Command::CopySM,
-                 Command::DeleteSM, Command::UndoSM, Command::MenuUndoSM }));
-    EXPECT_EQ(host.Told(false), std::set<Command>());
+    ExpectCommandsOfANewPicture();
 }
 
 TEST_P(ImportEmpty, DoesNotEnableUndoOfTheOtherPanel)

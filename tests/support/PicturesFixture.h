@@ -184,6 +184,16 @@ protected:
     const bool isLG = &slot == &SlotLG;
 
     std::string Letters() const { return std::string(slot.letters); }
+    /// What a picture that came in enables, and nothing else was told.
+    void ExpectCommandsOfANewPicture() const
+    {
+        EXPECT_EQ(host.Told(true),
+            isLG ? (std::set{ Command::ChangeColourLG, Command::ExportLG, Command::CopyLG,
+                Command::CreateLowRes, Command::DeleteLG, Command::UndoLG, Command::MenuUndoLG })
+                 : (std::set{ Command::ChangeColourSM, Command::ExportSM, Command::CopySM,
+                     Command::DeleteSM, Command::UndoSM, Command::MenuUndoSM }));
+        EXPECT_EQ(host.Told(false), std::set<Command>());
+    }
     /// What the host is told of an import from a dialog that came to its end.
     std::vector<std::string> StepsOfAnImport() const
     {

@@ -109,9 +109,8 @@ private:
                     + SizeText(picture.pixels) + " pixels" };
             return;
         }
-        // The whole of a large one need not be copied.
-        if (region && *region != PixelRegion{ 0, 0, width, height })
-            picture = CutRegion(picture, *region, Black);
+        if (region)
+            picture = CutRegion(std::move(picture), *region, Black);
         if (region || (m_stretches && ExceedsTarget(width, height)))
             picture = ScaleCropResult(picture, { TargetWidth, TargetHeight }, Depth());
     }

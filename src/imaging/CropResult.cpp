@@ -21,15 +21,15 @@ void Fill(Picture& picture, Rgb colour)
 }
 
 /// The part of the region that lies in the picture, in the region's own pixels.
-PixelRegion PartInside(const Picture& picture, const PixelRegion& region)
+PixelRegion PartInside(const PixelRegion& picture, const PixelRegion& region)
 {
     const auto part = [](std::int64_t start, std::int64_t length, std::int64_t whole) {
         const std::int64_t from = std::clamp<std::int64_t>(-start, 0, length);
         const std::int64_t end = std::clamp(whole - start, from, length);
         return std::pair(static_cast<int>(from), static_cast<int>(end - from));
     };
-    const auto [left, width] = part(region.left, region.width, picture.Width());
-    const auto [top, height] = part(region.top, region.height, picture.Height());
+    const auto [left, width] = part(region.left, region.width, picture.width);
+    const auto [top, height] = part(region.top, region.height, picture.height);
     return { left, top, width, height };
 }
 
@@ -59,14 +59,16 @@ bool Contains(const Picture& picture, Rgb colour)
 
 } // namespace
 
-MaskedPicture CutRegion(const MaskedPicture& source, const PixelRegion& region, Rgb border)
+MaskedPicture CutRegion(MaskedPicture source, const PixelRegion& region, Rgb border)
 {
-    MaskedPicture cut{ Picture(region.width, region.height), source.transparent };
-    const PixelRegion inside = PartInside(source.pixels, region);
+    const PixelRegion whole{ 0, 0, source.pixels.Width(), source.pixels.Height() };
+    MaskedPicture cut{ {}, source.transparent };
+    cut.pixels = region == whole ? std::move(source.pixels) : Picture(region.width, region.height);
+    const PixelRegion inside = PartInside(whole, region);
     const bool hasBorder = inside.width < region.width || inside.height < region.height;
     if (hasBorder)
         Fill(cut.pixels, border);
-    if (inside.width > 0)
+    if (inside.width > 0 && region != whole)
         for (int y = inside.top; y < inside.top + inside.height; ++y)
             std::copy_n(source.pixels.Row(region.top + y) + (region.left + inside.left) * 3,
                 inside.width * 3, cut.pixels.Row(y) + inside.left * 3);

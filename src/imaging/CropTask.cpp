@@ -128,11 +128,11 @@ void CropTask::ChooseAspect(bool square)
 
 std::string_view CropTask::Crop()
 {
-    const MaskedPicture source = m_shown.pixels.IsNull() ? MaskedPicture() : Source();
+    MaskedPicture source = m_shown.pixels.IsNull() ? MaskedPicture() : Source();
     if (source.pixels.IsNull())
         return ErrorProcessing;
     const Rgb border{ CropBackR, CropBackG, CropBackB };
-    const MaskedPicture cut = CutRegion(source, m_geometry.Region(), border);
+    const MaskedPicture cut = CutRegion(std::move(source), m_geometry.Region(), border);
     WriteScratch(ScaleCropResult(cut, { TargetWidth, TargetHeight }, m_depth));
     return {};
 }

@@ -147,7 +147,6 @@ void TakeCrop(const QString& folder, MDIForm1& frame, test::ScriptedAsk& ask)
     crop.findChild<QRadioButton*>("optStretch")->click();
     Take(folder, "crop-stretch");
     crop.findChild<QPushButton*>("cmdOK")->click();
-    Take(folder, "crop-imported");
 }
 
 /// The window for the transparent colour over the icon on show, its background green: the mark of

@@ -10,14 +10,19 @@ namespace vypx {
 
 namespace {
 
-/// Links are followed. What can't be found out counts as outside.
+/// Links are followed, also those to what is not there. What can't be found out counts as outside.
 bool IsInWorkingFolder(const std::string& path)
 {
     namespace fs = std::filesystem;
+    const fs::path working = platform::NativePath(WorkFolder());
     std::error_code error;
-    const fs::path target = fs::weakly_canonical(platform::NativePath(path), error);
-    const fs::path folder = error ? platform::NativePath(path) : target;
-    return fs::equivalent(folder.parent_path(), platform::NativePath(WorkFolder()), error);
+    fs::path target = platform::FollowLinks(platform::NativePath(path), error);
+    target = fs::weakly_canonical(target, error);
+    for (fs::path folder = target.parent_path(); folder != folder.parent_path();
+         folder = folder.parent_path())
+        if (fs::equivalent(folder, working, error))
+            return true;
+    return false;
 }
 
 /// Another name of the same file.

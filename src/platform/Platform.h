@@ -46,6 +46,10 @@ std::int64_t NanosecondsFromFileTime(std::uint64_t ticks);
 std::optional<std::vector<std::uint8_t>> ReadWholeFile(
     const std::string& path, std::uintmax_t limit = UINT32_MAX);
 
+/// Where a path leads whose last part is a symbolic link: to what need not be there. A path that is
+/// none stays as it is.
+std::filesystem::path FollowLinks(std::filesystem::path path, std::error_code& error);
+
 /// Replaces or creates the file `path` by `bytes` in one step: written beside it under a name of
 /// its own that ends in ".vypx-new", synced, given the old file's permissions, renamed over it. A
 /// symbolic link is followed first and stays a link. After a failure, which the result names, the

@@ -20,6 +20,24 @@ std::string Utf8Path(const fs::path& path)
     return { text.begin(), text.end() };
 }
 
+fs::path FollowLinks(fs::path path, std::error_code& error)
+{
+    constexpr int MostLinks = 40; // as systems themselves follow
+    error.clear();
+    std::error_code ignored;
+    for (int links = 0; fs::is_symlink(path, ignored); ++links) {
+        if (links == MostLinks) {
+            error = std::make_error_code(std::errc::too_many_symbolic_link_levels);
+            return path;
+        }
+        const fs::path next = fs::read_symlink(path, error);
+        if (error)
+            return path;
+        path = path.parent_path() / next; // an absolute `next` stands alone
+    }
+    return path;
+}
+
 std::optional<std::vector<std::uint8_t>> ReadWholeFile(
     const std::string& path, std::uintmax_t limit)
 {

@@ -163,15 +163,9 @@ std::error_code ReplaceFile(
     const std::string& path, std::span<const std::uint8_t> bytes, const std::string& like)
 {
     std::error_code error;
-    std::filesystem::path target = path;
-    for (int links = 0; std::filesystem::is_symlink(target, error); ++links) {
-        if (links == 40)
-            return std::make_error_code(std::errc::too_many_symbolic_link_levels);
-        const std::filesystem::path next = std::filesystem::read_symlink(target, error);
-        if (error)
-            return error;
-        target = target.parent_path() / next; // an absolute `next` stands alone
-    }
+    const std::filesystem::path target = FollowLinks(path, error);
+    if (error)
+        return error;
 
     struct stat old { };
     const bool replaces = ::stat(target.c_str(), &old) == 0;

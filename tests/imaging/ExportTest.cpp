@@ -93,32 +93,44 @@ TEST_P(Exporting, TheWorkingFolderIsRefusedByEveryName)
     EXPECT_EQ(Export(WorkPath("out.bmp")).message, Refused);
     EXPECT_EQ(Export(WorkPath("../" + LastComponent(WorkFolder()) + "/out.bmp")).message, Refused);
     EXPECT_EQ(Export(folder.File("link/out.bmp")).message, Refused);
+    std::filesystem::create_symlink(WorkPath("new.bmp"), folder.File("dangling.bmp"));
+    EXPECT_EQ(Export(folder.File("dangling.bmp")).message, Refused);
+    std::filesystem::create_directory(WorkPath("below"));
+    EXPECT_EQ(Export(WorkPath("below/out.bmp")).message, Refused);
 
     EXPECT_EQ(WorkFiles(), before);
 }
 
 /// At each depth.
-class ExportedPictures : public Pictures, public ::testing::WithParamInterface<ColorDepth> { };
+class ExportedPictures : public Pictures, public ::testing::WithParamInterface<ColorDepth> {
+protected:
+    void ExpectTheSame(const Slot& slot)
+    {
+        const PixelSize size = slot.limitOfLarge;
+        Select(Large);
+        ASSERT_EQ(Import(slot, Many(size.width, size.height)), ImportResult::Stored);
+        const std::string from = NameFor(slot, Large), to = NameFor(slot, Unknown);
+        const Picture stored = Stored(from);
+        const std::string out = folder.File("out.bmp");
+        ExportPicture(slot, out);
+
+        Select(Unknown); // whose size is the one that was kept
+        host.choice = out;
+        ASSERT_EQ(Again(slot), ImportResult::Stored);
+
+        EXPECT_EQ(Stored(to), stored);
+        EXPECT_EQ(TransparentColour(BitmapOf(to)), TransparentColour(BitmapOf(from)));
+    }
+};
 INSTANTIATE_TEST_SUITE_P(Depths, ExportedPictures,
     ::testing::Values(ColorDepth::Bits4, ColorDepth::Bits8, ColorDepth::Bits16));
 
 TEST_P(ExportedPictures, ComeBackTheSameIntoAnotherIcon)
 {
     DefaultColorDepth = GetParam();
-    Select(Large);
-    ASSERT_EQ(Import(SlotLG, Many(64, 44)), ImportResult::Stored);
-    const Picture stored = Stored(NameFor(SlotLG, Large));
-    const std::string out = folder.File("out.bmp");
-    ExportPicture(SlotLG, out);
 
-    Select(Unknown);
-    TargetWidth = 64;
-    TargetHeight = 44;
-    host.choice = out;
-    ASSERT_EQ(ImportLG(host), ImportResult::Stored);
-
-    EXPECT_EQ(Stored(NameFor(SlotLG, Unknown)), stored);
-    EXPECT_EQ(BitmapOf(NameFor(SlotLG, Unknown)).red, BitmapOf(NameFor(SlotLG, Large)).red);
+    ExpectTheSame(SlotLG);
+    ExpectTheSame(SlotSM);
 }
 
 } // namespace

@@ -2,22 +2,36 @@
 
 #include <QDropEvent>
 #include <QMimeData>
+#include <QSysInfo>
 #include <QTimer>
 #include <QUrl>
 #include <QWidget>
-#include <algorithm>
+#include <optional>
 
 namespace vypx {
 
 namespace {
 
+/// Path of the file; empty where it is none of this machine. Some programs name the machine.
+QString LocalFileOf(QUrl url)
+{
+    const QString host = url.host();
+    for (const QString& here : { QString("localhost"), QSysInfo::machineHostName() })
+        if (host.compare(here, Qt::CaseInsensitive) == 0)
+            url.setHost({});
+#ifndef Q_OS_WIN // where the files of a named machine are at hand
+    if (!url.host().isEmpty())
+        return {};
+#endif
+    return url.isLocalFile() ? url.toLocalFile() : QString();
+}
+
+/// Asks the other program, which may be slow.
 DraggedData ReadDrag(const QMimeData& data)
 {
-    const QList<QUrl> urls = data.urls();
-    const auto local =
-        std::find_if(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); });
-    if (local != urls.end())
-        return { .file = local->toLocalFile() };
+    for (const QUrl& url : data.urls())
+        if (const QString file = LocalFileOf(url); !file.isEmpty())
+            return { .file = file };
     return { .isPicture = data.hasImage() };
 }
 
@@ -36,18 +50,22 @@ public:
     bool eventFilter(QObject*, QEvent* event) override
     {
         const QEvent::Type type = event->type();
+        if (type == QEvent::DragLeave || type == QEvent::DragEnter)
+            m_dragged.reset();
         if (type != QEvent::DragEnter && type != QEvent::DragMove && type != QEvent::Drop)
             return false;
         auto& drop = static_cast<QDropEvent&>(*event);
-        const DraggedData data = ReadDrag(*drop.mimeData());
-        if (!IsForTarget(drop.position().toPoint()) || !m_handler.takes(data)) {
+        const bool isMeant = IsForTarget(drop.position().toPoint()) && m_handler.isReady();
+        if (isMeant && (type != QEvent::DragMove || !m_dragged)) // not at each of its steps
+            m_dragged = ReadDrag(*drop.mimeData());
+        if (!isMeant || !m_handler.takes(*m_dragged)) {
             drop.ignore();
             return true;
         }
         drop.setDropAction(Qt::CopyAction); // a move could have the other program delete the file
         drop.accept();
         if (type == QEvent::Drop)
-            QTimer::singleShot(0, this, [this, data] { m_handler.take(data); });
+            QTimer::singleShot(0, this, [this, data = *m_dragged] { m_handler.take(data); });
         return true;
     }
 
@@ -63,6 +81,7 @@ private:
 
     QWidget& m_target;
     DropHandler m_handler;
+    std::optional<DraggedData> m_dragged; // what is over the widget
 };
 
 } // namespace

@@ -15,6 +15,8 @@ struct DraggedData {
 
 /// What a widget does with what is dragged onto it.
 struct DropHandler {
+    /// Whether it takes anything now. Only then the other program is asked what is dragged.
+    std::function<bool()> isReady;
     /// Whether it would take it now.
     std::function<bool(const DraggedData&)> takes;
     /// It was dropped, and the program that it comes from knows that it arrived.

@@ -35,9 +35,16 @@ HeldKeys::HeldKeys()
 
 bool HeldKeys::eventFilter(QObject*, QEvent* event)
 {
-    if (event->type() == QEvent::KeyRelease)
-        m_held.Released(static_cast<QKeyEvent&>(*event));
+    See(*event);
     return false;
+}
+
+void HeldKeys::See(const QEvent& event)
+{
+    if (event.type() == QEvent::KeyRelease)
+        m_held.Released(static_cast<const QKeyEvent&>(event));
+    if (event.type() == QEvent::ShortcutOverride) // comes before every press
+        m_isLastRepeat = IsRepeat(static_cast<const QKeyEvent&>(event));
 }
 
 bool HeldKeys::IsHeldEnd(const QKeyEvent& press) const

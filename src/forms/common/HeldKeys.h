@@ -25,6 +25,10 @@ public:
     static HeldKeys& OfProgram();
 
     bool IsRepeat(const QKeyEvent& press) const { return m_held.IsRepeat(press); }
+    /// The same of the press that came last, for a shortcut, which knows no press.
+    bool IsLastPressRepeat() const { return m_isLastRepeat; }
+    /// Looks at an event. To be called by a filter that keeps events from going on to this one.
+    void See(const QEvent& event);
     /// A held Enter or Escape, which a window before this one was closed with: it is to close no
     /// second one.
     bool IsHeldEnd(const QKeyEvent& press) const;
@@ -34,6 +38,7 @@ private:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     HeldKey m_held;
+    bool m_isLastRepeat = false;
 };
 
 } // namespace vypx

@@ -2,9 +2,11 @@
 
 #include "companion/BmpFile.h"
 #include "forms/imaging/PictureFile.h"
+#include "pictures/PictureLoader.h"
 
 #include <QBuffer>
 #include <QClipboard>
+#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QMimeData>
 
@@ -31,28 +33,71 @@ QByteArray PngOf(const QImage& image)
     return image.save(&buffer, "PNG", NotPacked) ? file : QByteArray();
 }
 
-} // namespace
+/// How long a program that hangs keeps Qt waiting, at least; milliseconds.
+constexpr int Hanging = 4000;
 
-QString PictureFormatOnClipboard()
+/// All that can be read, the best first.
+QStringList FormatsOf(const QMimeData& data)
 {
-    const QMimeData* const data = QGuiApplication::clipboard()->mimeData();
-    if (!data)
-        return {};
-    const QStringList offered = data->formats();
+    const QStringList offered = data.formats();
+    QStringList formats;
     for (const char* format : Formats)
         for (const QString& name : offered)
             if (name.compare(QLatin1String(format), Qt::CaseInsensitive) == 0)
-                return name;
-    return offered.contains(PlatformImage) ? PlatformImage : QString();
+                formats << name;
+    if (offered.contains(PlatformImage))
+        formats << PlatformImage;
+    return formats;
 }
 
-QByteArray PictureFileOnClipboard(const QString& format)
+QByteArray FileOf(const QMimeData& data, const QString& format)
 {
-    const QMimeData* const data = QGuiApplication::clipboard()->mimeData();
-    if (!data)
+    return format == PlatformImage ? PngOf(qvariant_cast<QImage>(data.imageData()))
+                                   : data.data(format);
+}
+
+LoadedPicture LoadFirst(const QStringList& formats, const std::function<void()>& wait)
+{
+    LoadedPicture loaded{ .whyNot = "the program that it comes from does not hand it over" };
+    QElapsedTimer asked;
+    asked.start();
+    for (const QString& format : formats) {
+        const QMimeData* const data = QGuiApplication::clipboard()->mimeData();
+        const QByteArray file = data ? FileOf(*data, format) : QByteArray();
+        if (asked.hasExpired(Hanging) && file.isEmpty())
+            return loaded; // it would hang for each of them
+        if (file.isEmpty())
+            continue;
+        const std::span bytes(reinterpret_cast<const std::uint8_t*>(file.data()),
+            static_cast<std::size_t>(file.size()));
+        if (PixelsClaimed(bytes) > ManyPixels)
+            wait();
+        loaded = LoadPictureBytes(bytes);
+        if (!loaded.picture.pixels.IsNull())
+            return loaded;
+    }
+    return loaded;
+}
+
+} // namespace
+
+std::function<LoadedPicture()> PictureOnClipboard(const std::function<void()>& wait)
+{
+    const QClipboard& clipboard = *QGuiApplication::clipboard();
+    const bool isOurs = clipboard.ownsClipboard();
+    if (!isOurs)
+        wait();
+    QElapsedTimer asked;
+    asked.start();
+    const QMimeData* const data = clipboard.mimeData();
+    const QStringList formats = data ? FormatsOf(*data) : QStringList();
+    if (!formats.isEmpty())
+        return [formats, wait] { return LoadFirst(formats, wait); };
+    if (isOurs || !asked.hasExpired(Hanging))
         return {};
-    return format == PlatformImage ? PngOf(qvariant_cast<QImage>(data->imageData()))
-                                   : data->data(format);
+    // It may hold one, so no other picture takes its place.
+    return
+        [] { return LoadedPicture{ .whyNot = "the program that it comes from does not answer" }; };
 }
 
 void PutOnClipboard(const vypx::Picture& picture)

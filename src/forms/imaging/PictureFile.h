@@ -4,9 +4,13 @@
 
 #include <QImage>
 #include <QString>
+#include <cstdint>
 #include <string>
 
 namespace vypx {
+
+/// A picture with more pixels takes so long that the program says so.
+inline constexpr std::int64_t ManyPixels = 2'000'000;
 
 /// Width and height fields of a BMP file as a text, "64 x 44 pixels"; empty for a file that is too
 /// short for them.

@@ -1,5 +1,7 @@
 #include "forms/main/BusyGuard.h"
 
+#include "forms/common/HeldKeys.h"
+
 #include <QApplication>
 #include <QEvent>
 #include <utility>
@@ -70,6 +72,7 @@ void BusyGuard::WhenIdle(std::function<void()> act)
 bool BusyGuard::eventFilter(QObject*, QEvent* event)
 {
     const QEvent::Type type = event->type();
+    HeldKeys::OfProgram().See(*event);
     return IsBusy() && IsUserInput(type) && (IsDrop(type) || !QApplication::activeModalWidget());
 }
 

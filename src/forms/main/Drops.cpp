@@ -5,6 +5,7 @@
 #include "document/WorkingFolder.h"
 #include "forms/common/Text.h"
 #include "forms/imaging/PictureFile.h"
+#include "forms/main/SettingsWindows.h"
 #include "forms/main/frmDropIconTarget.h"
 #include "pictures/PictureLoader.h"
 
@@ -22,6 +23,7 @@ Drops::Drops(const View& view, Ask& ask, BusyGuard& busy, Doors doors)
 {
     for (const DropTargetRow& target : DropTargets()) {
         const DropHandler handler{
+            .isReady = [this] { return CanServe(); },
             .takes = [this, &target](const DraggedData& data) { return Takes(target, data); },
             .take = [this, &target](const DraggedData& data) { Serve(target, data); },
         };
@@ -136,7 +138,7 @@ void Drops::OpenDropped(const DropQuestion& question)
 void Drops::ShowIconTarget()
 {
     auto* const window = new frmDropIconTarget(m_view.panels, m_ask, m_doors.import, m_view.form);
-    window->show();
+    BringUp(*window); // the program that the file comes from is in front
 }
 
 void Drops::NoteOtherEnding(const DropTargetRow& target)

@@ -1,6 +1,7 @@
 #include "forms/main/PanelKeys.h"
 
 #include "forms/common/Editors.h"
+#include "forms/common/HeldKeys.h"
 
 #include <QApplication>
 #include <QShortcut>
@@ -47,7 +48,7 @@ PanelKeys::PanelKeys(QWidget& form, const Panels& panels, Commands& commands)
 void PanelKeys::Press(const std::array<Command, 2>& ofPanels, bool needsFocus) const
 {
     const QWidget* const focus = QApplication::focusWidget();
-    if (focus && IsEditor(*focus))
+    if ((focus && IsEditor(*focus)) || HeldKeys::OfProgram().IsLastPressRepeat())
         return;
     int panel = PanelWithFocus();
     if (panel == None && !needsFocus)

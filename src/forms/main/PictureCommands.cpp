@@ -15,15 +15,11 @@
 #include "settings/Settings.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QElapsedTimer>
 
 namespace vypx {
 
 namespace {
-
-/// A picture with more pixels takes so long that the program says so.
-constexpr std::int64_t ManyPixels = 2'000'000;
 
 struct SlotCommand {
     Command command;
@@ -190,21 +186,7 @@ LoadedPicture PictureCommands::Load(const std::string& path)
 
 std::function<LoadedPicture()> PictureCommands::ClipboardPicture()
 {
-    if (!QGuiApplication::clipboard()->ownsClipboard())
-        Show(m_view.working); // another program has to answer, and may take its time
-    const QString format = PictureFormatOnClipboard();
-    if (format.isEmpty())
-        return {};
-    return [this, format]() -> LoadedPicture {
-        const QByteArray file = PictureFileOnClipboard(format);
-        if (file.isEmpty())
-            return { .whyNot = "the program that it comes from does not hand it over" };
-        const std::span bytes(reinterpret_cast<const std::uint8_t*>(file.data()),
-            static_cast<std::size_t>(file.size()));
-        if (PixelsClaimed(bytes) > ManyPixels)
-            Show(m_view.working);
-        return LoadPictureBytes(bytes);
-    };
+    return PictureOnClipboard([this] { Show(m_view.working); });
 }
 
 ColorDepth PictureCommands::Depth() const { return m_windows.DepthOfDocument(); }

@@ -32,6 +32,16 @@ TEST_F(Dropping, OnlyLocalFilesCount)
     EXPECT_EQ(RootText(), "Other");
 }
 
+TEST_F(Dropping, AFileMayNameThisMachine)
+{
+    const QString path = AnotherIconset();
+    EXPECT_FALSE(Drop("Form1", { "file://another.invalid" + path }));
+
+    Drop("Form1", { "file://another.invalid" + path, "file://localhost" + path });
+
+    EXPECT_EQ(RootText(), "Other");
+}
+
 TEST_F(Dropping, WordsAreNotTaken)
 {
     QMimeData words;

@@ -1,5 +1,7 @@
 #include "PicturesFixture.h"
 
+#include <QClipboard>
+#include <QDialog>
 #include <QLineEdit>
 
 namespace vypx::test {
@@ -101,11 +103,46 @@ TEST_F(PanelKeysTest, NoKeyActsWhileANameIsTyped)
     editor->setFocus();
 
     Key(Qt::Key_E, Qt::ControlModifier);
-    Key(Qt::Key_I, Qt::ControlModifier);
+    for (const Qt::Key key : { Qt::Key_I, Qt::Key_C, Qt::Key_V, Qt::Key_Z })
+        Key(key, Qt::ControlModifier);
     Key(Qt::Key_Delete);
 
     EXPECT_TRUE(ask.saved.empty());
     EXPECT_TRUE(ask.opened.size() == 1); // of the document
+}
+
+TEST_F(PanelKeysTest, CopyAndPasteActOnTheFocusedPanel)
+{
+    FocusOn("cmdImportLG");
+    Key(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->image().size(), QSize(2, 1));
+    QImage red(5, 4, QImage::Format_RGB32);
+    red.fill(QColor(255, 0, 0));
+    QGuiApplication::clipboard()->setImage(red);
+    FocusOn("cmdImportSM");
+
+    Key(Qt::Key_V, Qt::ControlModifier);
+
+    EXPECT_EQ(Text("lbl_SMsize"), "5 x 4 pixels");
+    EXPECT_EQ(Text("lbl_LGsize"), "2 x 1 pixels");
+    Entry("mnuHideLowRes").trigger();
+    FocusOn("TreeView1");
+    Key(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(Text("lbl_LGsize"), "5 x 4 pixels");
+    QGuiApplication::clipboard()->clear();
+}
+
+TEST_F(PanelKeysTest, NoKeyActsWhileAWindowDisablesTheForm)
+{
+    Import("cmdImportLG", PictureFile(100, 60, { 1, 2, 3 })); // opens the crop window
+    auto& crop = Find<QDialog>("frmCrop");
+
+    for (const Qt::Key key : { Qt::Key_E, Qt::Key_I, Qt::Key_V })
+        for (QWidget* target : { static_cast<QWidget*>(&crop), static_cast<QWidget*>(frame.get()) })
+            QTest::keyClick(target, key, Qt::ControlModifier);
+
+    EXPECT_TRUE(ask.saved.empty());
+    EXPECT_EQ(Text("lbl_LGsize"), "2 x 1 pixels");
 }
 
 TEST_F(PanelKeysTest, AHeldKeyActsOnce)

@@ -43,6 +43,17 @@ TEST_F(PasteTest, ThePasteButtonsFillTheirSlot)
     EXPECT_TRUE(IconsetChanged);
 }
 
+TEST_F(PasteTest, AFormatThatCantBeReadLeavesTheTurnToTheNext)
+{
+    Offer({ { "image/png", "broken" }, { "image/bmp", FileOf(Painted(7, 5), "BMP") } });
+    Press("cmdPastePicLG");
+    EXPECT_EQ(Stored(HighResPath), Painted(7, 5));
+
+    Offer({ { "image/png", {} }, { "image/bmp", FileOf(Painted(6, 4), "BMP") } });
+    Press("cmdPastePicLG");
+    EXPECT_EQ(Stored(HighResPath), Painted(6, 4));
+}
+
 TEST_F(PasteTest, TheMenuEntriesPasteTheSame)
 {
     clipboard.setImage(Painted(7, 5));

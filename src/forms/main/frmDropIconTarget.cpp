@@ -7,6 +7,7 @@
 #include "forms/main/DropTable.h"
 #include "ui_frmDropIconTarget.h"
 
+#include <QPointer>
 #include <utility>
 
 namespace vypx {
@@ -48,13 +49,17 @@ void frmDropIconTarget::cmdApplytoLowRes_Click()
     Apply(SlotSM, DropSMEnabled ? std::string_view() : SelectValidIconFirst);
 }
 
+/// The desktop may close the window while it works or its box stands.
 void frmDropIconTarget::Apply(const vypx::Slot& slot, std::string_view whyNot)
 {
+    const QPointer<frmDropIconTarget> window = this;
+    const Import import = m_import;
     if (whyNot.empty())
-        m_import(slot);
+        import(slot);
     else
         m_ask.Show(this, { .text = FromLatin1(whyNot) });
-    accept();
+    if (window)
+        accept();
 }
 
 /// Every way out: what it belongs to is enabled before this one goes, so that it gets the focus.

@@ -158,6 +158,22 @@ TEST_F(DropIconTarget, ItStandsUntilItsMessageIsAnswered)
     EXPECT_TRUE(stands && disables);
 }
 
+TEST_F(DropIconTarget, MayBeClosedWhileItsMessageStands)
+{
+    Click("Set");
+    DropPicture();
+    auto& button = *Window()->findChild<QPushButton*>("cmdApplytoLowRes");
+    ask.Answer(QMessageBox::Ok, [&] {
+        Window()->close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_EQ(Window(), nullptr);
+    });
+
+    button.click();
+
+    ExpectGone();
+}
+
 TEST_F(DropIconTarget, EveryWayOutForgetsTheFile)
 {
     const std::function<void()> ways[] = {

@@ -41,8 +41,10 @@ bool IsUserInput(QEvent::Type type)
 
 void BusyGuard::Run(const std::function<void()>& work)
 {
-    if (m_depth++ == 0)
+    if (m_depth++ == 0) {
+        HeldKeys::OfProgram();          // no filter may be made while the filters are asked
         qApp->installEventFilter(this); // the last one is asked before all others
+    }
     try {
         work();
     } catch (...) {

@@ -41,6 +41,14 @@ protected:
         owner = screen.Start({ VYPX_CLIPBOARD_OWNER, how });
         EXPECT_EQ(owner->ReadLine(), "ready");
     }
+    /// The box gets the keys a moment after it came up.
+    void CloseBox()
+    {
+        EXPECT_TRUE(WaitUntil([this] { return Ask("box").empty(); },
+            [this] {
+                screen.Run({ "xdotool", "key", "Return" });
+            }));
+    }
     /// Number of pixels that differ between two files, as ImageMagick counts them.
     std::string Difference(const std::string& one, const std::string& other)
     {
@@ -115,8 +123,7 @@ TEST_F(ClipboardOnScreen, GarbageIsToldAndTheProgramGoesOn)
         "The picture was not changed.|The clipboard's picture was not pasted: it is no picture "
         "that "
         "can be read here.");
-    screen.Run({ "xdotool", "key", "Return" });
-    EXPECT_TRUE(WaitUntil([this] { return Ask("box").empty(); }));
+    CloseBox();
     EXPECT_EQ(Ask("text lbl_LGsize"), before);
 }
 
@@ -139,8 +146,7 @@ TEST_F(ClipboardOnScreen, AProgramThatDiesWhenItIsAskedIsToldOf)
 
     EXPECT_TRUE(WaitUntil([this] { return !Ask("box").empty(); }));
     EXPECT_THAT(Ask("box"), HasSubstr("the program that it comes from does not hand it over"));
-    screen.Run({ "xdotool", "key", "Return" });
-    EXPECT_TRUE(WaitUntil([this] { return Ask("box").empty(); }));
+    CloseBox();
     EXPECT_EQ(Ask("text lbl_LGsize"), before);
 }
 
@@ -153,8 +159,7 @@ TEST_F(ClipboardOnScreen, AProgramThatHangsIsNotWaitedForForEver)
 
     EXPECT_TRUE(WaitUntil([this] { return !Ask("box").empty(); })) << "it goes on";
     EXPECT_THAT(Ask("box"), HasSubstr("does not answer"));
-    screen.Run({ "xdotool", "key", "Return" });
-    EXPECT_TRUE(WaitUntil([this] { return Ask("box").empty(); }));
+    CloseBox();
     EXPECT_EQ(Ask("visible lblWorking"), "no");
     EXPECT_EQ(Ask("text lbl_LGsize"), before);
     Shell("convert -size 20x15 gradient:red-blue in.png");

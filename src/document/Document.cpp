@@ -43,6 +43,7 @@ void ResetDocument()
     IconsetChanged = ChangeMark();
     TemplateMode = SkipOpenDialog = DroppedFile = DuplicateResource = false;
     DropLGEnabled = DropSMEnabled = false;
+    AddIconAssignMode = AddIconChangeMode = false;
     LGhasTransparent = SMhasTransparent = false;
     MaskR_LG = MaskG_LG = MaskB_LG = MaskR_SM = MaskG_SM = MaskB_SM = 0;
     TransparentUse = true;

@@ -82,6 +82,12 @@ inline std::string DroppedFileName;
 /// Whether cmdImportLG and cmdImportSM could be used when the file was dropped.
 inline bool DropLGEnabled = false, DropSMEnabled = false;
 
+/// The window for new labels is open, or about to be, for the selected icon: to give it another
+/// label (Assign and Change), else to add icons.
+inline bool AddIconAssignMode = false;
+/// Set while that window is brought into its mode: the icon has an owner already (Change).
+inline bool AddIconChangeMode = false;
+
 /// What the main form shows and remembers of the selected icon.
 inline std::string SelectedNode;            ///< IconLabel of the selected row
 inline std::string LastClickedText;         ///< of the tree node that was clicked last

@@ -1,28 +1,8 @@
 #include "document/IconTree.h"
 
-#include "companion/IconRow.h"
-
 #include <utility>
 
 namespace vypx {
-
-int ImageOfKind(std::string_view iconKind)
-{
-    struct KindImage {
-        std::string_view kind;
-        int image;
-    };
-    static constexpr KindImage Images[] = {
-        { KindVY, ImageVY },
-        { KindApp, ImageApp },
-        { KindPalm, ImagePalm },
-        { KindUnknown, ImageUnknown },
-    };
-    for (const KindImage& entry : Images)
-        if (entry.kind == iconKind)
-            return entry.image;
-    return 0;
-}
 
 void IconTree::Clear()
 {
@@ -44,6 +24,20 @@ bool IconTree::Add(IconNode node)
         return false;
     m_byKey.emplace(node.key, m_nodes.size());
     m_nodes.push_back(std::move(node));
+    return true;
+}
+
+bool IconTree::Replace(const std::string& old, IconNode node)
+{
+    const auto found = m_byKey.find(old);
+    const bool isNew = node.key != old;
+    if (found == m_byKey.end()
+        || (isNew && ((m_hasRoot && node.key == m_root) || m_byKey.contains(node.key))))
+        return false;
+    const std::size_t place = found->second;
+    m_byKey.erase(found);
+    m_byKey.emplace(node.key, place);
+    m_nodes[place] = std::move(node);
     return true;
 }
 

@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <string>
-#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -19,9 +18,6 @@ enum TreeImage {
     ImageRoot = 5,
     ImageDelete = 6,
 };
-
-/// The picture of a kept row by its IconKind word; 0 for a word that has none ("DELETE" included).
-int ImageOfKind(std::string_view iconKind);
 
 struct IconNode {
     std::string key;    ///< the row's IconLabel; also the node's text (Latin-1)
@@ -42,6 +38,10 @@ public:
 
     /// Adds a node. False, and nothing added, when a node or the root has that key.
     bool Add(IconNode node);
+
+    /// Puts a node in the place of the one with the key `old`, which may have the same key. False,
+    /// and nothing done, when there is no such node, or another one or the root has the new key.
+    bool Replace(const std::string& old, IconNode node);
 
     /// In the order in which they were added.
     const std::vector<IconNode>& Nodes() const { return m_nodes; }

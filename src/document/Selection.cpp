@@ -2,6 +2,7 @@
 
 #include "companion/Lookups.h"
 #include "document/Document.h"
+#include "document/IconKinds.h"
 #include "document/IconTree.h"
 #include "document/WorkingFolder.h"
 

@@ -4,6 +4,7 @@
 #include "companion/Lookups.h"
 #include "document/Catalogs.h"
 #include "document/Document.h"
+#include "document/IconKinds.h"
 #include "document/Labels.h"
 #include "reader/BitmapChain.h"
 #include "reader/IconTableResource.h"

@@ -1,3 +1,4 @@
+#include "document/IconKinds.h"
 #include "document/IconTree.h"
 
 #include <gtest/gtest.h>

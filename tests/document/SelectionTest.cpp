@@ -1,5 +1,6 @@
 #include "document/Selection.h"
 
+#include "document/IconKinds.h"
 #include "document/IconStats.h"
 #include "support/LoadFixture.h"
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/IconKinds.h"
 #include "document/IconStats.h"
 #include "document/PictureState.h"
 #include "document/Selection.h"

@@ -15,6 +15,14 @@ const TableRows& RowsById::Of(int id) const
     return found == m_rows.end() ? None : found->second;
 }
 
+bool CanBeIndexed(std::string_view resourceKey)
+{
+    constexpr std::string_view IconType = "tAIB";
+    constexpr int Lowest = 3500, Highest = 9999;
+    const int id = ResourceId(resourceKey);
+    return resourceKey.starts_with(IconType) && id >= Lowest && id <= Highest;
+}
+
 RowsById LauncherRows()
 {
     RowsById rows;

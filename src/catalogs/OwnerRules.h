@@ -3,6 +3,7 @@
 #include "document/Document.h"
 
 #include <cstddef>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -22,6 +23,9 @@ public:
 private:
     std::unordered_map<int, TableRows> m_rows;
 };
+
+/// Whether the icon index can name the resource: a `tAIB` with an ID from 3500 to 9999.
+bool CanBeIndexed(std::string_view resourceKey);
 
 /// Rows of VYTable by their IDs, which are compared as numbers. An entry without a name, or whose
 /// ID is no whole number that a resource can have, is no icon's.

@@ -2,6 +2,7 @@
 
 #include "document/Labels.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 
@@ -19,6 +20,7 @@ public:
 
 private:
     int m_maximum = 0;
+    std::size_t m_seen = 0; // rows of IconTable that were looked at; a run only adds some
 };
 
 /// "tAIB" and the ID.

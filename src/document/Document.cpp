@@ -4,6 +4,8 @@
 #include "document/PictureState.h"
 #include "document/SettingsFile.h"
 
+#include <utility>
+
 namespace vypx {
 
 namespace {
@@ -70,6 +72,16 @@ std::optional<std::size_t> FindIconRow(std::string_view label)
         if (IconTable[row].IconLabel == label)
             return row;
     return std::nullopt;
+}
+
+void AddBitmapRow(BitmapEntry bitmap)
+{
+    std::size_t free = BitmapTable.size();
+    while (free > 0 && BitmapTable[free - 1] == BitmapEntry{})
+        --free;
+    BitmapTable.resize(free + 2);
+    BitmapTable[free] = std::move(bitmap);
+    BitmapRow = static_cast<int>(free) + 1;
 }
 
 void CompactIconTable(bool keepOne)

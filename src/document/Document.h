@@ -115,6 +115,9 @@ void ClearSlots();
 /// Index of the first row with that label. An empty label is no row's.
 std::optional<std::size_t> FindIconRow(std::string_view label);
 
+/// Puts a row behind the last filled one of BitmapTable; one empty row stands behind it.
+void AddBitmapRow(BitmapEntry bitmap);
+
 /// Drops the rows without a label; the others keep their order. With `keepOne` a table that would
 /// be empty keeps one empty row.
 void CompactIconTable(bool keepOne = false);

@@ -71,15 +71,20 @@ bool CountsAs(SizeClass size, std::string_view label)
     return LabelHolds(label, suffix.substr(1, suffix.size() - 2)); // "(Large Icon"
 }
 
+bool SaysWholeIconOf(SizeClass size, std::string_view label)
+{
+    return LabelHolds(label, SuffixOf(size).substr(1));
+}
+
 bool SaysItsSize(std::string_view label)
 {
-    return LabelHolds(label, LargeSuffix.substr(1)) || LabelHolds(label, SmallSuffix.substr(1));
+    return SaysWholeIconOf(SizeClass::Large, label) || SaysWholeIconOf(SizeClass::Small, label);
 }
 
 SizeClass SizeInIndex(std::string_view label, bool keepUnknown)
 {
     const bool isLarge =
-        LabelHolds(label, LargeSuffix.substr(1)) || (keepUnknown && LabelHolds(label, "Large)"));
+        SaysWholeIconOf(SizeClass::Large, label) || (keepUnknown && LabelHolds(label, "Large)"));
     return isLarge ? SizeClass::Large : SizeClass::Small;
 }
 

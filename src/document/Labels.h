@@ -36,6 +36,8 @@ bool SaysIconOf(SizeClass size, std::string_view label);
 std::optional<SizeClass> SizeOfIconInLabel(std::string_view label);
 /// Whether the label counts as an icon of that size: it holds "(Large Icon" or "(Small Icon".
 bool CountsAs(SizeClass size, std::string_view label);
+/// Whether the label holds "(Large Icon)" or "(Small Icon)", as catalogs of the launcher have it.
+bool SaysWholeIconOf(SizeClass size, std::string_view label);
 /// Whether pictures under the label count: it holds "(Large Icon)" or "(Small Icon)".
 bool SaysItsSize(std::string_view label);
 /// The size class in the icon index: large by "(Large Icon)" and, where unknown icons are kept,

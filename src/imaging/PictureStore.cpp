@@ -107,7 +107,7 @@ void PictureStore::TakeNewFile(const std::string& name)
     m_slot.path = WorkPath(name);
     m_slot.loaded = true;
     SetCellOfLabel(m_slot, m_label, name);
-    AddBitmapRow(name);
+    AddBitmapRow({ .file = name, .hasTransparent = 1 });
 }
 
 void PictureStore::Show()

@@ -97,16 +97,6 @@ void SetCellOfResource(const Slot& slot, const std::string& key, std::string_vie
             row.*slot.fileCell = file;
 }
 
-void AddBitmapRow(const std::string& file)
-{
-    std::size_t free = BitmapTable.size();
-    while (free > 0 && BitmapTable[free - 1] == BitmapEntry{})
-        --free;
-    BitmapTable.resize(free + 2);
-    BitmapTable[free] = { .file = file, .hasTransparent = 1 };
-    BitmapRow = static_cast<int>(free) + 1;
-}
-
 bool TakeMaskFromCorner(const Slot& slot, const std::string& file)
 {
     const Rgb corner = picbuff.pixels.At(0, 0);

@@ -36,10 +36,6 @@ void DeleteScratch();
 void SetCellOfLabel(const Slot& slot, const std::string& label, std::string_view file);
 void SetCellOfResource(const Slot& slot, const std::string& key, std::string_view file);
 
-/// Puts a row for the file behind the last filled one of BitmapTable; one empty row stands behind
-/// it.
-void AddBitmapRow(const std::string& file);
-
 /// The colour of picbuff's top left pixel becomes the transparent colour of the file and of the
 /// slot. False: BitmapTable has no row of the file, so the panel has no colour to show.
 bool TakeMaskFromCorner(const Slot& slot, const std::string& file);

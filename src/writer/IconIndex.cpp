@@ -19,18 +19,12 @@ namespace vypx {
 
 namespace {
 
-constexpr std::string_view IconType = "tAIB";
-constexpr int LowestId = 3500, HighestId = 9999;
 constexpr double ApplicationClass = 10'000'000'000'000, PanelClass = 20'000'000'000'000;
 
 bool TakesPart(const IconRow& row)
 {
-    if (row.ResourceKey.empty())
-        return false;
     const bool empty = !ImageFileValid(row.LowResFile) && !ImageFileValid(row.HighResFile);
-    const int id = ResourceId(row.ResourceKey);
-    return !empty && !row.IconLabel.empty() && row.IconState == 1
-        && row.ResourceKey.starts_with(IconType) && id >= LowestId && id <= HighestId;
+    return !empty && !row.IconLabel.empty() && row.IconState == 1 && CanBeIndexed(row.ResourceKey);
 }
 
 /// The entry of a catalog file by its section's name; characters 2 to 5 of a Creator are the ID.

@@ -1,0 +1,145 @@
+#include "catalogs/ResourceIds.h"
+#include "catalogs/RowParts.h"
+#include "document/PictureState.h"
+
+#include <algorithm>
+
+namespace vypx {
+
+namespace {
+
+/// The icon that the launcher lists under exactly that label. Null: none.
+const LauncherRow* FindLauncherRow(std::string_view label)
+{
+    const auto found = std::find_if(
+        VYTable.begin(), VYTable.end(), [&](const LauncherRow& row) { return row.name == label; });
+    return found == VYTable.end() ? nullptr : &*found;
+}
+
+/// The catalog that the label's name stands in. On purpose: an application comes first, so an icon
+/// of the launcher that bears its name becomes the application's.
+Catalog Classify(std::string_view label)
+{
+    const std::string_view name = NameInLabel(label);
+    if (FindEntry(Catalog::Apps, name))
+        return Catalog::Apps;
+    for (const SizeClass size : { SizeClass::Large, SizeClass::Small })
+        if (FindLauncherRow(LabelOf(name, size)))
+            return Catalog::Launcher;
+    return FindEntry(Catalog::Palm, name) ? Catalog::Palm : Catalog::None;
+}
+
+IconRow NewRow(const std::string& label, Catalog catalog, int id)
+{
+    return { .IconLabel = label,
+        .ResourceKey = ResourceKeyOf(id),
+        .LowResFile = std::string(NoImage),
+        .HighResFile = std::string(NoImage),
+        .IconState = 1,
+        .IconKind = std::string(KindOf(catalog).word),
+        .owner = OwnerOfEntry(catalog, NameInLabel(label)) };
+}
+
+std::string AddLauncherIcon(const std::string& label)
+{
+    const LauncherRow* const entry = FindLauncherRow(label);
+    if (!entry)
+        return std::string(NotInTreeText);
+    const std::optional<int> id = LauncherId(entry->id);
+    if (!id || IsResourceTaken(ResourceKeyOf(*id)))
+        return std::string(NotAssignedText);
+    AppendRow(NewRow(label, Catalog::Launcher, *id));
+    return {};
+}
+
+std::string AddIcon(const std::string& label, Catalog catalog, ResourceIds& ids)
+{
+    const bool isLarge = label == LabelOf(NameInLabel(label), SizeClass::Large);
+    const std::optional<int> id = ids.Next(isLarge ? SizeClass::Large : SizeClass::Small);
+    if (!id) {
+        IconTable.emplace_back(); // On purpose: the row for it stays, empty.
+        return std::string(NoIdLeftText);
+    }
+    AppendRow(NewRow(label, catalog, *id));
+    return {};
+}
+
+/// Adds the icon. Empty, or the message that ends the run.
+std::string AddIcon(const std::string& label, ResourceIds& ids)
+{
+    if (label.size() < ShortestLabel)
+        return std::string(NotAddedText);
+    const Catalog catalog = Classify(label);
+    if (catalog == Catalog::None)
+        return std::string(NotInTreeText);
+    return KindOf(catalog).ids == IdRule::OfEntry ? AddLauncherIcon(label)
+                                                  : AddIcon(label, catalog, ids);
+}
+
+/// New icons whose resource others have too, as happens beyond the last ID.
+std::string NoteOfSharedKeys(std::size_t firstNew)
+{
+    std::string labels;
+    for (std::size_t row = firstNew; row < IconTable.size(); ++row)
+        if (!IconTable[row].IconLabel.empty() && IsResourceTaken(IconTable[row].ResourceKey, row))
+            for (const IconRow& other : IconTable)
+                if (other.ResourceKey == IconTable[row].ResourceKey)
+                    labels += (labels.empty() ? "\"" : ", \"") + other.IconLabel + "\"";
+    if (labels.empty())
+        return {};
+    return "There is no free resource ID. These icons have the same one, and so the same pictures: "
+        + labels + ".";
+}
+
+} // namespace
+
+RowsOutcome ApplyAddIcons(std::span<const std::string> labels)
+{
+    if (!FileLoaded)
+        return Stopped(NotInTreeText);
+    const std::size_t firstNew = IconTable.size();
+    ResourceIds ids;
+    RowsOutcome outcome{ .isDone = true };
+    for (const std::string& label : labels) {
+        if (IsTaken(label))
+            continue;
+        outcome.message = AddIcon(label, ids);
+        outcome.isDone = outcome.message.empty();
+        if (!outcome.isDone)
+            break;
+        outcome.node = label;
+    }
+    outcome.note = NoteOfSharedKeys(firstNew);
+    if (outcome.isDone) {
+        HighResPath.clear();
+        LowResPath.clear();
+        IconsetChanged = true;
+    }
+    return outcome;
+}
+
+RowsOutcome ApplyShareIcon(const AssignRequest& request)
+{
+    const std::optional<std::size_t> lender = FindIconRow(request.selected);
+    if (!FileLoaded || !lender)
+        return Stopped(NotInTreeText);
+    if (request.entry.empty())
+        return Stopped(NotAddedText);
+    const std::string label = LabelOf(request.entry, request.size);
+    if (IsTaken(label))
+        return {};
+    const Catalog catalog = FindEntry(Catalog::Apps, request.entry) ? Catalog::Apps : Catalog::Palm;
+    if (!FindEntry(catalog, request.entry))
+        return Stopped(NotInTreeText);
+    IconRow row = IconTable[*lender];
+    row.IconLabel = label;
+    row.IconState = 1;
+    row.IconKind = KindOf(catalog).word;
+    row.owner = OwnerOfEntry(catalog, request.entry);
+    const std::string note = NoteOfOwner(row);
+    AppendRow(std::move(row));
+    AddIconAssignMode = false;
+    return { .note = note, .node = label, .isDone = true };
+}
+
+} // namespace vypx

@@ -38,7 +38,8 @@ declare -A upstairs=(
     [common]="common"
     [imaging]="imaging common"
     [settings]="settings common"
-    [main]="main imaging settings common"
+    [sides]="sides common"
+    [main]="main imaging settings sides common"
 )
 while IFS=: read -r file line text; do
     room=${file#forms/}

@@ -36,8 +36,7 @@ void Enable(SelectionEffects& effects, std::span<const Command> commands, bool o
 
 void ListShares(const std::string& text, SelectionEffects& effects)
 {
-    ShareNames.assign(IconTable.size(), {});
-    ChkShared(IconTable, ShareNames, text);
+    ListShareNames(text);
     effects.listsShares = true;
     SelectedNode = text;
 }
@@ -145,6 +144,12 @@ SelectionEffects SelectNode(const std::string& text, const std::string& rootText
     effects.sm.sizeLimit = SizeLimit(text, SlotSM);
     OfferAssignment(text, effects);
     return effects;
+}
+
+void ListShareNames(std::string_view text)
+{
+    ShareNames.assign(IconTable.size(), {});
+    ChkShared(IconTable, ShareNames, text);
 }
 
 std::optional<Removal> ToggleRemoval()

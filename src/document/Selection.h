@@ -54,6 +54,10 @@ SelectionEffects SelectNode(const std::string& text, const std::string& rootText
 /// compared, so a name that was changed but refused by the tree makes the root look like an icon.
 bool IsRootSelected(std::string_view text);
 
+/// Fills ShareNames for a node with this text: from entry 1 the labels of the other icons that
+/// share its images, up to the first empty entry.
+void ListShareNames(std::string_view text);
+
 /// Marks the rows with the label SelectedNode for removal, or keeps them again, sets
 /// IconsetChanged and the nodes' images, and tells what the button offers next. Empty: no such row.
 std::optional<Removal> ToggleRemoval();

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QMdiSubWindow>
+#include "forms/common/SideForm.h"
+
 #include <memory>
 
 namespace Ui {
@@ -10,9 +11,8 @@ class frmPreviewOpt;
 namespace vypx {
 
 /// The side window for the background on which both panels show their icons, and for whether they
-/// honour the transparent colour. Works directly on R, G, B and TransparentUse. Lives in the
-/// frame's area, above the main form; goes when it is closed.
-class frmPreviewOpt : public QMdiSubWindow {
+/// honour the transparent colour. Works directly on R, G, B and TransparentUse.
+class frmPreviewOpt : public SideForm {
     Q_OBJECT
 
 public:
@@ -24,11 +24,6 @@ signals:
     void ColourChosen();
     /// TransparentUse has a new value.
     void TransparencyChosen();
-    void Closed();
-
-protected:
-    void showEvent(QShowEvent* event) override;
-    void closeEvent(QCloseEvent* event) override;
 
 private:
     std::unique_ptr<Ui::frmPreviewOpt> m_ui;

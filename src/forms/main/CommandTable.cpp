@@ -25,8 +25,8 @@ std::vector<CommandRow> Rows()
         // No key: it asks nothing, and Ctrl+Q is beside Ctrl+W.
         { Exit, "mnuExit", "&Exit", none, Built, When::Always },
         { ShowPreviewOptions, "mnuShowPrevOpt", "Show Preview Options", none, Built, When::Always, true },
-        { ShowIconStats, "mnuShowIconStats", "Show Icon Stats", none, NotBuiltYet, When::Always },
-        { ShowShared, "mnuShowShared", "Show Shared Icons", none, NotBuiltYet, When::Always },
+        { ShowIconStats, "mnuShowIconStats", "Show Icon Stats", none, Built, When::Always, true },
+        { ShowShared, "mnuShowShared", "Show Shared Icons", none, Built, When::Always, true },
         { ShowBoth, "mnuShowBoth", "Show &Both High and Low Res Icons", none, Built, When::Always, true },
         { HideLowRes, "mnuHideLowRes", "Show Only &High Res Icons", none, Built, When::Always, true },
         { HideHighRes, "mnuHideHighRes", "Show Only &Low Res Icons", none, Built, When::Always, true },

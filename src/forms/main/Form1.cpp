@@ -41,6 +41,7 @@ struct Form1::Parts {
     Notes notes;
     StatusTexts status;
     ViewEntries views;
+    SideContents contents;
     SideWindows sides;
     SavedSettings settings;
     BusyGuard busy;
@@ -65,7 +66,8 @@ struct Form1::Parts {
         , notes(*ui.lblNotSaved, *ui.lblNote)
         , status(*ui.StatusBar1, frame)
         , views(panels, commands)
-        , sides(form, panels, commands)
+        , contents(*ui.TreeView1, panels)
+        , sides(form, commands, contents)
         , settings(frame, sides, ask)
         , windows(form, commands, views, *ui.lblTargetCD)
         , icons({ *ui.TreeView1, panels, commands, status, notes, *ui.lblSearchingApp }, ask)
@@ -101,6 +103,10 @@ Form1::Form1(QWidget& frame, Ask& ask)
     for (ImagePanel* panel : parts.panels)
         m_ui->panelRowLayout->addWidget(panel);
     connect(&parts.icons, &IconCommands::Counted, &parts.windows, &SettingsWindows::ShowDepthLock);
+    connect(&parts.icons, &IconCommands::Counted, &parts.contents, &SideContents::ShowCount);
+    connect(&parts.icons, &IconCommands::Selected, &parts.contents, &SideContents::ListShares);
+    connect(
+        &parts.contents, &SideContents::WantsCount, &parts.icons, &IconCommands::UpdateIconStats);
     connect(
         &parts.watcher, &LoadWatcher::Began, this, [&parts] { parts.views.ShowPanelsByOption(); });
     connect(&parts.watcher, &LoadWatcher::Began, &parts.transparency, &TransparencyCommands::Close);

@@ -61,6 +61,7 @@ void IconCommands::ShowSelected(const QTreeWidgetItem& node)
     m_view.panels[1]->Show(effects.sm);
     // Input that is waiting waits for the end of the click.
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    emit Selected();
 }
 
 void IconCommands::OfferRemoval(Removal removal)

@@ -53,6 +53,8 @@ public:
 signals:
     /// The icons were counted anew; a document may have begun or ended.
     void Counted();
+    /// What the selection shows and allows is on show.
+    void Selected();
 
 private:
     void ShowSelected(const QTreeWidgetItem& node);

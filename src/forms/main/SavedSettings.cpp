@@ -42,11 +42,11 @@ void SavedSettings::Save()
     // A maximised frame comes back at the size that it had before.
     const bool isNormal = !m_frame.isMaximized() && !m_frame.isFullScreen();
     const QSize size = isNormal ? m_frame.size() : m_frame.normalGeometry().size();
-    const WindowsToSave windows{
+    WindowsToSave windows{
         .mainWidth = size.width() * TwipsPerPixel,
         .mainHeight = size.height() * TwipsPerPixel,
-        .preview = m_sides.Preview(),
     };
+    m_sides.TellPlaces(windows);
     if (!SaveIni(windows))
         Tell(NotWritten);
 }

@@ -1,14 +1,39 @@
 #include "forms/main/SideWindows.h"
 
-#include "document/Document.h"
-#include "forms/imaging/frmPreviewOpt.h"
+#include "forms/common/SideForm.h"
 #include "settings/Settings.h"
 
 #include <QMdiArea>
 #include <QScrollBar>
 #include <algorithm>
+#include <utility>
 
 namespace vypx {
+
+/// A window: its entry of the View menu, its settings (places in twips), how it is made, and what
+/// the entry does besides showing it.
+struct SideWindows::Row {
+    Command entry;
+    const bool& visible;
+    const int &left, &top;
+    std::optional<SideWindow> WindowsToSave::*place;
+    SideForm* (SideContents::*make)();
+    void (SideContents::*prepare)();
+};
+
+/// In the order in which they are shown at the start.
+const std::vector<SideWindows::Row>& SideWindows::Rows()
+{
+    static const std::vector<Row> rows{
+        { Command::ShowShared, ShareWinVisible, ShareWinX, ShareWinY, &WindowsToSave::shares,
+            &SideContents::MakeShares, &SideContents::CountAnew },
+        { Command::ShowPreviewOptions, PreviewWinVisible, PreviewWinX, PreviewWinY,
+            &WindowsToSave::preview, &SideContents::MakePreview, &SideContents::TakeSavedColour },
+        { Command::ShowIconStats, StatWinVisible, StatWinX, StatWinY, &WindowsToSave::stats,
+            &SideContents::MakeStats, &SideContents::CountAnew },
+    };
+    return rows;
+}
 
 namespace {
 
@@ -26,86 +51,77 @@ QPoint InReach(const QPoint& place, const QSize& window, const QSize& area)
         std::clamp(place.y(), 0, std::max(0, area.height() - Title)) };
 }
 
+QPoint PlaceOf(const SideForm& window) { return window.pos() + Scrolled(*window.mdiArea()); }
+
 } // namespace
 
-SideWindows::SideWindows(QWidget& form, const Panels& panels, Commands& commands)
+SideWindows::SideWindows(QWidget& form, Commands& commands, SideContents& contents)
     : m_form(form)
-    , m_panels(panels)
     , m_commands(commands)
+    , m_contents(contents)
 {
-    commands.Connect(Command::ShowPreviewOptions, this, [this] { mnuShowPrevOpt_Click(); });
+    for (const Row& row : Rows())
+        m_sides.push_back({ .row = row });
+    for (Side& side : m_sides)
+        commands.Connect(side.row.entry, this, [this, &side] { Toggle(side); });
 }
 
 void SideWindows::ShowByOption()
 {
-    if (PreviewWinVisible)
-        ShowPreview({ PixelsFromTwips(PreviewWinX), PixelsFromTwips(PreviewWinY) });
+    for (Side& side : m_sides)
+        if (side.row.visible)
+            Show(side);
 }
 
-void SideWindows::mnuShowPrevOpt_Click()
+void SideWindows::Toggle(Side& side)
 {
-    if (m_preview) {
-        m_preview->close();
+    if (side.window) {
+        side.window->close();
         return;
     }
-    // On purpose: a colour that is not to be remembered goes with its window, and one that is goes
-    // back to what the program began with.
-    ChoosePreviewColour();
-    ShowPreview(m_previewPlace.value_or(
-        QPoint(PixelsFromTwips(PreviewWinX), PixelsFromTwips(PreviewWinY))));
-    PaintPanels();
+    (m_contents.*side.row.prepare)();
+    Show(side);
 }
 
-void SideWindows::ShowPreview(const QPoint& place)
+/// Where it was closed, else where the settings say.
+void SideWindows::Show(Side& side)
 {
-    QMdiArea& area = *static_cast<QMdiSubWindow*>(m_form.parentWidget())->mdiArea();
-    m_preview = new frmPreviewOpt;
-    connect(m_preview, &frmPreviewOpt::ColourChosen, this, [this] { PaintPanels(); });
-    connect(m_preview, &frmPreviewOpt::TransparencyChosen, this, [this] { DrawPanels(); });
-    connect(m_preview, &frmPreviewOpt::Closed, this, [this] { PreviewClosed(); });
-    m_preview->setWindowIcon(m_form.parentWidget()->windowIcon());
-    area.addSubWindow(m_preview);
-    m_preview->show();
-    m_preview->move(InReach(place, m_preview->size(), area.viewport()->size()) - Scrolled(area));
-    m_commands.Entry(Command::ShowPreviewOptions)->setChecked(true);
+    auto& child = *static_cast<QMdiSubWindow*>(m_form.parentWidget());
+    QMdiArea& area = *child.mdiArea();
+    SideForm& window = *(m_contents.*side.row.make)();
+    side.window = &window;
+    connect(&window, &SideForm::Closed, this, [this, &side] { WasClosed(side); });
+    window.setWindowIcon(child.windowIcon());
+    area.addSubWindow(&window);
+    window.show();
+    QPoint place(PixelsFromTwips(side.row.left), PixelsFromTwips(side.row.top));
+    if (side.stood) {
+        place = side.stood->topLeft();
+        window.resize(side.stood->size());
+    }
+    window.move(InReach(place, window.size(), area.viewport()->size()) - Scrolled(area));
+    m_commands.Entry(side.row.entry)->setChecked(true);
 }
 
-void SideWindows::PreviewClosed()
+void SideWindows::WasClosed(Side& side)
 {
-    const SideWindow stood = Preview();
-    m_previewPlace = QPoint(PixelsFromTwips(stood.left), PixelsFromTwips(stood.top));
-    m_preview = nullptr;
-    m_commands.Entry(Command::ShowPreviewOptions)->setChecked(false);
+    const SideForm& window = *std::exchange(side.window, nullptr);
+    side.stood = QRect(PlaceOf(window), window.size());
+    m_commands.Entry(side.row.entry)->setChecked(false);
 }
 
-SideWindow SideWindows::Preview() const
+void SideWindows::TellPlaces(WindowsToSave& windows) const
 {
-    if (!m_preview)
-        return {};
-    const QPoint place = m_preview->pos() + Scrolled(*m_preview->mdiArea());
-    return {
-        .isLoaded = true, .left = place.x() * TwipsPerPixel, .top = place.y() * TwipsPerPixel
-    };
-}
-
-void SideWindows::PaintPanels()
-{
-    for (ImagePanel* panel : m_panels)
-        panel->SetBackColour(QColor(R, G, B));
-    DrawPanels();
-}
-
-void SideWindows::DrawPanels()
-{
-    for (ImagePanel* panel : m_panels)
-        panel->Draw();
-}
-
-void ChoosePreviewColour()
-{
-    R = RememberPreviewColor ? Rsave : 0;
-    G = RememberPreviewColor ? Gsave : 0;
-    B = RememberPreviewColor ? Bsave : 255;
+    for (const Side& side : m_sides) {
+        SideWindow place;
+        if (side.window) {
+            const QPoint corner = PlaceOf(*side.window);
+            place = { .isLoaded = true,
+                .left = corner.x() * TwipsPerPixel,
+                .top = corner.y() * TwipsPerPixel };
+        }
+        windows.*side.row.place = place;
+    }
 }
 
 } // namespace vypx

@@ -1,44 +1,48 @@
 #pragma once
 
 #include "document/SettingsFile.h"
-#include "forms/imaging/Panels.h"
 #include "forms/main/Commands.h"
+#include "forms/main/SideContents.h"
 
 #include <QObject>
+#include <QRect>
 #include <optional>
+#include <vector>
 
 namespace vypx {
 
-class frmPreviewOpt;
+class SideForm;
 
-/// The small windows beside the main form in the frame's area, and the entries of the View menu
-/// that show and hide them.
+/// The small windows beside the main form in the frame's area: shown, hidden, where they stand;
+/// and the entries of the View menu that show and hide them.
 class SideWindows : public QObject {
 public:
     /// `form` stands in a window of the area.
-    SideWindows(QWidget& form, const Panels& panels, Commands& commands);
+    SideWindows(QWidget& form, Commands& commands, SideContents& contents);
 
     /// Shows those that the settings say are visible, at their places.
     void ShowByOption();
 
     /// Where the windows stand, for the settings.
-    SideWindow Preview() const;
+    void TellPlaces(WindowsToSave& windows) const;
 
 private:
-    void mnuShowPrevOpt_Click();
-    void ShowPreview(const QPoint& place);
-    void PreviewClosed();
-    void PaintPanels();
-    void DrawPanels();
+    struct Row;
+    struct Side {
+        const Row& row;
+        SideForm* window = nullptr;      // owned by the area; null while it is not loaded
+        std::optional<QRect> stood = {}; // when it was closed, in pixels of the whole area
+    };
+    static const std::vector<Row>& Rows();
+
+    void Toggle(Side& side);
+    void Show(Side& side);
+    void WasClosed(Side& side);
 
     QWidget& m_form;
-    Panels m_panels;
     Commands& m_commands;
-    frmPreviewOpt* m_preview = nullptr;   // owned by the area; null while it is not loaded
-    std::optional<QPoint> m_previewPlace; // where it stood when it was closed, in pixels
+    SideContents& m_contents;
+    std::vector<Side> m_sides;
 };
-
-/// Sets R, G, B: to the saved colour if that is to be remembered, else to blue.
-void ChoosePreviewColour();
 
 } // namespace vypx

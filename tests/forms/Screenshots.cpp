@@ -198,6 +198,8 @@ int main(int argc, char** argv)
     // Beside the main form, where a user would have put it.
     test::WriteText(programFolder.File("VYPX.ini"),
         "[Preview Option Window]\nX-Pos=11640\nY-Pos=0\n"
+        "[IconStatWindow]\nX-Pos=11640\nY-Pos=4395\n"
+        "[Shared Icons Window]\nX-Pos=11640\nY-Pos=7065\n"
         "[Main Window Size]\nWidth=14400\n");
     MDIForm1 frame(ask);
     frame.Start(QString::fromStdString(programFolder.Path()), {});
@@ -235,6 +237,10 @@ int main(int argc, char** argv)
     open("owners.prc");
     select("Compass (Large Icon)");
     Take(folder, "main-form-owners");
+    auto& shared = *frame.findChild<QWidget*>("listShared");
+    QTest::mouseClick(
+        shared.findChild<QWidget*>("qt_scrollarea_viewport"), Qt::LeftButton, {}, { 30, 10 });
+    Take(folder, "shared-icon-clicked");
     for (const char* name : { "AppList.dat", "PalmApp.dat", "VY_Icons.dat" })
         std::filesystem::copy_file(std::string(VYPX_SHIPPED_DATA) + "/" + name,
             programFolder.File(name), std::filesystem::copy_options::overwrite_existing);

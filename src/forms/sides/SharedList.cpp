@@ -74,6 +74,12 @@ void SharedList::doItemsLayout()
         scrollToBottom();
 }
 
+QSize SharedList::sizeHint() const
+{
+    constexpr int Letters = 28, Lines = 6;
+    return { fontMetrics().averageCharWidth() * Letters, fontMetrics().lineSpacing() * Lines };
+}
+
 void SharedList::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {

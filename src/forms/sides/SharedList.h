@@ -21,6 +21,7 @@ public:
     void ScrollToEnd() override;
 
     void doItemsLayout() override;
+    QSize sizeHint() const override;
 
 signals:
     /// Once for a double click and for an Enter that is held down. The list may be filled anew

@@ -40,9 +40,11 @@ frmIconStat::frmIconStat()
     inside->setObjectName("iconStatContents");
     m_ui->setupUi(inside);
     int width = 0;
-    for (const CounterRow& row : Counters)
-        width =
-            std::max(width, inside->fontMetrics().horizontalAdvance(CounterText(row, LongCount)));
+    for (const CounterRow& row : Counters) {
+        QLabel& label = *(m_ui.get()->*row.label);
+        label.setText(CounterText(row, LongCount));
+        width = std::max(width, label.sizeHint().width());
+    }
     m_ui->lblTotalIcons->setMinimumWidth(width);
     Hold(inside, "frmIconStat");
     ShowCounters();

@@ -122,7 +122,8 @@ TEST_F(ChangeTC, EverythingElseOfTheProgramIsDisabledMeanwhile)
     OpenEditor();
 
     EXPECT_FALSE(frame->isEnabled() || Nodes().isEnabled() || options.isEnabled());
-    EXPECT_FALSE(Find<QWidget>("frmPreviewOpt").isEnabled());
+    for (const QString side : { "frmShareList", "frmPreviewOpt", "frmIconStat" })
+        EXPECT_FALSE(Find<QWidget>(side).isEnabled()) << side.toStdString();
     EXPECT_FALSE(Find<QWidget>("menuBar").isEnabled());
     EXPECT_TRUE(Window()->isEnabled() && View().isEnabled());
     PressIn("cmdCancelTC");

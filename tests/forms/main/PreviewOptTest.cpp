@@ -64,28 +64,11 @@ protected:
 
 } // namespace
 
-TEST_F(PreviewAtStart, ItIsShownAtTheLeftEdgeByDefault)
+TEST_F(PreviewAtStart, ItShowsBlueByDefault)
 {
     Start();
 
-    ASSERT_NE(Window(), nullptr);
-    EXPECT_TRUE(Window()->isVisible());
-    EXPECT_EQ(Window()->windowTitle(), "BackColor");
-    EXPECT_EQ(Window()->pos(), QPoint(0, 7)) << "0 and 100 twips";
-    EXPECT_TRUE(Mark().isChecked());
     EXPECT_EQ(Texts(), QStringList({ "0", "0", "255" }));
-    EXPECT_EQ(frame->focusWidget(), &Nodes()) << "where it stays";
-}
-
-TEST_F(PreviewAtStart, ItIsNotShownWhereItWasClosed)
-{
-    WriteSettings("[Preview Option Window]\nVisible=False\n");
-
-    Start();
-
-    EXPECT_EQ(Window(), nullptr);
-    EXPECT_FALSE(Mark().isChecked());
-    EXPECT_TRUE(Mark().isEnabled());
 }
 
 TEST_F(PreviewAtStart, ItShowsTheRememberedColour)
@@ -97,97 +80,16 @@ TEST_F(PreviewAtStart, ItShowsTheRememberedColour)
     EXPECT_EQ(Texts(), QStringList({ "10", "20", "30" }));
 }
 
-TEST_F(PreviewAtStart, ItComesBackWhereItStood)
+TEST_F(PreviewAtStart, AColourThatIsRememberedComesBack)
 {
     Start();
-    Window()->move(310, 45);
     Choose("Red", 77);
     RememberPreviewColor = true;
 
     Leave();
-    EXPECT_THAT(
-        Settings(), HasSubstr("[Preview Option Window]\nVisible=True\nX-Pos=4650\nY-Pos=675\n"));
     Start();
 
-    EXPECT_EQ(Window()->pos(), QPoint(310, 45));
     EXPECT_EQ(Texts(), QStringList({ "77", "0", "255" }));
-}
-
-TEST_F(PreviewAtStart, ClosedAtTheExitItKeepsItsPlaceInTheFile)
-{
-    WriteSettings("[Preview Option Window]\nX-Pos=3000\nY-Pos=600\n");
-    Start();
-    Window()->move(310, 45);
-    Close();
-
-    Leave();
-
-    EXPECT_THAT(
-        Settings(), HasSubstr("[Preview Option Window]\nX-Pos=3000\nY-Pos=600\nVisible=False\n"));
-}
-
-TEST_F(PreviewAtStart, APlaceBeyondTheFrameIsBroughtIntoReach)
-{
-    WriteSettings("[Preview Option Window]\nX-Pos=-30000\nY-Pos=32000\n");
-
-    Start();
-
-    const QRect area(QPoint(), Find<QMdiArea>("mdiArea").viewport()->size());
-    EXPECT_TRUE(area.intersects(Window()->geometry()));
-}
-
-TEST_F(PreviewAtStart, AScrolledAreaDoesNotShiftThePlace)
-{
-    Start();
-    Window()->move(40, 60);
-    frame->resize(300, 300);
-    QScrollBar& bar = *Find<QMdiArea>("mdiArea").verticalScrollBar();
-    ASSERT_GT(bar.maximum(), 30);
-    bar.setValue(30);
-    ASSERT_EQ(Window()->y(), 30);
-
-    Leave();
-
-    EXPECT_THAT(Settings(), HasSubstr("X-Pos=600\nY-Pos=900\n"));
-}
-
-TEST_F(PreviewOptions, TheMenuEntryShowsAndHidesIt)
-{
-    Mark().trigger();
-    LetItGo();
-    EXPECT_EQ(Window(), nullptr);
-    EXPECT_FALSE(Mark().isChecked());
-
-    Mark().trigger();
-
-    EXPECT_TRUE(Window()->isVisible());
-    EXPECT_TRUE(Mark().isChecked());
-}
-
-TEST_F(PreviewOptions, ItsFrameClosesItAndTheMarkFollows)
-{
-    Close();
-
-    EXPECT_EQ(Window(), nullptr);
-    EXPECT_FALSE(Mark().isChecked());
-}
-
-TEST_F(PreviewOptions, ShownOnceMoreItStandsWhereItWas)
-{
-    Window()->move(210, 90);
-    Close();
-
-    Mark().trigger();
-
-    EXPECT_EQ(Window()->pos(), QPoint(210, 90));
-}
-
-TEST_F(PreviewOptions, ItStaysAboveTheMainForm)
-{
-    Nodes().setFocus();
-    QTest::mouseClick(&Nodes(), Qt::LeftButton);
-
-    EXPECT_EQ(Find<QMdiArea>("mdiArea").subWindowList(QMdiArea::StackingOrder).last(), Window());
 }
 
 TEST_F(PreviewOptions, AChangePaintsBothPanelsAtOnce)
@@ -289,18 +191,6 @@ TEST_F(PreviewOptions, ItHasRoomForAllControlsAndNoMore)
     EXPECT_LT(Window()->width(), inside.width() + 20);
     EXPECT_LT(
         Find<QWidget>("VScrollRed").geometry().bottom(), Find<QWidget>("TextRed").geometry().top());
-}
-
-TEST_F(PreviewOptions, ItIsDisabledWithTheFrame)
-{
-    frame->setEnabled(false);
-
-    EXPECT_FALSE(Find<QScrollBar>("VScrollRed").isEnabled());
-}
-
-TEST_F(PreviewOptions, IsInTheColourOfAllWindows)
-{
-    EXPECT_EQ(Shown("previewOptContents", { 2, 2 }), QColor(224, 223, 227));
 }
 
 } // namespace vypx::test

@@ -26,7 +26,7 @@ public:
 /// Fills a list, which gets a horizontal scroll bar as soon as a text is too wide for it.
 class CLBHScroll {
 public:
-    /// Takes the list, which must outlive the next AddItem, and empties it.
+    /// Takes the list, which must stand until the last AddItem, and empties it.
     void Init(ListBox& list);
     /// Adds a text to the list taken last, and scrolls it to its end. Needs an Init before.
     void AddItem(const std::string& psItemText);

@@ -200,7 +200,7 @@ int main(int argc, char** argv)
         "[Preview Option Window]\nX-Pos=11640\nY-Pos=0\n"
         "[IconStatWindow]\nX-Pos=11640\nY-Pos=4395\n"
         "[Shared Icons Window]\nX-Pos=11640\nY-Pos=7065\n"
-        "[Main Window Size]\nWidth=14400\n");
+        "[Main Window Size]\nWidth=15000\n");
     MDIForm1 frame(ask);
     frame.Start(QString::fromStdString(programFolder.Path()), {});
     frame.move(20, 40);

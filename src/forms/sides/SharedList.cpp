@@ -39,11 +39,7 @@ SharedList::SharedList(QWidget* parent)
         [this](const QListWidgetItem* item) { emit Chosen(item->text()); });
 }
 
-void SharedList::Clear()
-{
-    clear();
-    SetHorizontalExtent(0);
-}
+void SharedList::Clear() { clear(); }
 
 void SharedList::Add(std::string_view text) { addItem(FromLatin1(text)); }
 

@@ -72,7 +72,7 @@ void SharedList::doItemsLayout()
 
 QSize SharedList::sizeHint() const
 {
-    constexpr int Letters = 28, Lines = 6;
+    constexpr int Letters = 32, Lines = 6;
     return { fontMetrics().averageCharWidth() * Letters, fontMetrics().lineSpacing() * Lines };
 }
 

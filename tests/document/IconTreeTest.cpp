@@ -1,5 +1,5 @@
-#include "document/IconKinds.h"
 #include "document/IconTree.h"
+#include "document/IconKinds.h"
 
 #include <gtest/gtest.h>
 

@@ -38,8 +38,9 @@ declare -A upstairs=(
     [common]="common"
     [imaging]="imaging common"
     [settings]="settings common"
+    [catalogs]="catalogs common"
     [sides]="sides common"
-    [main]="main imaging settings sides common"
+    [main]="main catalogs imaging settings sides common"
 )
 while IFS=: read -r file line text; do
     room=${file#forms/}

@@ -119,6 +119,9 @@ SelectionEffects SelectNode(const std::string& text, const std::string& rootText
     }
     effects.endsUndo = text != LastClickedText;
     LastClickedText = text;
+    if (FileLoaded)
+        effects.enabled[Command::AddIcon] =
+            true; // after a New that was cancelled nothing else does
 
     if (IsRootSelected(text)) {
         EnableRowCommands(effects, false);

@@ -205,6 +205,7 @@ void Documents::ShowNoDocument()
     m_view.commands.Enable(When::Document, false);
     m_view.notes.DocumentEnded();
     ShowNoIcons();
+    emit Replaced();
     m_icons.UpdateIconStats();
 }
 
@@ -232,6 +233,7 @@ void Documents::DocumentBegan()
     m_settings.KeepChoices();
     m_settings.ShowDepth();
     m_view.notes.DocumentEnded();
+    emit Replaced();
 }
 
 void Documents::DocumentOpened()

@@ -35,6 +35,10 @@ public:
     /// Closes the windows that lead to another document; what was chosen in them is taken back.
     void CloseWindows();
 
+signals:
+    /// There is no document any more, or another one.
+    void Replaced();
+
 private:
     /// A command that leaves the open document.
     enum class Leaving { ForNew, ForOpen };

@@ -2,6 +2,7 @@
 
 #include "document/Slot.h"
 #include "forms/common/Text.h"
+#include "forms/main/AddIconCommands.h"
 #include "forms/main/ClipboardCommands.h"
 #include "forms/main/Documents.h"
 #include "forms/main/Drops.h"
@@ -50,6 +51,7 @@ struct Form1::Parts {
     LoadWatcher watcher;
     Loading loading;
     Documents documents;
+    AddIconCommands addIcons;
     Saving saving;
     PictureCommands pictures;
     TransparencyCommands transparency;
@@ -75,6 +77,7 @@ struct Form1::Parts {
         , loading(
               { form, *ui.TreeView1, panels, commands, status, notes }, ask, busy, watcher, icons)
         , documents({ form, panels, commands, status, notes }, ask, loading, icons, windows)
+        , addIcons({ form, *ui.TreeView1, panels, commands, notes }, ask, busy, icons)
         , saving({ form, commands, status, notes }, ask, icons, settings, windows)
         , pictures({ form, *ui.TreeView1, panels, commands, status, notes, *ui.lblWorking }, ask,
               busy, icons, settings, windows, views)
@@ -110,6 +113,10 @@ Form1::Form1(QWidget& frame, Ask& ask)
     connect(
         &parts.watcher, &LoadWatcher::Began, this, [&parts] { parts.views.ShowPanelsByOption(); });
     connect(&parts.watcher, &LoadWatcher::Began, &parts.transparency, &TransparencyCommands::Close);
+    connect(
+        &parts.watcher, &LoadWatcher::Cleared, &parts.addIcons, &AddIconCommands::DocumentChanged);
+    connect(
+        &parts.documents, &Documents::Replaced, &parts.addIcons, &AddIconCommands::DocumentChanged);
     connect(&parts.watcher, &LoadWatcher::FolderChosen, this, [&parts] { parts.settings.Save(); });
     connect(&parts.windows, &SettingsWindows::OptionsDone, this, [&parts] {
         if (!parts.session.HasEnded()) // an exit saves them itself

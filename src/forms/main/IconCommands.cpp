@@ -55,7 +55,7 @@ void IconCommands::ShowSelected(const QTreeWidgetItem& node)
         OfferRemoval(*effects.removal);
     if (effects.assignment)
         m_view.commands.Button(Command::AssignApp)
-            ->setText(*effects.assignment == Assignment::AssignOrphan ? "Assign Orphan"
+            ->setText(*effects.assignment == Assignment::AssignOrphan ? AssignOrphanCaption
                                                                       : "Change / Share");
     m_view.panels[0]->Show(effects.lg);
     m_view.panels[1]->Show(effects.sm);

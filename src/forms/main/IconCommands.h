@@ -12,6 +12,9 @@
 
 namespace vypx {
 
+/// What cmdAssignApp reads while the selected icon has no known owner.
+inline constexpr const char* AssignOrphanCaption = "Assign Orphan";
+
 /// What is done in the tree: selecting an icon, marking it for removal, clearing the marked ones,
 /// renaming the database; and the recount that follows every change.
 class IconCommands : public QObject {

@@ -29,7 +29,7 @@ void Notes::Tell(Kind kind, const QString& text)
 
 void Notes::DocumentEnded()
 {
-    for (const Kind kind : { Kind::Load, Kind::Save, Kind::Picture, Kind::Name })
+    for (const Kind kind : { Kind::Load, Kind::Save, Kind::Picture, Kind::Rows, Kind::Name })
         m_texts.erase(kind);
     Show();
 }

@@ -15,6 +15,7 @@ public:
         Load,    ///< goes with its document
         Save,    ///< of one that succeeded; goes with its document
         Picture, ///< of the last command for a picture; goes with its document
+        Rows,    ///< of new icons and new owners; goes with its document
         Name,    ///< characters that a name can't hold; goes with its document
         Catalog, ///< goes with the next reading of the catalogs
     };

@@ -9,6 +9,7 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QSignalBlocker>
 
 namespace vypx {
 
@@ -122,6 +123,7 @@ void frmAddIcon::OfferSizes()
 {
     const bool canBeSmall = m_mode != Mode::Change || CanBeSmall(m_highRes);
     m_ui->optSmallIcon->setEnabled(canBeSmall);
+    const QSignalBlocker quiet(m_ui->optLargeIcon); // what is selected stays so
     if (!canBeSmall)
         m_ui->optLargeIcon->setChecked(true);
 }
@@ -232,9 +234,11 @@ bool frmAddIcon::TakesKey(const QObject& watched, const QKeyEvent& press)
             return true;
         if (applies) {
             m_ui->cmdApplyNewIcon->click();
-        } else if (&watched == &list && list.currentItem()) {
-            const QStringList selected = list.SelectedNames();
-            AddToList(selected.isEmpty() ? QStringList(list.currentItem()->text()) : selected);
+        } else if (&watched == &list) {
+            QStringList names = list.SelectedNames();
+            if (names.isEmpty() && list.currentItem())
+                names << list.currentItem()->text();
+            AddToList(names);
         } else if (&watched == m_ui->txtFilter && list.count() == 1) {
             AddToList({ list.item(0)->text() });
             m_ui->txtFilter->selectAll(); // for the next name
@@ -248,6 +252,8 @@ bool frmAddIcon::TakesKey(const QObject& watched, const QKeyEvent& press)
     }
     if (&watched == m_ui->txtFilter && press.key() == Qt::Key_Down) {
         list.setFocus(Qt::TabFocusReason);
+        if (list.selectedItems().isEmpty())
+            list.setCurrentRow(0);
         return true;
     }
     return false;

@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPointer>
 
 namespace vypx::test {
 
@@ -96,7 +97,10 @@ protected:
     {
         const QPoint place = PlaceOf(list, text);
         QTest::mouseClick(list.viewport(), button, {}, place);
-        QTest::mouseDClick(list.viewport(), button, {}, place);
+        const QPointer<QWidget> viewport = list.viewport();
+        QTest::mouseDClick(viewport, button, {}, place);
+        if (viewport)
+            QTest::mouseRelease(viewport, button, {}, place);
     }
     void DoubleClick(const QString& entry) { DoubleClick(List(), entry); }
     /// On the circle or square of an option, which a click on its middle could miss.

@@ -1,4 +1,5 @@
 #include "catalogs/CatalogFiles.h"
+#include "document/Catalogs.h"
 #include "document/Document.h"
 #include "document/WorkingFolder.h"
 #include "forms/main/Form1.h"
@@ -14,6 +15,7 @@
 #include <QCheckBox>
 #include <QDialog>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
@@ -167,6 +169,46 @@ void TakeTransparency(const QString& folder, MDIForm1& frame)
     QTest::keyClick(&view, Qt::Key_Escape);
 }
 
+/// The window for new icons and new owners in its modes, with an application of a long name among
+/// the catalog's.
+void TakeAddIcon(const QString& folder, MDIForm1& frame)
+{
+    const auto button = [&](const char* name) { return frame.findChild<QPushButton*>(name); };
+    const auto window = [&]() -> QDialog& {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return *frame.findChild<QDialog*>("frmAddIcon");
+    };
+    const auto choose = [&](const char* name) {
+        window().findChild<QAbstractButton*>(name)->click();
+    };
+    const auto list = [&] { return window().findChild<QListWidget*>("ComboAppListIcon"); };
+    auto& tree = *frame.findChild<IconTreeView*>("TreeView1");
+    AppTable.push_back(
+        { "An application with a name that is longer than any list is wide", "appl", "LONG", "" });
+    tree.setCurrentItem(tree.NodeOf("Palm Calendar (palmOne) (Large Icon)"));
+    button("cmdAddIcon")->click();
+    window().move(60, 80);
+    list()->setCurrentRow(0);
+    choose("cmdAddtoList");
+    choose("optPalm");
+    choose("chkBothSizes");
+    list()->item(3)->setSelected(true);
+    list()->item(5)->setSelected(true);
+    choose("cmdAddtoList");
+    list()->setCurrentRow(7);
+    list()->item(9)->setSelected(true);
+    Take(folder, "add-icon");
+    window().findChild<QLineEdit*>("txtFilter")->setText("palm m");
+    Take(folder, "add-icon-filter");
+    button("cmdAssignApp")->click();
+    choose("optPalm");
+    Take(folder, "change-icon");
+    choose("chkCreateShared");
+    Take(folder, "share-icon");
+    choose("cmdCancelNewIcon");
+    AppTable.pop_back();
+}
+
 /// A picture that was dropped on the form.
 void TakeDrop(const QString& folder, MDIForm1& frame)
 {
@@ -263,6 +305,8 @@ int main(int argc, char** argv)
     bar("VScrollRed")->setValue(0);
     bar("VScrollBlue")->setValue(255);
 
+    TakeAddIcon(folder, frame);
+    IconsetChanged = false;
     TakeDrop(folder, frame);
     TakeCrop(folder, frame, ask);
 

@@ -99,6 +99,7 @@ void frmAddIcon::ShowMode()
     for (QWidget* control : std::initializer_list<QWidget*>{ m_ui->ListAddedIcons,
              m_ui->cmdAddtoList, m_ui->cmdRmvIcon, m_ui->lblIconsToAdd, m_ui->chkBothSizes })
         control->setVisible(adds);
+    m_ui->listsLayout->setColumnStretch(2, adds ? 1 : 0);
     m_ui->chkCreateShared->setVisible(m_mode == Mode::Change);
     m_ui->ComboAppListIcon->setSelectionMode(
         adds ? QAbstractItemView::ExtendedSelection : QAbstractItemView::SingleSelection);

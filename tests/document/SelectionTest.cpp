@@ -94,6 +94,17 @@ TEST_F(Selection, AFullRowOffersEverything)
     EXPECT_EQ(SelectedNode, "A (Large Icon)");
 }
 
+TEST_F(Selection, AnySelectionLetsIconsBeAddedWhileADocumentIsOpen)
+{
+    Add("A (Large Icon)", "tAIB1", "NEW", "NEW");
+    for (const std::string node : { std::string(Root), std::string("A (Large Icon)") }) {
+        FileLoaded = false;
+        EXPECT_FALSE(IsOn(Select(node), Command::AddIcon)) << node;
+        FileLoaded = true;
+        EXPECT_TRUE(IsOn(Select(node), Command::AddIcon)) << node;
+    }
+}
+
 TEST_F(Selection, ASmallIconHasSmallLimits)
 {
     Add("A (Small Icon)", "tAIB1", "NEW", "NEW");

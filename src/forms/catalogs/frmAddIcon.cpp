@@ -53,7 +53,7 @@ void frmAddIcon::Connect()
     });
     // On purpose: in Add mode as well, though nothing may be waiting to be added.
     const auto chosen = [this, &list] {
-        if (!list.selectedItems().isEmpty())
+        if (list.selectionModel()->hasSelection())
             m_ui->cmdApplyNewIcon->setEnabled(true);
     };
     connect(&list, &QListWidget::itemSelectionChanged, this, chosen);

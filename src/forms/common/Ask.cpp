@@ -1,19 +1,46 @@
 #include "forms/common/Ask.h"
 
+#include "forms/common/HeldKeys.h"
+
+#include <QAbstractButton>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 
 namespace vypx {
+
+namespace {
+
+/// Keeps an Enter or Escape that is still held from what came before from answering a box that
+/// nobody has read.
+class PassOverHeld : public QObject {
+public:
+    explicit PassOverHeld(QMessageBox& box)
+    {
+        box.installEventFilter(this);
+        for (QAbstractButton* button : box.buttons())
+            button->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        return event->type() == QEvent::KeyPress
+            && HeldKeys::OfProgram().IsHeldEnd(static_cast<const QKeyEvent&>(*event));
+    }
+};
+
+} // namespace
 
 QMessageBox::StandardButton ScreenAsk::Show(QWidget* parent, const Box& box)
 {
     QMessageBox shown(box.icon, box.title, QString(), box.buttons, parent);
     shown.setTextFormat(Qt::PlainText);
     shown.setText(box.text);
+    PassOverHeld passOver(shown);
     return static_cast<QMessageBox::StandardButton>(shown.exec());
 }
 

@@ -128,8 +128,8 @@ void AddIconCommands::Run(const Work& work, const Finish& finish)
     m_busy.Run([&] {
         const RowsOutcome outcome = work();
         if (!outcome.node.empty()) {
-            ShowNode(outcome.node);
-            finish(outcome);
+            if (ShowNode(outcome.node))
+                finish(outcome);
         } else if (const QTreeWidgetItem* node = m_view.tree.selectedItems().value(0);
                    node && outcome.isDone) {
             m_icons.NodeClick(*node); // its paths were cleared
@@ -143,18 +143,19 @@ void AddIconCommands::Run(const Work& work, const Finish& finish)
     });
 }
 
-/// Does all that a click on the node does.
-void AddIconCommands::ShowNode(const std::string& node)
+/// Does all that a click on the node does. False: a tree without a root shows none.
+bool AddIconCommands::ShowNode(const std::string& node)
 {
     m_icons.ShowTree();
     QTreeWidgetItem* const item = m_view.tree.NodeOf(FromLatin1(node));
     if (!item)
-        return;
+        return false;
     // Before the click takes the focus from a button that it disables, whose next key would use
     // another command.
     m_view.tree.setFocus();
     m_view.tree.setCurrentItem(item);
     m_view.tree.scrollToItem(item);
+    return true;
 }
 
 void AddIconCommands::DisableStored()

@@ -51,7 +51,7 @@ private:
     void Share(AssignRequest request);
     void Assign(AssignRequest request);
     void Run(const Work& work, const Finish& finish);
-    void ShowNode(const std::string& node);
+    bool ShowNode(const std::string& node);
     void DisableStored();
 
     View m_view;

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTest>
@@ -110,6 +111,29 @@ TEST_F(OnScreen, ABoxAnswersWithTheButtonThatWasPressed)
                           .buttons = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel }),
             button);
     }
+}
+
+TEST_F(OnScreen, AHeldEnterAnswersNoBox)
+{
+    bool staysOpen = false;
+    WhenUp<QMessageBox>([&](QMessageBox& box) {
+        QAbstractButton& button = *box.button(QMessageBox::Cancel);
+        button.setFocus();
+        for (const int key : { Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape }) {
+            QKeyEvent onButton(QEvent::KeyPress, key, {}, {}, true);
+            QApplication::sendEvent(&button, &onButton);
+            QKeyEvent onBox(QEvent::KeyPress, key, {}, {}, true);
+            QApplication::sendEvent(&box, &onBox);
+        }
+        staysOpen = box.isVisible();
+        QTest::keyClick(&button, Qt::Key_Return);
+    });
+
+    const auto answer =
+        ask.Show(nullptr, { .text = "Sure?", .buttons = QMessageBox::Ok | QMessageBox::Cancel });
+
+    EXPECT_TRUE(staysOpen);
+    EXPECT_EQ(answer, QMessageBox::Cancel);
 }
 
 TEST_F(OnScreen, EscapeIsCancel)

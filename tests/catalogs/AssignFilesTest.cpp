@@ -1,4 +1,3 @@
-#include "support/CommonUser.h"
 #include "support/RowsFixture.h"
 
 /// What becomes of pictures where an icon becomes one of the launcher.
@@ -6,11 +5,8 @@ namespace vypx::test {
 
 namespace {
 
-using ::testing::ElementsAre;
-
 constexpr const char* Icon = "Alpha (Large Icon)";
 constexpr const char* Entry = "Start (Large Icon)";
-constexpr const char* VYFailed = "Error assigning VY icon.";
 
 class AssignFiles : public RowsFixture {
 protected:
@@ -31,14 +27,6 @@ protected:
         EXPECT_EQ(Row(Entry).HighResFile, "tAIB2000-d144.bmp");
         EXPECT_EQ(Seen(SlotLG, Entry), BytesOf(high));
         EXPECT_EQ(Seen(SlotSM, Entry), BytesOf(low));
-    }
-    void ExpectNothingChanged()
-    {
-        const auto before = State();
-        const RowsOutcome outcome = Assign();
-        ExpectStopped(outcome, VYFailed);
-        EXPECT_EQ(State(), before);
-        EXPECT_FALSE(IconsetChanged);
     }
 };
 
@@ -129,21 +117,11 @@ TEST_F(AssignFiles, WhatTheTableSaidOfAnOldFileIsNotBelievedOfTheNewOne)
     EXPECT_EQ(TransparentIn("tAIB2000-d144.bmp"), std::nullopt);
 }
 
-TEST_F(AssignFiles, AnEmptySlotTakesNoColourOfAnOldFile)
-{
-    IconTable[0].LowResFile = "NEW";
-    SetTransparent("tAIB2000.bmp", { 9, 9, 9 });
-
-    Assign();
-    Fill(SlotSM, Entry, { 4, 5, 6 });
-
-    EXPECT_EQ(TransparentIn("tAIB2000.bmp"), (Rgb{ 4, 5, 6 }));
-}
-
 TEST_F(AssignFiles, FilesThatHaveTheNamesAlreadyStay)
 {
     IconTable.clear();
     Tree.Clear();
+    Tree.SetRoot(Root);
     AddRow(Icon, "tAIB2000", KindUnknown);
     Fill(SlotLG, Icon, Red);
     Fill(SlotSM, Icon, Blue);
@@ -236,109 +214,6 @@ TEST_F(AssignFiles, NamesThatStandInEachOthersPlaceLoseNoPicture)
     EXPECT_EQ(TransparentIn(IconTable[0].LowResFile), (Rgb{ 3, 3, 3 }));
     EXPECT_EQ(TransparentIn(IconTable[0].HighResFile), (Rgb{ 6, 6, 6 }));
 }
-
-TEST_F(AssignFiles, AFileOfTheNewNameThatAnotherIconShowsIsNeverTouched)
-{
-    for (const char* name : { "tAIB2000.bmp", "tAIB2000-d144.bmp" }) {
-        AddRow("Gamma (Large Icon)", "tAIB3600");
-        WritePicture(name, { 9, 9, 9 });
-        IconTable[1].HighResFile = name;
-
-        ExpectNothingChanged();
-
-        IconTable.pop_back();
-        Tree.Clear();
-        Tree.SetRoot(Root);
-        Tree.Add({ .key = Icon, .image = ImageApp });
-    }
-}
-
-TEST_F(AssignFiles, WhereAPictureHasVanishedNothingChanges)
-{
-    std::filesystem::remove(WorkPath("tAIB3500-d144.bmp"));
-
-    ExpectNothingChanged();
-}
-
-TEST_F(AssignFiles, WhereTheLowResPictureHasVanishedTheOtherStaysToo)
-{
-    std::filesystem::remove(WorkPath("tAIB3500.bmp"));
-
-    ExpectNothingChanged();
-}
-
-TEST_F(AssignFiles, WhereASharedPictureHasVanishedNothingChanges)
-{
-    AddRow("Gamma (Large Icon)", "tAIB3500");
-    IconTable[1].LowResFile = "tAIB3500.bmp";
-    std::filesystem::remove(WorkPath("tAIB3500.bmp"));
-
-    ExpectNothingChanged();
-}
-
-TEST_F(AssignFiles, AFolderInTheWayOfAPictureStopsBoth)
-{
-    std::filesystem::create_directories(WorkPath("tAIB2000.bmp/in the way"));
-
-    ExpectNothingChanged();
-}
-
-TEST_F(AssignFiles, AfterAFailureTheSameWorksOnceTheReasonIsGone)
-{
-    std::filesystem::create_directories(WorkPath("tAIB2000.bmp/in the way"));
-    Assign();
-    std::filesystem::remove_all(WorkPath("tAIB2000.bmp"));
-
-    ExpectDone(Assign(), Entry);
-
-    ExpectMoved();
-}
-
-TEST_F(AssignFiles, AFailureSaysWhyInPlainWords)
-{
-    std::filesystem::remove(WorkPath("tAIB3500.bmp"));
-
-    EXPECT_NE(Assign().note, "");
-}
-
-#ifndef _WIN32
-
-TEST_F(AssignFiles, WhereTheWorkingFolderCanNotBeWrittenNothingChanges)
-{
-    std::filesystem::permissions(WorkFolder(),
-        std::filesystem::perms::owner_write | std::filesystem::perms::group_write
-            | std::filesystem::perms::others_write,
-        std::filesystem::perm_options::remove);
-    {
-        const CommonUser common;
-        ExpectNothingChanged();
-    }
-    std::filesystem::permissions(WorkFolder(), std::filesystem::perms::owner_all);
-}
-
-TEST_F(AssignFiles, WhereASharedPictureCanNotBeCopiedNothingChanges)
-{
-    AddRow("Gamma (Large Icon)", "tAIB3500");
-    IconTable[1].LowResFile = "tAIB3500.bmp";
-    std::filesystem::permissions(WorkPath("tAIB3500.bmp"), std::filesystem::perms::none);
-    std::filesystem::permissions(WorkFolder(), std::filesystem::perms::all);
-    const Bytes low = BytesOf(Blue);
-    const auto rows = IconTable;
-    const auto bitmaps = BitmapTable;
-    {
-        const CommonUser common;
-        ExpectStopped(Assign(), VYFailed);
-    }
-
-    EXPECT_EQ(IconTable, rows);
-    EXPECT_EQ(BitmapTable, bitmaps);
-    EXPECT_EQ(ReadBytes(WorkPath("tAIB3500.bmp")), low);
-    EXPECT_TRUE(IsThere("tAIB3500-d144.bmp"));
-    EXPECT_EQ(FilesBelow(WorkFolder()).size(), 2u) << "no half of a copy is left";
-    EXPECT_THAT(NodeKeys(), ElementsAre(Icon, "Gamma (Large Icon)"));
-}
-
-#endif
 
 } // namespace
 } // namespace vypx::test

@@ -97,7 +97,6 @@ TEST_F(AssignIcon, AKeyThatASaveCanNotBindIsNoted)
 {
     const auto noteFor = [&](const std::string& key) {
         AddRow("Candidate", key, KindUnknown);
-        const std::string label = "Alpha (Large Icon)";
         const RowsOutcome outcome = Assign("Candidate", Catalog::Apps, "Alpha");
         EXPECT_TRUE(outcome.isDone) << key;
         IconTable.clear();
@@ -149,17 +148,6 @@ TEST_F(AssignIcon, TheKindIsThatOfTheCatalogWhereANameStandsInTwo)
     EXPECT_EQ(IconTable[0].IconKind, "PALM");
     EXPECT_EQ(IconTable[0].owner, (Owner{ "panl", "PALP" }));
     EXPECT_EQ(Nodes()[0].second, ImagePalm);
-}
-
-TEST_F(AssignIcon, ASuffixThatSaysAnotherSizeCanBeChosen)
-{
-    AddRow("Alpha (Large Icon)", "tAIB3500");
-
-    ExpectDone(Assign("Alpha (Large Icon)", Catalog::Apps, "Alpha", SizeClass::Small),
-        "Alpha (Small Icon)");
-
-    EXPECT_THAT(Labels(), ElementsAre("Alpha (Small Icon)"));
-    EXPECT_THAT(NodeKeys(), ElementsAre("Alpha (Small Icon)"));
 }
 
 TEST_F(AssignIcon, AnIconOfTheLauncherHasTheEntrysIdAndNoOwner)

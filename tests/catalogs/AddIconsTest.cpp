@@ -278,8 +278,18 @@ TEST_P(NoIds, OfTheLauncherAreToldAndMakeNoIcon)
         EXPECT_TRUE(key.empty() || key == "tAIB3500") << key;
 }
 
-INSTANTIATE_TEST_SUITE_P(AddIcons, NoIds,
-    ::testing::Values("", "abc", "../outside", "/2000", "2000/../../outside", "2000\\x"));
+INSTANTIATE_TEST_SUITE_P(
+    AddIcons, NoIds, ::testing::Values("", "abc", "../outside", "/2000", "\\2000", "-1", "70000"));
+
+TEST_F(AddIcons, OnlyTheNumberOfAnIdGetsIntoAKey)
+{
+    SetLauncher(
+        { { "Start (Large Icon)", "2000/../../outside" }, { "Start (Small Icon)", "2001\\x" } });
+
+    Add({ "Start (Large Icon)", "Start (Small Icon)" });
+
+    EXPECT_THAT(Keys(), ElementsAre("tAIB2000", "tAIB2001"));
+}
 
 TEST_F(AddIcons, ASizeThatTheLauncherDoesNotListIsNeverARow)
 {

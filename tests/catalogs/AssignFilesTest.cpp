@@ -39,6 +39,18 @@ TEST_F(AssignFiles, PicturesAreMovedToTheNamesOfTheNewKey)
     EXPECT_EQ(FilesBelow(WorkFolder()).size(), 2u);
 }
 
+TEST_F(AssignFiles, WhatStandsBehindTheNumberOfAnIdLeadsNowhere)
+{
+    SetLauncher({ { Entry, "2000/../../outside" } });
+    WriteBytes(folder.File("outside.bmp"), BytesOf({ 9, 9, 9 }));
+
+    Assign();
+
+    ExpectMoved();
+    EXPECT_EQ(ReadBytes(folder.File("outside.bmp")), BytesOf({ 9, 9, 9 }));
+    EXPECT_EQ(FilesBelow(folder.Path()).size(), 4u) << "two pictures, the catalog and that one";
+}
+
 TEST_F(AssignFiles, TransparentColoursGoWithThePictures)
 {
     Assign();

@@ -209,8 +209,13 @@ protected:
                 continue;
             RC_ASSERT(!row.ResourceKey.empty());
             const int ofKind = ImageOfKind(row.IconKind);
-            const bool showsKind = row.IconState == 1 && ofKind != 0;
-            const int image = showsKind ? ofKind : int(ImageDelete);
+            const bool isDrawnAnew =
+                row.IconState == 1 && ofKind == 0; // a kept orphan has no image
+            const IconNode* node = Tree.Find(row.IconLabel);
+            RC_ASSERT(node != nullptr);
+            const int image = isDrawnAnew ? node->image
+                : row.IconState == 1      ? ofKind
+                                          : int(ImageDelete);
             RC_ASSERT(images.emplace(row.IconLabel, image).second);
         }
         std::map<std::string, int> nodes;

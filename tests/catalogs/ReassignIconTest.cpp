@@ -39,7 +39,7 @@ protected:
 };
 
 INSTANTIATE_TEST_SUITE_P(Rows, ReassignIcon, ::testing::Values(&ReassignVYIcon, &ApplyAssignIcon),
-    [](const auto& info) { return info.index == 0 ? "ByItself" : "ByAssign"; });
+    [](const auto& test) { return test.index == 0 ? "ByItself" : "ByAssign"; });
 
 TEST_P(ReassignIcon, GivesAnIdOfItsOwnAndMovesThePictures)
 {

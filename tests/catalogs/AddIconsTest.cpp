@@ -132,12 +132,6 @@ TEST_F(AddIcons, ANameOfNoCatalogStopsEverything)
     EXPECT_THAT(NodeKeys(), ElementsAre("Alpha (Large Icon)"));
 }
 
-TEST_F(AddIcons, CaseCountsInNames)
-{
-    ExpectStopped(Add({ "alpha (Large Icon)" }), "Error assigning icon to tree!");
-    EXPECT_THAT(Labels(), IsEmpty());
-}
-
 TEST_F(AddIcons, WithoutADocumentNothingIsAdded)
 {
     FileLoaded = false;

@@ -129,7 +129,8 @@ protected:
     {
         for (const IconRow& row : IconTable)
             for (const std::string& cell : { row.LowResFile, row.HighResFile })
-                RC_ASSERT(!ImageFileValid(cell) || !Stored(cell).IsNull());
+                if (ImageFileValid(cell))
+                    RC_ASSERT(!Stored(cell).IsNull());
     }
 
     /// Whether a save keeps the icon under its label.

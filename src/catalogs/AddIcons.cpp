@@ -3,6 +3,7 @@
 #include "document/PictureState.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace vypx {
 
@@ -40,38 +41,44 @@ IconRow NewRow(const std::string& label, Catalog catalog, int id)
         .owner = OwnerOfEntry(catalog, NameInLabel(label)) };
 }
 
-std::string AddLauncherIcon(const std::string& label)
+RowsOutcome Added(const std::string& label, Catalog catalog, int id)
+{
+    AppendRow(NewRow(label, catalog, id));
+    return { .node = label, .isDone = true };
+}
+
+RowsOutcome AddLauncherIcon(const std::string& label)
 {
     const LauncherRow* const entry = FindLauncherRow(label);
     if (!entry)
-        return std::string(NotInTreeText);
+        return Stopped(NotInTreeText);
     const std::optional<int> id = LauncherId(entry->id);
-    if (!id || IsResourceTaken(ResourceKeyOf(*id)))
-        return std::string(NotAssignedText);
-    AppendRow(NewRow(label, Catalog::Launcher, *id));
-    return {};
+    if (!id)
+        return Stopped(NotAssignedText);
+    if (const IconRow* const holder = RowWithResource(ResourceKeyOf(*id)))
+        return StoppedBy(*holder);
+    return Added(label, Catalog::Launcher, *id);
 }
 
-std::string AddIcon(const std::string& label, Catalog catalog, ResourceIds& ids)
+RowsOutcome AddIcon(const std::string& label, Catalog catalog, ResourceIds& ids)
 {
     const bool isLarge = label == LabelOf(NameInLabel(label), SizeClass::Large);
     const std::optional<int> id = ids.Next(isLarge ? SizeClass::Large : SizeClass::Small);
     if (!id) {
         IconTable.emplace_back(); // On purpose: the row for it stays, empty.
-        return std::string(NoIdLeftText);
+        return Stopped(NoIdLeftText);
     }
-    AppendRow(NewRow(label, catalog, *id));
-    return {};
+    return Added(label, catalog, *id);
 }
 
-/// Adds the icon. Empty, or the message that ends the run.
-std::string AddIcon(const std::string& label, ResourceIds& ids)
+/// Adds one icon; what does not end well ends the run.
+RowsOutcome AddIcon(const std::string& label, ResourceIds& ids)
 {
     if (label.size() < ShortestLabel)
-        return std::string(NotAddedText);
+        return Stopped(NotAddedText);
     const Catalog catalog = Classify(label);
     if (catalog == Catalog::None)
-        return std::string(NotInTreeText);
+        return Stopped(NotInTreeText);
     return KindOf(catalog).ids == IdRule::OfEntry ? AddLauncherIcon(label)
                                                   : AddIcon(label, catalog, ids);
 }
@@ -81,7 +88,7 @@ std::string NoteOfSharedKeys(std::size_t firstNew)
 {
     std::string labels;
     for (std::size_t row = firstNew; row < IconTable.size(); ++row)
-        if (!IconTable[row].IconLabel.empty() && IsResourceTaken(IconTable[row].ResourceKey, row))
+        if (!IconTable[row].IconLabel.empty() && RowWithResource(IconTable[row].ResourceKey, row))
             for (const IconRow& other : IconTable)
                 if (other.ResourceKey == IconTable[row].ResourceKey)
                     labels += (labels.empty() ? "\"" : ", \"") + other.IconLabel + "\"";
@@ -103,13 +110,14 @@ RowsOutcome ApplyAddIcons(std::span<const std::string> labels)
     for (const std::string& label : labels) {
         if (IsTaken(label))
             continue;
-        outcome.message = AddIcon(label, ids);
-        outcome.isDone = outcome.message.empty();
-        if (!outcome.isDone)
+        const std::string before = std::exchange(outcome, AddIcon(label, ids)).node;
+        if (!outcome.isDone) {
+            outcome.node = before;
             break;
-        outcome.node = label;
+        }
     }
-    outcome.note = NoteOfSharedKeys(firstNew);
+    if (outcome.note.empty())
+        outcome.note = NoteOfSharedKeys(firstNew);
     if (outcome.isDone) {
         HighResPath.clear();
         LowResPath.clear();

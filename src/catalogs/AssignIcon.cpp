@@ -18,6 +18,8 @@ std::optional<RowsOutcome> Refusal(const AssignRequest& request)
         return Stopped(NotAddedText);
     if (IsTaken(LabelOfEntry(request.catalog, request.size, request.entry)))
         return RowsOutcome();
+    if (request.catalog != Catalog::Launcher && !FindEntry(request.catalog, request.entry))
+        return Stopped(NotInTreeText); // the catalog has lost it
     return std::nullopt;
 }
 
@@ -47,8 +49,8 @@ RowsOutcome Assigned(std::size_t row)
 RowsOutcome MoveTo(int id, std::size_t row, const AssignRequest& request)
 {
     const std::string key = ResourceKeyOf(id);
-    if (IsResourceTaken(key, row))
-        return Stopped(NotAssignedText);
+    if (const IconRow* const holder = RowWithResource(key, row))
+        return StoppedBy(*holder);
     RowsOutcome failed = Stopped(NotAssignedText);
     if (!MovePictures(row, key, failed.note))
         return failed;

@@ -103,7 +103,7 @@ bool MovePictures(std::size_t row, const std::string& newKey, std::string& why)
     const std::vector<Move> moves = MovesOf(IconTable[row], newKey);
     for (const Move& move : moves)
         if (IsShown(move.to)) {
-            why = "Another icon shows " + move.to + ".";
+            why = "A picture named " + move.to + " is in use.";
             return false;
         }
     for (std::size_t done = 0; done < moves.size(); ++done) {

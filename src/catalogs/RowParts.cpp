@@ -15,13 +15,20 @@ bool IsTaken(const std::string& label)
     return FindIconRow(label) || Tree.Find(label) || (Tree.HasRoot() && Tree.Root() == label);
 }
 
-bool IsResourceTaken(std::string_view resourceKey, std::optional<std::size_t> except)
+const IconRow* RowWithResource(std::string_view resourceKey, std::optional<std::size_t> except)
 {
     for (std::size_t row = 0; row < IconTable.size(); ++row)
         if (row != except && !IconTable[row].IconLabel.empty()
             && IconTable[row].ResourceKey == resourceKey)
-            return true;
-    return false;
+            return &IconTable[row];
+    return nullptr;
+}
+
+RowsOutcome StoppedBy(const IconRow& holder)
+{
+    RowsOutcome outcome = Stopped(NotAssignedText);
+    outcome.note = "\"" + holder.IconLabel + "\" has " + holder.ResourceKey + " already.";
+    return outcome;
 }
 
 const CatalogRow* FindEntry(Catalog catalog, std::string_view name)

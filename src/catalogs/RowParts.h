@@ -26,9 +26,12 @@ RowsOutcome Stopped(std::string_view message);
 /// Whether a row or a node of the tree, the root included, has that label.
 bool IsTaken(const std::string& label);
 
-/// Whether a row with a label, other than `except`, has that resource.
-bool IsResourceTaken(
+/// The first row with a label, other than `except`, that has that resource; null: none has.
+const IconRow* RowWithResource(
     std::string_view resourceKey, std::optional<std::size_t> except = std::nullopt);
+
+/// An icon of the launcher can't have the resource that `holder` has.
+RowsOutcome StoppedBy(const IconRow& holder);
 
 /// The first entry of AppTable or PalmTable with that name; null for another catalog.
 const CatalogRow* FindEntry(Catalog catalog, std::string_view name);

@@ -149,7 +149,13 @@ protected:
         std::string kind, key;
         Owner owner;
         Picture low, high;
+        std::optional<Rgb> lowMask, highMask; // transparent colours
     };
+    static std::optional<Rgb> MaskOf(const std::string& cell)
+    {
+        const BitmapEntry* const bitmap = BitmapAt(WorkPath(cell));
+        return bitmap && bitmap->hasTransparent == 1 ? TransparentColour(*bitmap) : std::nullopt;
+    }
     static std::map<std::string, Content> KeptIcons()
     {
         const auto picture = [](const std::string& cell) {
@@ -159,7 +165,8 @@ protected:
         for (const IconRow& row : IconTable)
             if (IsKept(row))
                 icons[row.IconLabel] = { row.IconKind, row.ResourceKey, row.owner,
-                    picture(row.LowResFile), picture(row.HighResFile) };
+                    picture(row.LowResFile), picture(row.HighResFile), MaskOf(row.LowResFile),
+                    MaskOf(row.HighResFile) };
         return icons;
     }
 
@@ -170,7 +177,7 @@ protected:
 RC_GTEST_FIXTURE_PROP(NewIcons, AreTheSameInTheFileThatIsSaved, ())
 {
     Begin();
-    for (int left = *rc::gen::inRange(1, 120); left > 0; --left) {
+    for (int left = *rc::gen::inRange(60, 200); left > 0; --left) {
         const auto number = [] { return *rc::gen::inRange<unsigned>(0, 240); };
         Do({ number(), number(), number(), number(), number() });
         CheckCells();
@@ -195,6 +202,8 @@ RC_GTEST_FIXTURE_PROP(NewIcons, AreTheSameInTheFileThatIsSaved, ())
         RC_ASSERT(now.owner == icon.owner);
         RC_ASSERT(now.low == icon.low);
         RC_ASSERT(now.high == icon.high);
+        RC_ASSERT(now.lowMask == icon.lowMask);
+        RC_ASSERT(now.highMask == icon.highMask);
     }
 }
 

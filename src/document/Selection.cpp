@@ -119,9 +119,8 @@ SelectionEffects SelectNode(const std::string& text, const std::string& rootText
     }
     effects.endsUndo = text != LastClickedText;
     LastClickedText = text;
-    if (FileLoaded)
-        effects.enabled[Command::AddIcon] =
-            true; // after a New that was cancelled nothing else does
+    if (FileLoaded) // after a New that was cancelled nothing else enables it
+        effects.enabled[Command::AddIcon] = true;
 
     if (IsRootSelected(text)) {
         EnableRowCommands(effects, false);

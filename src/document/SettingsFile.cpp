@@ -78,6 +78,7 @@ const std::vector<Key>& Keys()
         { "Program Directories", "Last Directory for Image Load", "", &LastDirImageLoad },
         { "Program Directories", "Last Directory for Image Save", "", &LastDirImageSave },
         { "Hotsync Info", "Palm User ID", "", &PalmUserID },
+        { "Hotsync Info", "Palm Desktop Folder", "", &PalmDesktopFolder },
     };
     return keys;
 }

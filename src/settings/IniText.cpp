@@ -133,6 +133,11 @@ std::optional<std::string_view> IniText::Value(std::string_view section, std::st
     return WithoutQuotes(Trimmed(value));
 }
 
+bool IniText::SameName(std::string_view first, std::string_view second)
+{
+    return Folded(first) == Folded(second);
+}
+
 std::vector<std::string> IniText::SectionNames() const
 {
     std::vector<std::string> names;
@@ -170,21 +175,24 @@ bool IniText::SetValue(std::string_view section, std::string_view key, std::stri
         return false;
 
     const std::string text = OneLine(value);
-    const Section* const in = Find(section);
-    if (!in) {
+    if (!HasSection(section)) {
         Insert(m_lines.size(), "[" + sectionName + "]");
-        Insert(m_lines.size(), name + "=" + text);
-    } else if (const auto found = in->keys.find(Folded(key)); found != in->keys.end()) {
+        m_sections[Folded(section)].header = m_lines.size() - 1;
+    }
+    Section& in = m_sections.at(Folded(section));
+    if (const auto found = in.keys.find(Folded(key)); found != in.keys.end()) {
         Line& line = m_lines[found->second];
         line = Parsed(line.text.substr(0, line.valueOffset) + text, line.end);
         return true;
-    } else {
-        std::size_t at = EndOfSection(in->header);
-        while (at > in->header + 1 && Trimmed(m_lines[at - 1].text).empty())
-            --at; // blank lines before the next section stay before it
-        Insert(at, name + "=" + text);
     }
-    Index();
+    std::size_t at = EndOfSection(in.header);
+    while (at > in.header + 1 && Trimmed(m_lines[at - 1].text).empty())
+        --at; // blank lines before the next section stay before it
+    Insert(at, name + "=" + text);
+    if (at + 1 == m_lines.size())
+        in.keys.emplace(Folded(key), at); // or each of many new entries would cost an index
+    else
+        Index();
     return true;
 }
 

@@ -28,6 +28,9 @@ public:
 
     /// Empty when there is no such key. A value ends at a NUL.
     std::optional<std::string_view> Value(std::string_view section, std::string_view key) const;
+    /// Whether two names of sections, or of keys, are one.
+    static bool SameName(std::string_view first, std::string_view second);
+    bool HasSection(std::string_view section) const { return Find(section) != nullptr; }
     /// In the file's order, repeated names included.
     std::vector<std::string> SectionNames() const;
     std::vector<std::string> KeyNames(std::string_view section) const;

@@ -10,8 +10,7 @@ namespace vypx {
 
 namespace {
 
-/// Buffers of a read, in characters with the terminator.
-constexpr std::size_t ValueBuffer = 255;
+/// Buffer of a list, in characters with the terminator.
 constexpr std::size_t ListBuffer = 8192;
 
 /// Names as a list for a buffer of ListBuffer characters: each ended by a NUL, and room for one
@@ -79,7 +78,7 @@ std::string cInifile::Value() const
 {
     const auto file = ReadIni(m_path);
     const std::optional<std::string_view> value = file->Value(m_section, m_key);
-    return std::string(value.value_or(m_default).substr(0, ValueBuffer - 1));
+    return std::string(value.value_or(m_default).substr(0, MaxValueLength));
 }
 
 void cInifile::Value(std::string_view sValue)

@@ -2,12 +2,19 @@
 
 #include "settings/Placement.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace vypx {
+
+/// Longest value that a read gives back whole, in bytes.
+inline constexpr std::size_t MaxValueLength = 254;
+
+/// Whether a value, such as a path in UTF-8, is not too long for that.
+inline bool FitsKey(std::string_view value) { return value.size() <= MaxValueLength; }
 
 /// The one way to ini-form files: a cursor that is set to a path, a section and a key and then
 /// reads or writes the value there. Every read and write goes to the file, so two objects on one
@@ -30,7 +37,7 @@ public:
     void Section(std::string_view sSection) { m_section = sSection; }
     const std::string& Section() const { return m_section; }
 
-    /// At most 254 characters. A read leaves LastReturnCode as it was.
+    /// At most MaxValueLength characters. A read leaves LastReturnCode as it was.
     std::string Value() const;
     /// NUL characters in the value are left out.
     void Value(std::string_view sValue);

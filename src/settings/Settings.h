@@ -28,6 +28,8 @@ inline int MainWinWidth = 14000, MainWinHeight = 9800; ///< twips
 inline bool UseLastDirs = false;
 inline std::string LastDirIconsetLoad, LastDirIconsetSave, LastDirImageLoad, LastDirImageSave;
 inline std::string PalmUserID;
+/// Where the automatic search looks on systems without the Palm Desktop; empty: nowhere.
+inline std::string PalmDesktopFolder;
 
 /// Puts every setting back to its default.
 void SetDefaultSettings();

@@ -51,6 +51,7 @@ TEST_F(SettingsFileTest, AFirstRunMarksTheFileAndReadsDefaults)
     EXPECT_EQ(MainWinHeight, 9800);
     EXPECT_EQ(PreviewWinY, 100);
     EXPECT_EQ(PalmUserID, "");
+    EXPECT_EQ(PalmDesktopFolder, "");
 }
 
 TEST_F(SettingsFileTest, TheFirstSaveWritesEveryKeyInItsOrder)
@@ -83,7 +84,7 @@ TEST_F(SettingsFileTest, TheFirstSaveWritesEveryKeyInItsOrder)
         "[Program Directories]\nUse Last Directories=True\n"
         "Last Directory for Iconset Load=\nLast Directory for Iconset Save=\n"
         "Last Directory for Image Load=\nLast Directory for Image Save=\n"
-        "[Hotsync Info]\nPalm User ID=\n");
+        "[Hotsync Info]\nPalm User ID=\nPalm Desktop Folder=\n");
 }
 
 TEST_F(SettingsFileTest, WhatIsSavedIsReadBack)
@@ -95,6 +96,7 @@ TEST_F(SettingsFileTest, WhatIsSavedIsReadBack)
     LowResOnly = true;
     LastDirIconsetLoad = "/home/caf\xC3\xA9";
     PalmUserID = "User";
+    PalmDesktopFolder = "/home/caf\xC3\xA9/Palm Desktop";
     R = 1;
     G = 2;
     B = 3;
@@ -111,6 +113,7 @@ TEST_F(SettingsFileTest, WhatIsSavedIsReadBack)
     EXPECT_TRUE(LowResOnly);
     EXPECT_EQ(LastDirIconsetLoad, "/home/caf\xC3\xA9");
     EXPECT_EQ(PalmUserID, "User");
+    EXPECT_EQ(PalmDesktopFolder, "/home/caf\xC3\xA9/Palm Desktop");
     EXPECT_EQ(Rsave * 100 + Gsave * 10 + Bsave, 123);
     EXPECT_EQ(MainWinWidth, 15000);
 }

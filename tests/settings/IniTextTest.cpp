@@ -176,6 +176,28 @@ TEST(IniText, NamesThatCouldNotBeReadBackAreRefused)
     EXPECT_EQ(text.Bytes(), "[A]\n");
 }
 
+TEST(IniText, ANewSectionIsThereAtOnceWithAllItsKeys)
+{
+    IniText text("[A]\nx=1\n");
+
+    text.SetValue(" b ", "x", "2");
+    text.SetValue("B", "y", "3");
+    text.SetValue("b", "X", "4");
+    text.SetValue("a", "y", "5");
+
+    EXPECT_TRUE(text.HasSection("B"));
+    EXPECT_FALSE(text.HasSection("C"));
+    EXPECT_EQ(text.Bytes(), "[A]\nx=1\ny=5\n[b]\nx=4\ny=3\n");
+    EXPECT_EQ(text.Value("B", "y"), "3");
+}
+
+TEST(IniText, NamesAreOneUpToCaseAndTheBlanksAroundThem)
+{
+    EXPECT_TRUE(IniText::SameName(" My App", "MY app\t"));
+    EXPECT_FALSE(IniText::SameName("My App", "MyApp"));
+    EXPECT_FALSE(IniText::SameName("\xE9", "\xC9"));
+}
+
 TEST(IniText, DeletingTakesAllOfAName)
 {
     IniText text("[A]\nx=1\nX=2\ny=3\n[B]\n[a]\nz=4\n");

@@ -97,6 +97,16 @@ TEST_F(Inifile, AValueOf300CharactersReadsBackAsItsFirst254)
     EXPECT_EQ(Read("A", "x"), std::string(253, 'a') + "b");
 }
 
+TEST_F(Inifile, AValueThatFitsItsKeyReadsBackWholeAndOneMoreDoesNot)
+{
+    for (const bool fits : { true, false }) {
+        const std::string value(fits ? 254 : 255, 'x');
+        EXPECT_EQ(FitsKey(value), fits);
+        Write("A", "x", value);
+        EXPECT_EQ(Read("A", "x") == value, fits);
+    }
+}
+
 TEST_F(Inifile, ALongDefaultIsCutLikeAValue)
 {
     ini.Default(std::string(300, 'd'));

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <compare>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// Walking folders that may hold anything. Paths are UTF-8 and may be of any length where the
+/// system can go there in steps (not on Windows).
+namespace vypx::platform {
+
+/// What tells one folder from another, whichever path or link leads to it.
+struct FolderId {
+    std::uint64_t volume = 0, file = 0;
+
+    friend auto operator<=>(const FolderId&, const FolderId&) = default;
+};
+
+struct FolderEntry {
+    std::string name;
+    bool isFolder = false; ///< or a link to one
+};
+
+struct FolderListing {
+    std::vector<FolderEntry> entries; ///< in no order, without "." and ".."
+    bool isWhole = false;             ///< false: the folder, or the rest of it, can't be read
+};
+
+/// What a folder holds. `wanted` is asked before it is read: after a false it is whole and empty.
+FolderListing ListFolder(const std::string& path, const std::function<bool(FolderId)>& wanted);
+
+/// The first bytes of a regular file, `most` of them or as many as it has; empty when it is none or
+/// can't be read. Folders, pipes and devices are not even opened.
+std::optional<std::vector<std::uint8_t>> ReadFileHead(const std::string& path, std::size_t most);
+
+} // namespace vypx::platform

@@ -1,0 +1,66 @@
+#include "platform/Registry.h"
+
+#ifdef _WIN32
+
+#include "platform/Platform.h"
+
+#include <algorithm>
+#include <array>
+
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#include <windows.h>
+
+namespace vypx::platform {
+
+namespace {
+
+constexpr DWORD Buffer = 255; // characters, each terminator among them
+
+/// A text of UTF-16 as it lies in memory, up to its terminator.
+std::string Utf8(const wchar_t* text, std::size_t most)
+{
+    return Utf8Path(std::wstring(text, std::find(text, text + most, L'\0')));
+}
+
+} // namespace
+
+std::optional<RegistryValues> UserRegistryValues(const std::string& key)
+{
+    HKEY open = nullptr;
+    if (::RegOpenKeyExW(HKEY_CURRENT_USER, NativePath(key).c_str(), 0, KEY_READ, &open)
+        != ERROR_SUCCESS)
+        return std::nullopt;
+    RegistryValues found;
+    for (DWORD i = 0;; ++i) {
+        std::array<wchar_t, Buffer> name{}, data{};
+        DWORD nameLength = Buffer, dataBytes = sizeof data;
+        const LSTATUS status = ::RegEnumValueW(open, i, name.data(), &nameLength, nullptr, nullptr,
+            reinterpret_cast<BYTE*>(data.data()), &dataBytes);
+        if (status == ERROR_SUCCESS) {
+            found.values.push_back({ Utf8(name.data(), nameLength),
+                Utf8(data.data(), std::min<std::size_t>(dataBytes / sizeof(wchar_t), Buffer)) });
+            continue;
+        }
+        if (status == ERROR_NO_MORE_ITEMS)
+            break;
+        found.isWhole = false;
+        if (status != ERROR_MORE_DATA)
+            break;
+    }
+    ::RegCloseKey(open);
+    return found;
+}
+
+} // namespace vypx::platform
+
+#else
+
+namespace vypx::platform {
+
+std::optional<RegistryValues> UserRegistryValues(const std::string&) { return std::nullopt; }
+
+} // namespace vypx::platform
+
+#endif

@@ -206,6 +206,9 @@ private:
 
 } // namespace
 
+std::string AppListFile() { return AppFolder + BelowFolder(AppFile.file); }
+std::string PalmAppFile() { return AppFolder + BelowFolder(PalmFile.file); }
+
 std::string NoteOf(const CutCatalog& catalog)
 {
     return "Only " + std::to_string(catalog.known) + " of the " + std::to_string(catalog.total)

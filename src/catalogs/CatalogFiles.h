@@ -17,6 +17,10 @@
 /// fit 8192 characters; what is beyond is not seen.
 namespace vypx {
 
+/// Paths of the two that are written, in AppFolder.
+std::string AppListFile();
+std::string PalmAppFile();
+
 /// Shows a text (Latin-1) in a box.
 using ShowMessage = std::function<void(std::string_view)>;
 

@@ -1,0 +1,263 @@
+#include "catalogs/AddApplication.h"
+
+#include "document/Document.h"
+#include "support/EditFixture.h"
+
+namespace vypx::test {
+
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+const CatalogBox Question{
+    .text = "The application name you have entered already exists.\n"
+            "Press OK to overwrite the existing application.",
+    .title = "Application Already Exists!",
+    .icon = CatalogBox::Icon::Exclamation,
+    .asks = true,
+};
+
+class AddSingleTest : public Editing {
+protected:
+    /// With a file that exists by then.
+    bool Add(const Bytes& file, const std::string& name = "app.prc")
+    {
+        Put(name, file);
+        return AddSingle(InPalm(name), show);
+    }
+};
+
+TEST_F(AddSingleTest, WritesTypeAndCreatorBehindTheOthers)
+{
+    Catalogs(Entry("Old", "OLDA"), "");
+
+    EXPECT_TRUE(Add(PrcFile("My [App] *1", "appl", "MyAp")));
+
+    EXPECT_EQ(Apps(), Entry("Old", "OLDA") + Entry("My {App}", "MyAp"));
+    EXPECT_THAT(boxes, IsEmpty());
+}
+
+TEST_F(AddSingleTest, OnPurposeAPanelIsWrittenAsAnApplication)
+{
+    Add(PrcFile("Clock *1", "panl", "ClkP"));
+
+    EXPECT_EQ(Apps(), "[Clock Panel]\nType=appl\nCreator={ClkP}\n");
+}
+
+TEST_F(AddSingleTest, AnEndingOfThreeOtherLettersIsToldFirst)
+{
+    EXPECT_FALSE(Add(PrcFile("App", "libr", "syst"), "app.pdb"));
+
+    EXPECT_THAT(boxes, ElementsAre(Plain("Incorrect file type.")));
+}
+
+TEST_F(AddSingleTest, TheEndingCountsInAnyCaseAndNeedsNoFullStop)
+{
+    EXPECT_TRUE(Add(PrcFile("One", "appl", "AAAA"), "one.PRC"));
+    EXPECT_TRUE(Add(PrcFile("Two", "appl", "BBBB"), "twoprc"));
+}
+
+TEST_F(AddSingleTest, AnotherTypeIsToldBeforeTheCreator)
+{
+    EXPECT_FALSE(Add(PrcFile("App", "libr", "syst")));
+
+    EXPECT_THAT(boxes, ElementsAre(Plain("The selected file isn't an application.")));
+}
+
+TEST_F(AddSingleTest, AProgramOfPalmOSIsToldBeforeItsName)
+{
+    EXPECT_FALSE(Add(PrcFile("", "appl", "syst")));
+
+    EXPECT_THAT(
+        boxes, ElementsAre(Plain("This is a Palm System file. Can't add the selected file.")));
+    EXPECT_EQ(Apps(), "");
+}
+
+TEST_F(AddSingleTest, WhatCannotBeReadOrWrittenEndsSilently)
+{
+    Bytes shorter = PrcFile("App", "libr");
+    shorter.pop_back();
+
+    EXPECT_FALSE(Add(shorter)) << "though its type can be read";
+    EXPECT_FALSE(Add({}));
+    EXPECT_FALSE(AddSingle(InPalm("missing.prc"), show));
+    EXPECT_FALSE(AddSingle("prc", show));
+    EXPECT_FALSE(Add(PrcFile("App", "appl", "AB\nC")));
+    EXPECT_FALSE(Add(PrcFile("*", "appl", "ABCD")));
+    EXPECT_FALSE(Add(PrcFile("", "panl", "ABCD"))) << "no \" Panel\" without a name";
+
+    EXPECT_THAT(boxes, IsEmpty());
+    EXPECT_EQ(Apps(), "");
+}
+
+TEST_F(AddSingleTest, TheCreatorOfAPalmIconIsToldBeforeThatOfAnApplication)
+{
+    const std::string apps = Entry("Other", "ABCD");
+    Catalogs(apps, Entry("Palm Clock", "ABCD"));
+
+    EXPECT_FALSE(Add(PrcFile("App")));
+
+    EXPECT_THAT(boxes,
+        ElementsAre(Plain("Error adding this application. The Palm system icon \"Palm Clock\" has "
+                          "the same Creator ID.")));
+    EXPECT_EQ(Apps(), apps);
+}
+
+TEST_F(AddSingleTest, TheCreatorOfAnApplicationWithAnotherNameIsTold)
+{
+    const std::string apps = Entry("App", "XXXX") + Entry("Other", "ABCD");
+    Catalogs(apps, "");
+
+    EXPECT_FALSE(Add(PrcFile("App"))) << "before the question about the name";
+
+    EXPECT_THAT(boxes,
+        ElementsAre(CatalogBox{
+            .text = "The file you have selected has the same Creator ID as the application: "
+                    "\n\n\"Other\"\n\nYou will need to delete the application \"Other\" first to "
+                    "install this application.",
+            .title = "Creator ID Already Exists!" }));
+    EXPECT_EQ(Apps(), apps);
+}
+
+TEST_F(AddSingleTest, OnPurposeThatTestTellsUpperFromLowerCase)
+{
+    Catalogs(Entry("APP", "ABCD"), "");
+
+    Add(PrcFile("App"));
+
+    EXPECT_EQ(boxes.at(0).title, "Creator ID Already Exists!");
+}
+
+TEST_F(AddSingleTest, ANameThatHoldsAKnownOneIsAskedAboutAndCancelStops)
+{
+    const std::string apps = Entry("chess", "CHES");
+    Catalogs(apps, "");
+    answer = false;
+
+    EXPECT_FALSE(Add(PrcFile("Pocket Chess")));
+
+    EXPECT_THAT(boxes, ElementsAre(Question));
+    EXPECT_EQ(Apps(), apps);
+}
+
+TEST_F(AddSingleTest, EveryPartIsAskedAboutUntilACancel)
+{
+    const std::string apps = Entry("Po", "1111") + Entry("Chess", "2222") + Entry("Ch", "3333");
+    Catalogs(apps, "");
+    answers = { true, false };
+
+    EXPECT_FALSE(Add(PrcFile("Pocket Chess")));
+
+    EXPECT_EQ(boxes.size(), 2u);
+    EXPECT_EQ(Apps(), apps);
+}
+
+TEST_F(AddSingleTest, EntriesWithOtherCreatorsAlwaysStay)
+{
+    const std::string apps = Entry("Po", "1111") + Entry("Chess", "2222");
+    Catalogs(apps, "");
+
+    EXPECT_TRUE(Add(PrcFile("Pocket Chess")));
+
+    EXPECT_EQ(boxes.size(), 2u);
+    EXPECT_EQ(Apps(), apps + Entry("Pocket Chess", "ABCD"));
+}
+
+TEST_F(AddSingleTest, AnApplicationThatChangedItsNameLosesItsOldEntry)
+{
+    Catalogs(Entry("Chess", "ABCD") + Entry("Other", "OTHR"), "");
+
+    EXPECT_TRUE(Add(PrcFile("Chess 2")));
+
+    EXPECT_THAT(boxes, ElementsAre(Question));
+    EXPECT_EQ(Apps(), Entry("Other", "OTHR") + Entry("Chess 2", "ABCD"));
+    EXPECT_FALSE(NamedFileExists(AppListFile() + ".bak")) << "one entry is no reason";
+}
+
+TEST_F(AddSingleTest, ButNotWhileAnIconsetIsOpen)
+{
+    Catalogs(Entry("Chess", "ABCD"), "");
+    FileLoaded = true;
+
+    EXPECT_TRUE(Add(PrcFile("Chess 2")));
+
+    EXPECT_EQ(Apps(), Entry("Chess", "ABCD") + Entry("Chess 2", "ABCD"));
+    FileLoaded = false;
+}
+
+TEST_F(AddSingleTest, MoreThanOneOldEntryLeavesABackup)
+{
+    const std::string apps = Entry("Ch", "ABCD") + Entry("Chess", "ABCD");
+    Catalogs(apps, "");
+
+    EXPECT_TRUE(Add(PrcFile("Chess 2")));
+
+    EXPECT_EQ(Apps(), Entry("Chess 2", "ABCD"));
+    EXPECT_EQ(ReadText(AppListFile() + ".bak"), apps);
+}
+
+TEST_F(AddSingleTest, TheSameNameUpToCaseKeepsItsPlaceAndItsOtherKeys)
+{
+    Catalogs("[MY APP]\nType=panl\nCreator={XXXX}\nNote=x\n" + Entry("Other", "OTHR"), "");
+
+    EXPECT_TRUE(Add(PrcFile("My App")));
+
+    EXPECT_THAT(boxes, ElementsAre(Question));
+    EXPECT_EQ(Apps(), "[MY APP]\nType=appl\nCreator={ABCD}\nNote=x\n" + Entry("Other", "OTHR"));
+}
+
+TEST_F(AddSingleTest, OnPurposeThePanelsEndingCountsForTheQuestion)
+{
+    Catalogs(Entry("Panel", "PANL"), "");
+    answer = false;
+
+    EXPECT_FALSE(Add(PrcFile("Clock", "panl")));
+
+    EXPECT_THAT(boxes, ElementsAre(Question));
+}
+
+TEST_F(AddSingleTest, OnPurposeWhatStandsBehindAStarDoesNotCount)
+{
+    Catalogs(Entry("Chess", "CHES"), "");
+
+    EXPECT_TRUE(Add(PrcFile("App *Chess")));
+
+    EXPECT_THAT(boxes, IsEmpty());
+}
+
+TEST_F(AddSingleTest, ARowWithoutACreatorAsksNothing)
+{
+    Catalogs("[Ap]\nType=appl\nCreator=ABCDE\n[App]\nType=appl\n", "");
+
+    EXPECT_TRUE(Add(PrcFile("App")));
+
+    EXPECT_THAT(boxes, IsEmpty());
+    EXPECT_EQ(Apps(), "[Ap]\nType=appl\nCreator=ABCDE\n" + Entry("App", "ABCD"));
+}
+
+TEST_F(AddSingleTest, AnEntryThatTheReadersDoNotSeeIsAskedAboutToo)
+{
+    const std::string apps = Entry(std::string(8190, 'x'), "XXXX") + Entry("App", "OTHR");
+    Catalogs(apps, "");
+    answer = false;
+
+    EXPECT_FALSE(Add(PrcFile("App")));
+
+    EXPECT_THAT(boxes, ElementsAre(Question));
+    EXPECT_EQ(Apps(), apps);
+}
+
+TEST_F(AddSingleTest, AFailedWriteIsTold)
+{
+    Block(AppListFile());
+
+    EXPECT_TRUE(Add(PrcFile("App")));
+
+    EXPECT_THAT(boxes,
+        ElementsAre(
+            CatalogBox{ .text = "Failed to save value.", .icon = CatalogBox::Icon::Information }));
+}
+
+} // namespace
+} // namespace vypx::test

@@ -1,6 +1,7 @@
 #include "cli/Convert.h"
 #include "cli/Dump.h"
 #include "cli/Import.h"
+#include "cli/Scan.h"
 
 #include <CLI/CLI.hpp>
 #include <exception>
@@ -68,6 +69,17 @@ CLI::App& AddImport(CLI::App& tool, vypx::ImportOptions& options)
     return *command;
 }
 
+CLI::App& AddScan(CLI::App& tool, vypx::ScanOptions& options)
+{
+    CLI::App* scan = tool.add_subcommand(
+        "scan", "Search a folder for Palm applications and add new ones to AppList.dat");
+    scan->add_option("FOLDER", options.folder, "Folder to search, with all below it")->required();
+    scan->add_option("--app-folder", options.appFolder, "Folder with the catalogs")
+        ->required()
+        ->check(CLI::ExistingDirectory);
+    return *scan;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -77,13 +89,17 @@ int main(int argc, char** argv)
     vypx::OpenOptions dumpOptions;
     vypx::ConvertOptions convertOptions;
     vypx::ImportOptions importOptions;
+    vypx::ScanOptions scanOptions;
     const CLI::App& dump = AddDump(tool, dumpOptions);
     const CLI::App& convert = AddConvert(tool, convertOptions);
     AddImport(tool, importOptions);
+    const CLI::App& scan = AddScan(tool, scanOptions);
     try {
         tool.parse(argc, argv);
         if (dump.parsed())
             return vypx::Dump(dumpOptions);
+        if (scan.parsed())
+            return vypx::Scan(scanOptions);
         return convert.parsed() ? vypx::Convert(convertOptions) : vypx::Import(importOptions);
     } catch (const CLI::ParseError& error) {
         const bool askedForHelp = tool.exit(error) == 0;

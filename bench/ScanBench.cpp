@@ -9,7 +9,9 @@
 #include "support/PrcFiles.h"
 #include "support/TempFolder.h"
 
+#include <algorithm>
 #include <benchmark/benchmark.h>
+#include <chrono>
 #include <dirent.h>
 #include <fcntl.h>
 #include <filesystem>
@@ -25,8 +27,25 @@ constexpr int New = 1000;
 
 std::string CreatorOf(char letter, int i) { return letter + std::to_string(100 + i); }
 
-class Quiet : public SearchListener {
+/// Keeps the longest time between two turns of events, from its making to `Milliseconds`.
+class Watching : public SearchListener {
+public:
     void Show(const CatalogBox&) override { }
+    void RunEvents() override
+    {
+        const auto now = std::chrono::steady_clock::now();
+        m_longest = std::max(m_longest, now - m_last);
+        m_last = now;
+    }
+    double Milliseconds()
+    {
+        RunEvents();
+        return std::chrono::duration<double, std::milli>(m_longest).count();
+    }
+
+private:
+    std::chrono::steady_clock::time_point m_last = std::chrono::steady_clock::now();
+    std::chrono::steady_clock::duration m_longest{ 0 };
 };
 
 /// The tree, made once for all benchmarks, and a catalog that knows every file of it.
@@ -116,9 +135,10 @@ void NothingNew(benchmark::State& state)
     SearchFolder = TheTree().folder.File("palm");
     ScanHasNew = true;
     ReadTables();
-    Quiet quiet;
     for (auto _ : state) {
-        const SearchEnd end = SearchAndAdd(quiet);
+        Watching watching;
+        const SearchEnd end = SearchAndAdd(watching);
+        state.counters["gap_ms"] = watching.Milliseconds();
         state.counters["files"] = static_cast<double>(end.add.files.size());
         for (const JudgedPrc& file : end.add.files)
             if (file.verdict != PrcVerdict::KnownCreator)
@@ -132,7 +152,6 @@ void ThousandNew(benchmark::State& state)
     AppFolder = tree.folder.Path();
     const std::string apps = test::ReadText(AppListFile());
     ReadTables();
-    Quiet quiet;
     for (auto _ : state) {
         state.PauseTiming();
         test::WriteText(AppListFile(), apps);
@@ -141,7 +160,10 @@ void ThousandNew(benchmark::State& state)
             listPRC.push_back(tree.folder.File("new" + std::to_string(i) + ".prc"));
         state.ResumeTiming();
         int added = 0;
-        for (const JudgedPrc& file : AddPrcFiles(quiet).files)
+        Watching watching;
+        const AddEnd end = AddPrcFiles(watching);
+        state.counters["gap_ms"] = watching.Milliseconds();
+        for (const JudgedPrc& file : end.files)
             added += file.verdict == PrcVerdict::Added ? 1 : 0;
         state.counters["added"] = added;
     }

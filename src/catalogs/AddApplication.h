@@ -20,6 +20,6 @@ struct ManualEntry {
 };
 
 /// `cmdAppApply`. True as above: the window closes.
-bool AddManual(const ManualEntry& entry, const ShowBox& show);
+bool AddManual(const ManualEntry& typed, const ShowBox& show);
 
 } // namespace vypx

@@ -2,6 +2,7 @@
 
 #include "catalogs/CatalogBox.h"
 
+#include <algorithm>
 #include <optional>
 #include <string_view>
 
@@ -36,10 +37,9 @@ inline bool IsOtherType(std::string_view type) { return type != "appl" && type !
 /// A character below 32 or from 127 up.
 inline bool HasOddCharacter(std::string_view text)
 {
-    for (const char letter : text)
-        if (static_cast<unsigned char>(letter) < 32 || static_cast<unsigned char>(letter) >= 127)
-            return true;
-    return false;
+    return std::any_of(text.begin(), text.end(), [](char letter) {
+        return static_cast<unsigned char>(letter) < 32 || static_cast<unsigned char>(letter) >= 127;
+    });
 }
 
 inline std::string InQuotes(const std::string& name) { return '"' + name + '"'; }

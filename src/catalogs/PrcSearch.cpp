@@ -13,7 +13,7 @@ namespace vypx {
 
 namespace {
 
-constexpr const char* DesktopKey = "Software\\U.S. Robotics\\Pilot Desktop\\Core";
+constexpr const char* DesktopKey = R"(Software\U.S. Robotics\Pilot Desktop\Core)";
 
 using platform::FolderEntry;
 

@@ -102,7 +102,7 @@ std::string NoteOfSharedKeys(std::size_t firstNew)
 
 RowsOutcome ApplyAddIcons(std::span<const std::string> labels)
 {
-    if (!FileLoaded)
+    if (!FileLoaded || !Tree.HasRoot()) // a new iconset without a name has no tree
         return Stopped(NotInTreeText);
     const std::size_t firstNew = IconTable.size();
     ResourceIds ids;

@@ -44,7 +44,7 @@ IconRow NewRow(const std::string& label, Catalog catalog, int id)
 RowsOutcome Added(const std::string& label, Catalog catalog, int id)
 {
     AppendRow(NewRow(label, catalog, id));
-    return { .node = label, .isDone = true };
+    return { .note = NoteOfOwner(IconTable.back()), .node = label, .isDone = true };
 }
 
 RowsOutcome AddLauncherIcon(const std::string& label)
@@ -91,7 +91,7 @@ std::string NoteOfSharedKeys(std::size_t firstNew)
         if (!IconTable[row].IconLabel.empty() && RowWithResource(IconTable[row].ResourceKey, row))
             for (const IconRow& other : IconTable)
                 if (other.ResourceKey == IconTable[row].ResourceKey)
-                    labels += (labels.empty() ? "\"" : ", \"") + other.IconLabel + "\"";
+                    labels += (labels.empty() ? "" : ", ") + Quoted(other.IconLabel);
     if (labels.empty())
         return {};
     return "There is no free resource ID. These icons have the same one, and so the same pictures: "
@@ -113,11 +113,17 @@ RowsOutcome ApplyAddIcons(std::span<const std::string> labels)
         const std::string before = std::exchange(outcome, AddIcon(label, ids)).node;
         if (!outcome.isDone) {
             outcome.node = before;
+            if (outcome.note.empty())
+                outcome.note = Quoted(label) + " could not be added.";
             break;
         }
     }
-    if (outcome.note.empty())
-        outcome.note = NoteOfSharedKeys(firstNew);
+    if (const std::string shared = NoteOfSharedKeys(firstNew); !shared.empty())
+        outcome.note += (outcome.note.empty() ? "" : " ") + shared;
+    if (outcome.isDone && outcome.node.empty())
+        outcome.note = "No icon was added: "
+            + std::string(labels.empty() ? "the list of icons to be added was empty."
+                                         : "the tree has them already.");
     if (outcome.isDone) {
         HighResPath.clear();
         LowResPath.clear();
@@ -135,7 +141,7 @@ RowsOutcome ApplyShareIcon(const AssignRequest& request)
         return Stopped(NotAddedText);
     const std::string label = LabelOf(request.entry, request.size);
     if (IsTaken(label))
-        return {};
+        return PassedOver(label);
     const Catalog catalog = FindEntry(Catalog::Apps, request.entry) ? Catalog::Apps : Catalog::Palm;
     if (!FindEntry(catalog, request.entry))
         return Stopped(NotInTreeText);

@@ -16,8 +16,9 @@ std::optional<RowsOutcome> Refusal(const AssignRequest& request)
         return Stopped(NotInTreeText);
     if (request.entry.empty())
         return Stopped(NotAddedText);
-    if (IsTaken(LabelOfEntry(request.catalog, request.size, request.entry)))
-        return RowsOutcome();
+    const std::string label = LabelOfEntry(request.catalog, request.size, request.entry);
+    if (IsTaken(label))
+        return PassedOver(label);
     if (request.catalog != Catalog::Launcher && !FindEntry(request.catalog, request.entry))
         return Stopped(NotInTreeText); // the catalog has lost it
     return std::nullopt;

@@ -7,14 +7,15 @@
 #include <string>
 
 /// How icons enter the open document and change hands. What is done is done to IconTable,
-/// BitmapTable, Tree and the working folder; IconsetChanged is set where anything changed. The
-/// caller shows message, note and node, and counts the icons anew.
+/// BitmapTable, Tree and the working folder; IconsetChanged is set where anything changed, and at
+/// the good end of ApplyAddIcons in any case. The caller shows message, note and node, and counts
+/// the icons anew.
 namespace vypx {
 
 /// How one of the routines ended.
 struct RowsOutcome {
     std::string message; ///< a box is to show it; the routine stopped there. Empty: none
-    std::string note;    ///< what else the user should know, in plain words (ASCII); may be empty
+    std::string note;    ///< what else the user should know, in plain words (UTF-8); may be empty
     std::string node;    ///< label of the node to be selected; empty: none is
     bool isDone = false; ///< the dialog is to be closed
 };

@@ -1,12 +1,15 @@
 #include "catalogs/RowParts.h"
 
 #include "catalogs/OwnerRules.h"
+#include "companion/Latin1.h"
 #include "companion/Numbers.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace vypx {
+
+std::string Quoted(std::string_view label) { return "\"" + Utf8FromLatin1(label) + "\""; }
 
 RowsOutcome Stopped(std::string_view message) { return { .message = std::string(message) }; }
 
@@ -24,10 +27,15 @@ const IconRow* RowWithResource(std::string_view resourceKey, std::optional<std::
     return nullptr;
 }
 
+RowsOutcome PassedOver(const std::string& label)
+{
+    return { .note = Quoted(label) + " is in the tree already." };
+}
+
 RowsOutcome StoppedBy(const IconRow& holder)
 {
     RowsOutcome outcome = Stopped(NotAssignedText);
-    outcome.note = "\"" + holder.IconLabel + "\" has " + holder.ResourceKey + " already.";
+    outcome.note = Quoted(holder.IconLabel) + " has " + holder.ResourceKey + " already.";
     return outcome;
 }
 
@@ -62,9 +70,9 @@ std::string NoteOfOwner(const IconRow& row)
 {
     if (!row.owner.IsKnown() || CanBeIndexed(row.ResourceKey))
         return {};
-    return "A saved iconset can't tie " + row.ResourceKey + " to \""
-        + std::string(NameInLabel(row.IconLabel))
-        + "\": only tAIB resources from 3500 to 9999 can have an application.";
+    return "A saved iconset can't tie " + row.ResourceKey + " to "
+        + Quoted(NameInLabel(row.IconLabel))
+        + ": only tAIB resources from 3500 to 9999 can have an application.";
 }
 
 } // namespace vypx

@@ -21,7 +21,12 @@ inline constexpr std::string_view NoIdLeftText =
 /// A name and one of the two suffixes: no label is shorter.
 inline constexpr std::size_t ShortestLabel = 14;
 
+/// A label in quotes, UTF-8.
+std::string Quoted(std::string_view label);
+
 RowsOutcome Stopped(std::string_view message);
+/// Nothing is done, as the tree has the label.
+RowsOutcome PassedOver(const std::string& label);
 
 /// Whether a row or a node of the tree, the root included, has that label.
 bool IsTaken(const std::string& label);

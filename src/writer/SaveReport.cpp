@@ -85,7 +85,7 @@ std::string NoteOf(const SaveReport& report)
     if (report.ownersFromRows > 0)
         AddSentence(note,
             Counted(report.ownersFromRows, "keeps its application", "keep their application")
-                + " as it was read: the catalogs do not name it any more.");
+                + " as it was: the catalogs do not name it any more.");
     if (report.withoutName)
         AddSentence(note, "The iconset has no Palm database name.");
     return note;

@@ -116,7 +116,7 @@ TEST_F(SaveReports, CountIconsWhoseApplicationTheCatalogNamesNoMore)
 
     EXPECT_EQ(told.orphans, 0);
     EXPECT_EQ(NoteOf(told),
-        "2 icons keep their application as it was read: the catalogs do not name it any more.");
+        "2 icons keep their application as it was: the catalogs do not name it any more.");
     EXPECT_THAT(Opened("APP"),
         UnorderedElementsAre("Alpha (Large Icon)", "Alpha (Small Icon)", "Beta (Large Icon)"));
 }
@@ -125,7 +125,7 @@ TEST_F(SaveReports, TellAllInOneText)
 {
     EXPECT_EQ(NoteOf({ .orphans = 1, .ownersFromRows = 1, .withoutName = true }),
         "1 icon will be an orphan when this file is opened: its index of applications does not "
-        "name it. 1 icon keeps its application as it was read: the catalogs do not name it any "
+        "name it. 1 icon keeps its application as it was: the catalogs do not name it any "
         "more. The iconset has no Palm database name.");
 }
 

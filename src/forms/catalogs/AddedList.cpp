@@ -32,6 +32,13 @@ void AddedList::RemoveSelected()
             RemoveRow(row);
 }
 
+void AddedList::RemoveIf(const std::function<bool(const std::string& label)>& isToGo)
+{
+    for (int row = count() - 1; row >= 0; --row)
+        if (isToGo(m_labels[static_cast<std::size_t>(row)]))
+            RemoveRow(row);
+}
+
 void AddedList::Remove(const QListWidgetItem& item) { RemoveRow(row(&item)); }
 
 void AddedList::Forget()

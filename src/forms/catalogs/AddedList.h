@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QListWidget>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,7 @@ public:
     /// At the end, unless it is there.
     void Add(const std::string& label);
     void RemoveSelected();
+    void RemoveIf(const std::function<bool(const std::string& label)>& isToGo);
     void Remove(const QListWidgetItem& item);
     void Forget();
 

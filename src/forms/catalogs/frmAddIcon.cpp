@@ -75,7 +75,7 @@ void frmAddIcon::Load()
     const Mode mode = !AddIconAssignMode ? Mode::Add
         : AddIconChangeMode              ? Mode::Change
                                          : Mode::Assign;
-    if (mode == m_mode)
+    if (mode == m_mode && mode == Mode::Add)
         return;
     m_mode = Mode::Closed; // nothing is filled meanwhile
     m_ui->ListAddedIcons->Forget();
@@ -110,6 +110,10 @@ void frmAddIcon::ShowAvailable(const PixelSize& highRes)
 {
     m_highRes = highRes;
     OfferSizes();
+    if (FileLoaded)
+        m_ui->ListAddedIcons->RemoveIf([](const std::string& label) {
+            return FindIconRow(label).has_value(); // added by a run that stopped later
+        });
     Fill();
 }
 
@@ -177,7 +181,15 @@ void frmAddIcon::EntryUsed(const QString& name)
     if (m_mode == Mode::Add)
         AddToList({ name });
     else
-        emit AssignAsked(Request());
+        AssignEntry(name);
+}
+
+/// The one that was clicked, though Ctrl may have taken its selection away.
+void frmAddIcon::AssignEntry(const QString& name)
+{
+    AssignRequest request = Request();
+    request.entry = ToLatin1(name);
+    emit AssignAsked(request);
 }
 
 void frmAddIcon::AddToList(const QStringList& names)

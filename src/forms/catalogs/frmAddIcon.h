@@ -24,8 +24,8 @@ public:
     explicit frmAddIcon(QWidget& form);
     ~frmAddIcon() override;
 
-    /// Brings the window into the mode that AddIconAssignMode and AddIconChangeMode say: Add,
-    /// Assign or Change. One that is in it already stays as it is.
+    /// Brings the window anew into the mode that AddIconAssignMode and AddIconChangeMode say: Add,
+    /// Assign or Change. One that adds and is to add stays as it is.
     void Load();
 
     /// Offers what there is by now: the icons, the catalogs or the selected icon may be others.
@@ -61,6 +61,7 @@ private:
     void cmdRmvIcon_Click();
     void cmdApplyNewIcon_Click();
     void EntryUsed(const QString& name);
+    void AssignEntry(const QString& name);
     void AddToList(const QStringList& names);
     void AddedChanged();
     bool TakesKey(const QObject& watched, const QKeyEvent& press);

@@ -118,8 +118,6 @@ void ImagePanel::ClearImage()
     HideColour();
 }
 
-QSize ImagePanel::PictureSize() const { return m_ui->picXX->size(); }
-
 void ImagePanel::ClearPicture()
 {
     m_ui->picXX->SetPicture({});

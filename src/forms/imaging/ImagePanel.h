@@ -43,8 +43,6 @@ public:
     /// The swatch and its text alone, whether they are in sight or not.
     void SetMaskColour(Rgb colour);
 
-    /// 0 x 0: no picture is on show.
-    QSize PictureSize() const;
     void ClearPicture();
     /// The picture and all that is told of it.
     void ClearImage();

@@ -6,23 +6,37 @@
 
 #include <QFileInfo>
 #include <algorithm>
+#include <optional>
 
 namespace vypx {
 
-QString SizeText(const std::string& path)
+namespace {
+
+/// Width and height fields of a BMP file; empty: the file is too short for them.
+std::optional<QSize> SizeFields(const std::string& path)
 {
     constexpr std::size_t WidthOffset = 18, HeightOffset = 22;
     const auto file = platform::ReadWholeFile(path);
     if (!file || file->size() < HeightOffset + 4)
-        return {};
+        return std::nullopt;
     const auto number = [&](std::size_t offset) {
         const std::uint8_t* const byte = file->data() + offset;
         return static_cast<std::int32_t>(static_cast<std::uint32_t>(byte[0])
             | static_cast<std::uint32_t>(byte[1]) << 8 | static_cast<std::uint32_t>(byte[2]) << 16
             | static_cast<std::uint32_t>(byte[3]) << 24);
     };
-    return QString("%1 x %2 pixels").arg(number(WidthOffset)).arg(number(HeightOffset));
+    return QSize(number(WidthOffset), number(HeightOffset));
 }
+
+} // namespace
+
+QString SizeText(const std::string& path)
+{
+    const std::optional<QSize> size = SizeFields(path);
+    return size ? QString("%1 x %2 pixels").arg(size->width()).arg(size->height()) : QString();
+}
+
+QSize PictureSize(const std::string& path) { return SizeFields(path).value_or(QSize(0, 0)); }
 
 QImage Masked(const QImage& picture, Rgb mask)
 {

@@ -3,6 +3,7 @@
 #include "companion/Picture.h"
 
 #include <QImage>
+#include <QSize>
 #include <QString>
 #include <cstdint>
 #include <string>
@@ -12,7 +13,10 @@ namespace vypx {
 /// A picture with more pixels takes so long that the program says so.
 inline constexpr std::int64_t ManyPixels = 2'000'000;
 
-/// Width and height fields of a BMP file as a text, "64 x 44 pixels"; empty for a file that is too
+/// Width and height fields of a BMP file; 0 x 0 for a file that is too short for them or not there.
+QSize PictureSize(const std::string& path);
+
+/// The same as a text, "64 x 44 pixels"; empty for a file that is too
 /// short for them.
 QString SizeText(const std::string& path);
 

@@ -3,6 +3,7 @@
 #include "document/Document.h"
 #include "forms/catalogs/frmAddIcon.h"
 #include "forms/common/Text.h"
+#include "forms/imaging/PictureFile.h"
 #include "forms/main/SettingsWindows.h"
 
 namespace vypx {
@@ -54,7 +55,8 @@ void AddIconCommands::OpenWindow()
     }
     m_window->Load();
     m_window->ShowAvailable(HighResOnShow());
-    m_window->setWindowState(m_window->windowState() & ~Qt::WindowMinimized);
+    m_window->setWindowState(
+        m_window->windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized));
     BringUp(*m_window);
 }
 
@@ -76,10 +78,12 @@ void AddIconCommands::DocumentChanged()
         m_window->ForgetAdded();
 }
 
+/// By the file, since the panel shows a picture that an undo brought back, or that a load was about
+/// to take away, only after the next click.
 PixelSize AddIconCommands::HighResOnShow() const
 {
-    const QSize size = m_view.panels[0]->PictureSize();
-    return HighResPath.empty() ? PixelSize() : PixelSize{ size.width(), size.height() };
+    const QSize size = PictureSize(HighResPath);
+    return { size.width(), size.height() };
 }
 
 /// Empty: none is, or the root.
@@ -91,7 +95,8 @@ std::string AddIconCommands::SelectedIcon() const
 
 void AddIconCommands::Add(const std::vector<std::string>& labels)
 {
-    Run([&] { return ApplyAddIcons(labels); },
+    // A copy: the window's list changes as soon as the icons are counted.
+    Run([labels] { return ApplyAddIcons(labels); },
         [this](const RowsOutcome&) {
             for (ImagePanel* panel : m_view.panels) {
                 panel->ClearImage();
@@ -135,7 +140,7 @@ void AddIconCommands::Run(const Work& work, const Finish& finish)
             m_icons.NodeClick(*node); // its paths were cleared
         }
         m_icons.UpdateIconStats();
-        m_view.notes.Tell(Notes::Kind::Rows, FromLatin1(outcome.note));
+        m_view.notes.Tell(Notes::Kind::Rows, QString::fromStdString(outcome.note));
         if (!outcome.message.empty())
             m_ask.Show(m_window, { .text = FromLatin1(outcome.message) });
         if (outcome.isDone && m_window)
@@ -146,7 +151,7 @@ void AddIconCommands::Run(const Work& work, const Finish& finish)
 /// Does all that a click on the node does. False: a tree without a root shows none.
 bool AddIconCommands::ShowNode(const std::string& node)
 {
-    m_icons.ShowTree();
+    m_view.tree.FillBelowRoot(Tree);
     QTreeWidgetItem* const item = m_view.tree.NodeOf(FromLatin1(node));
     if (!item)
         return false;

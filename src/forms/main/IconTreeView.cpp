@@ -126,6 +126,14 @@ void IconTreeView::Fill(const IconTree& tree)
     shown->setExpanded(true);
 }
 
+void IconTreeView::FillBelowRoot(const IconTree& tree)
+{
+    const QString text = Root() ? Root()->text(0) : QString();
+    Fill(tree);
+    if (Root() && !text.isEmpty())
+        Root()->setText(0, text);
+}
+
 void IconTreeView::Refresh(const IconTree& tree)
 {
     const bool blocked = blockSignals(true); // many nodes, one repaint

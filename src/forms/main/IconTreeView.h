@@ -21,6 +21,8 @@ public:
 
     /// Shows `tree`, all in one go, with the root expanded.
     void Fill(const IconTree& tree);
+    /// The same, where nodes were added or got other texts: a root that was edited keeps its text.
+    void FillBelowRoot(const IconTree& tree);
     /// Takes over the images and colours of nodes that are shown already.
     void Refresh(const IconTree& tree);
 

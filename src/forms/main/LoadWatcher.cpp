@@ -13,7 +13,7 @@ namespace {
 void RunPendingEvents() { QCoreApplication::processEvents(); }
 
 /// A text without the resource that it names: a broken file has it for each of its pictures.
-std::string KindOf(std::string_view text)
+std::string WithoutResource(std::string_view text)
 {
     constexpr std::string_view Following = " following ";
     return std::string(text.substr(0, text.find(Following)));
@@ -55,7 +55,7 @@ QString LoadWatcher::WhatWasNotShown() const
 
 void LoadWatcher::Message(std::string_view text)
 {
-    Told& told = m_told[KindOf(text)];
+    Told& told = m_told[WithoutResource(text)];
     told.last = text;
     if (++told.times <= MostBoxesOfOneText)
         m_ask.Show(&m_view.form, { .text = FromLatin1(text) });

@@ -155,11 +155,11 @@ void PictureCommands::RemoveAll(const vypx::Slot& slot)
             return;
         RemoveAllImages(slot);
         m_views.ShowAfterRemoval(slot);
-        m_icons.UpdateIconStats();
         ForgetPictureOnShow(slot);
         PanelOf(m_view.panels, slot).ClearImage();
         m_view.commands.Enable(slot.ofStored, false);
         m_view.commands.Enable(slot.ofUndo, false);
+        m_icons.UpdateIconStats(); // who listens may ask for the picture on show
     });
 }
 

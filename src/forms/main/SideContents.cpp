@@ -78,8 +78,8 @@ void SideContents::SelectNode(const QString& label)
     if (!node)
         return;
     m_tree.setFocus(); // a key that follows is meant for the icon
-    m_tree.setCurrentItem(node);
     m_tree.scrollToItem(node);
+    m_tree.setCurrentItem(node);
 }
 
 void SideContents::PaintPanels()

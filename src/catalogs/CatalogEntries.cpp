@@ -11,11 +11,30 @@ namespace vypx {
 
 namespace {
 
+/// Whether the section's first key is its only Type and the second its only Creator.
+bool IsInOrder(const IniText& text, const std::string& section)
+{
+    constexpr std::string_view Order[] = { "type", "creator" };
+    const std::vector<std::string> keys = text.KeyNames(section);
+    if (keys.size() < std::size(Order))
+        return false;
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        const std::string key = LowerCase(keys[i]);
+        if (i < std::size(Order) ? key != Order[i] : key == Order[0] || key == Order[1])
+            return false;
+    }
+    return true;
+}
+
 /// Type first: readers go by the keys' order. Braces keep blanks at either end of a Creator.
 bool SetEntry(IniText& text, const CatalogEntry& entry)
 {
+    const std::string creator = "{" + entry.creator + "}";
+    if (text.HasSection(entry.name) && !IsInOrder(text, entry.name))
+        return text.SetFirstValue(entry.name, "Creator", creator)
+            && text.SetFirstValue(entry.name, "Type", entry.type);
     return text.SetValue(entry.name, "Type", entry.type)
-        && text.SetValue(entry.name, "Creator", "{" + entry.creator + "}");
+        && text.SetValue(entry.name, "Creator", creator);
 }
 
 bool BackUp(const std::string& file, const IniText& text)

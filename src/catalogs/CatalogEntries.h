@@ -40,8 +40,9 @@ bool IsHidden(const std::string& file, const std::vector<CatalogRow>& table, std
 std::string StoredCreator(const std::string& file, const std::string& name);
 
 /// Takes entries out of a file and puts `added` in, all in one replacement of the file or nothing:
-/// then false. An entry of the name of `added` keeps its place and its other keys. Before more than
-/// one entry goes, the file is copied to one with ".bak" behind its name.
+/// then false. An entry of the name of `added` keeps its place and its other keys, which stand
+/// behind Type and Creator then. Before more than one entry goes, the file is copied to one with
+/// ".bak" behind its name.
 bool ChangeEntries(const std::string& file, std::span<const std::string> removed,
     const std::optional<CatalogEntry>& added);
 

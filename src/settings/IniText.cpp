@@ -36,6 +36,13 @@ std::string CleanName(std::string_view name) { return std::string(Trimmed(OneLin
 /// A name as it is looked up.
 std::string Folded(std::string_view name) { return LowerCase(CleanName(name)); }
 
+/// Whether a clean name of a key could be read back.
+bool CanBeKey(std::string_view name)
+{
+    return !name.empty() && name.find('=') == std::string_view::npos && name.front() != '['
+        && name.front() != ';' && !name.starts_with(ByteOrderMark);
+}
+
 std::string_view WithoutQuotes(std::string_view value)
 {
     const bool quoted = value.size() >= 2 && value.front() == value.back()
@@ -167,19 +174,23 @@ std::size_t IniText::EndOfSection(std::size_t header) const
     return line;
 }
 
+IniText::Section& IniText::FoundOrMade(std::string_view section)
+{
+    if (!HasSection(section)) {
+        Insert(m_lines.size(), "[" + CleanName(section) + "]");
+        m_sections[Folded(section)].header = m_lines.size() - 1;
+    }
+    return m_sections.at(Folded(section));
+}
+
 bool IniText::SetValue(std::string_view section, std::string_view key, std::string_view value)
 {
-    const std::string name = CleanName(key), sectionName = CleanName(section);
-    if (name.empty() || sectionName.empty() || name.find('=') != std::string::npos
-        || name.front() == '[' || name.front() == ';' || name.starts_with(ByteOrderMark))
+    const std::string name = CleanName(key);
+    if (CleanName(section).empty() || !CanBeKey(name))
         return false;
 
     const std::string text = OneLine(value);
-    if (!HasSection(section)) {
-        Insert(m_lines.size(), "[" + sectionName + "]");
-        m_sections[Folded(section)].header = m_lines.size() - 1;
-    }
-    Section& in = m_sections.at(Folded(section));
+    Section& in = FoundOrMade(section);
     if (const auto found = in.keys.find(Folded(key)); found != in.keys.end()) {
         Line& line = m_lines[found->second];
         line = Parsed(line.text.substr(0, line.valueOffset) + text, line.end);
@@ -193,6 +204,17 @@ bool IniText::SetValue(std::string_view section, std::string_view key, std::stri
         in.keys.emplace(Folded(key), at); // or each of many new entries would cost an index
     else
         Index();
+    return true;
+}
+
+bool IniText::SetFirstValue(std::string_view section, std::string_view key, std::string_view value)
+{
+    const std::string name = CleanName(key);
+    if (CleanName(section).empty() || !CanBeKey(name))
+        return false;
+    DeleteKey(section, key);
+    Insert(FoundOrMade(section).header + 1, name + "=" + OneLine(value));
+    Index();
     return true;
 }
 

@@ -39,6 +39,8 @@ public:
     /// in a name or a value becomes a blank. False, and nothing changed, for a name that could not
     /// be read back: an empty one, a key with "=" in it or "[" or ";" at its beginning.
     bool SetValue(std::string_view section, std::string_view key, std::string_view value);
+    /// The same, and the key stands right under the section's header, wherever it stood before.
+    bool SetFirstValue(std::string_view section, std::string_view key, std::string_view value);
     /// All keys and all sections of that name, a section with everything up to the next one.
     void DeleteKey(std::string_view section, std::string_view key);
     void DeleteSection(std::string_view section);
@@ -60,6 +62,7 @@ private:
     void Index();
     static Line Parsed(std::string_view text, std::string_view end);
     const Section* Find(std::string_view section) const;
+    Section& FoundOrMade(std::string_view section); ///< at the file's end
     /// Index of the line behind the section that begins at `header`.
     std::size_t EndOfSection(std::size_t header) const;
     void Insert(std::size_t at, std::string_view text);

@@ -207,6 +207,36 @@ TEST_F(AddSingleTest, TheSameNameUpToCaseKeepsItsPlaceAndItsOtherKeys)
     EXPECT_EQ(Apps(), "[MY APP]\nType=appl\nCreator={ABCD}\nNote=x\n" + Entry("Other", "OTHR"));
 }
 
+/// What the reader makes of the entry that a file overwrites.
+TEST_F(AddSingleTest, AnEntryThatIsOverwrittenIsReadBackHoweverItsKeysStood)
+{
+    for (const char* const keys :
+        { "Creator={OTHR}\nType=appl\n", "Note=x\nType=appl\nCreator={OTHR}\n",
+            "; mine\nType=appl\nNote=x\nCreator={OTHR}\n", "Type=appl\nType=panl\nCreator={OTHR}\n",
+            "Type=appl\nCreator={OTHR}\nNote=x\nCREATOR={AGIN}\n", "Type=appl\n",
+            "Creator={OTHR}\n", "Type=applications\nCreator={TOOLONG}\n", "" }) {
+        Catalogs(Entry("First", "FRST") + "[App]\n" + keys + Entry("Last", "LAST"), "");
+
+        EXPECT_TRUE(Add(PrcFile("App", "appl", "ABCD"))) << keys;
+
+        ReadTables();
+        ASSERT_EQ(AppTable.size(), 4u) << keys;
+        EXPECT_EQ(AppTable[2], (CatalogRow{ "App", "appl", "ABCD", "" })) << keys;
+        EXPECT_EQ(Apps().find("Note=x") != std::string::npos,
+            std::string(keys).find("Note=x") != std::string::npos)
+            << "what others wrote stays";
+    }
+}
+
+TEST_F(AddSingleTest, TypeAndCreatorComeBeforeTheKeysOfOthers)
+{
+    Catalogs("[App]\n; mine\nNote=x\nCreator={OTHR}\nType=appl\n" + Entry("Last", "LAST"), "");
+
+    Add(PrcFile("App", "appl", "ABCD"));
+
+    EXPECT_EQ(Apps(), Entry("App", "ABCD") + "; mine\nNote=x\n" + Entry("Last", "LAST"));
+}
+
 TEST_F(AddSingleTest, OnPurposeThePanelsEndingCountsForTheQuestion)
 {
     Catalogs(Entry("Panel", "PANL"), "");

@@ -191,6 +191,20 @@ TEST(IniText, ANewSectionIsThereAtOnceWithAllItsKeys)
     EXPECT_EQ(text.Value("B", "y"), "3");
 }
 
+TEST(IniText, AFirstValueStandsRightUnderItsHeader)
+{
+    IniText text("[A]\r\n; words\r\nx=1\r\ny=2\r\nY=3\r\n[B]");
+
+    EXPECT_TRUE(text.SetFirstValue("a", " y", "4\n5"));
+    EXPECT_TRUE(text.SetFirstValue("B", "z", "6"));
+    EXPECT_TRUE(text.SetFirstValue("C", "w", "7"));
+    EXPECT_FALSE(text.SetFirstValue("C", "=", "8"));
+    EXPECT_FALSE(text.SetFirstValue(" ", "x", "9"));
+
+    EXPECT_EQ(text.Bytes(), "[A]\r\ny=4 5\r\n; words\r\nx=1\r\n[B]\r\nz=6\r\n[C]\r\nw=7\r\n");
+    EXPECT_EQ(text.Value("A", "y"), "4 5");
+}
+
 TEST(IniText, NamesAreOneUpToCaseAndTheBlanksAroundThem)
 {
     EXPECT_TRUE(IniText::SameName(" My App", "MY app\t"));

@@ -109,21 +109,47 @@ private:
     std::shared_ptr<const IniText> m_file = ReadIni(AppListFile());
 };
 
-/// Writes what was judged to be new. Another program may have been faster with a name.
+/// A search's listener as the second stage sees it: the stop that ended the walk is used up, until
+/// it was taken back.
+class BehindTheWalk : public SearchListener {
+public:
+    BehindTheWalk(SearchListener& listener, const WalkEnd& walk)
+        : m_listener(listener)
+        , m_isUsedUp(walk.wasStopped && listener.StopAsked())
+    {
+    }
+
+    void Show(const CatalogBox& box) override { m_listener.Show(box); }
+    void RunEvents() override { m_listener.RunEvents(); }
+    bool StopAsked() override
+    {
+        const bool isAsked = m_listener.StopAsked();
+        m_isUsedUp = m_isUsedUp && isAsked;
+        return isAsked && !m_isUsedUp;
+    }
+    bool LeaveAsked() override { return m_listener.LeaveAsked(); }
+
+private:
+    SearchListener& m_listener;
+    bool m_isUsedUp;
+};
+
+PrcVerdict VerdictOf(EntryFate fate)
+{
+    return fate == EntryFate::Added    ? PrcVerdict::Added
+        : fate == EntryFate::KnownName ? PrcVerdict::KnownName
+                                       : PrcVerdict::KnownCreator;
+}
+
+/// Writes what was judged to be new. Another program may have been faster.
 void Write(std::span<const CatalogEntry> entries, AddEnd& end, SearchListener& listener)
 {
-    const auto isAdded = AddNewEntries(AppListFile(), entries);
-    end.couldWrite = isAdded.has_value();
+    const auto fates = AddNewEntries(AppListFile(), entries);
+    end.couldWrite = fates.has_value();
     std::size_t entry = 0;
-    for (JudgedPrc& file : end.files) {
-        if (file.verdict != PrcVerdict::Added)
-            continue;
-        if (!isAdded)
-            file.verdict = PrcVerdict::NotSaved;
-        else if (!isAdded->at(entry))
-            file.verdict = PrcVerdict::KnownName;
-        ++entry;
-    }
+    for (JudgedPrc& file : end.files)
+        if (file.verdict == PrcVerdict::Added)
+            file.verdict = fates ? VerdictOf(fates->at(entry++)) : PrcVerdict::NotSaved;
     if (!end.couldWrite)
         listener.Show(NotSavedBox());
 }
@@ -161,8 +187,10 @@ SearchEnd SearchAndAdd(SearchListener& listener)
 {
     listPRC.clear();
     SearchEnd end{ .walk = SearchPrcFiles(listener) };
-    if (ScanHasNew)
-        end.add = AddPrcFiles(listener);
+    if (!ScanHasNew || (end.walk.wasStopped && listener.LeaveAsked()))
+        return end;
+    BehindTheWalk second(listener, end.walk);
+    end.add = AddPrcFiles(second);
     return end;
 }
 

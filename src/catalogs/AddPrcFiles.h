@@ -47,8 +47,8 @@ struct AddEnd {
 /// read anew.
 AddEnd AddPrcFiles(SearchListener& listener);
 
-/// A whole search: both stages from an empty listPRC on, the second one if ScanHasNew. Then comes
-/// ReadAppIni.
+/// A whole search: both stages from an empty listPRC on, the second one if ScanHasNew. A stop amid
+/// the walk ends the walk alone. Then comes ReadAppIni.
 struct SearchEnd {
     WalkEnd walk;
     AddEnd add;

@@ -6,6 +6,7 @@
 #include "settings/LetterCase.h"
 
 #include <algorithm>
+#include <set>
 
 namespace vypx {
 
@@ -35,6 +36,33 @@ bool SetEntry(IniText& text, const CatalogEntry& entry)
             && text.SetFirstValue(entry.name, "Type", entry.type);
     return text.SetValue(entry.name, "Type", entry.type)
         && text.SetValue(entry.name, "Creator", creator);
+}
+
+/// What a reader puts in a row's column of the Creator: the value of the section's second key.
+std::string SecondColumn(const IniText& text, const std::string& section)
+{
+    const std::vector<std::string> keys = text.KeyNames(section);
+    if (keys.size() < 2)
+        return {};
+    const std::string key = LowerCase(keys[1]);
+    const std::string_view value = text.Value(section, key).value_or("");
+    return key == "creator" ? CreatorOfValue(value) : key == "type" ? std::string(value) : "";
+}
+
+std::set<std::string> CreatorsIn(const IniText& text)
+{
+    std::set<std::string> creators;
+    for (const std::string& section : text.SectionNames())
+        creators.insert(SecondColumn(text, section));
+    return creators;
+}
+
+EntryFate FateOf(
+    const CatalogEntry& entry, const IniText& text, const std::set<std::string>& creators)
+{
+    if (creators.contains(entry.creator))
+        return EntryFate::KnownCreator;
+    return text.HasSection(entry.name) ? EntryFate::KnownName : EntryFate::Added;
 }
 
 bool BackUp(const std::string& file, const IniText& text)
@@ -79,6 +107,19 @@ bool IsHidden(const std::string& file, const std::vector<CatalogRow>& table, std
     return !isShown && ReadIni(file)->HasSection(name);
 }
 
+std::string CreatorOfValue(std::string_view value)
+{
+    constexpr std::size_t Letters = 4, WithBraces = 6;
+    if (value.size() == WithBraces)
+        return std::string(value.substr(1, Letters));
+    if (value.empty())
+        return "XXXX";
+    std::string creator(value.size() > Letters ? std::string_view() : value);
+    if (!creator.empty())
+        creator.resize(Letters, ' ');
+    return creator;
+}
+
 std::string StoredCreator(const std::string& file, const std::string& name)
 {
     constexpr std::size_t Letters = 4;
@@ -103,22 +144,29 @@ bool ChangeEntries(const std::string& file, std::span<const std::string> removed
     });
 }
 
-std::optional<std::vector<bool>> AddNewEntries(
+std::optional<std::vector<EntryFate>> AddNewEntries(
     const std::string& file, std::span<const CatalogEntry> entries)
 {
-    std::vector<bool> isAdded;
+    std::vector<EntryFate> fates;
     if (entries.empty())
-        return isAdded;
+        return fates;
+    bool isAnyAdded = false, isFit = true;
     const bool isWritten = EditIni(file, [&](IniText& text) {
-        for (const CatalogEntry& entry : entries)
-            isAdded.push_back(!text.HasSection(entry.name) && SetEntry(text, entry));
-        return std::find(isAdded.begin(), isAdded.end(), true) != isAdded.end();
+        std::set<std::string> creators = CreatorsIn(text);
+        for (const CatalogEntry& entry : entries) {
+            fates.push_back(FateOf(entry, text, creators));
+            if (fates.back() != EntryFate::Added)
+                continue;
+            isAnyAdded = true;
+            isFit = isFit && SetEntry(text, entry);
+            creators.insert(entry.creator);
+        }
+        return isFit && isAnyAdded;
     });
-    const bool isNothingNew = isAdded.size() == entries.size()
-        && std::find(isAdded.begin(), isAdded.end(), true) == isAdded.end();
+    const bool isNothingNew = fates.size() == entries.size() && !isAnyAdded;
     if (!isWritten && !isNothingNew)
         return std::nullopt;
-    return isAdded;
+    return fates;
 }
 
 } // namespace vypx

@@ -35,6 +35,10 @@ const CatalogRow* FindCreator(const std::vector<CatalogRow>& table, std::string_
 /// Whether the file has an entry of that name that the table, read from it, does not show.
 bool IsHidden(const std::string& file, const std::vector<CatalogRow>& table, std::string_view name);
 
+/// The Creator that a stored value stands for. On purpose: only the length is looked at, and one of
+/// 5 or beyond 6 silently gives nothing.
+std::string CreatorOfValue(std::string_view value);
+
 /// The four characters behind the first one of the entry's stored Creator.
 /// On purpose: without its brace one stored as "ABCD" gives "BCD".
 std::string StoredCreator(const std::string& file, const std::string& name);
@@ -46,10 +50,13 @@ std::string StoredCreator(const std::string& file, const std::string& name);
 bool ChangeEntries(const std::string& file, std::span<const std::string> removed,
     const std::optional<CatalogEntry>& added);
 
-/// Adds entries at the file's end, in one replacement, and says of each whether it was added: one
-/// whose name the file has already, up to case, is not. Empty: the file can't be written, and is as
-/// it was.
-std::optional<std::vector<bool>> AddNewEntries(
+/// What became of an entry that was to be added.
+enum class EntryFate { Added, KnownName, KnownCreator };
+
+/// Adds entries at the file's end, in one replacement, and says of each what became of it: one
+/// whose name (up to case) or Creator the file has already is not added, be it from another program
+/// just now. Empty: the file can't be written, and is as it was.
+std::optional<std::vector<EntryFate>> AddNewEntries(
     const std::string& file, std::span<const CatalogEntry> entries);
 
 } // namespace vypx

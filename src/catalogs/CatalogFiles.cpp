@@ -1,5 +1,6 @@
 #include "catalogs/CatalogFiles.h"
 
+#include "catalogs/CatalogEntries.h"
 #include "document/Catalogs.h"
 #include "document/WorkingFolder.h"
 #include "platform/Platform.h"
@@ -53,22 +54,16 @@ std::string& CellOf(CatalogRow& row, std::size_t column, std::size_t lastColumn)
 }
 
 /// The Creator that a value stands for; writes a repaired one back to where `ini` stands.
-/// On purpose: only the length is looked at, and one of 5 or beyond 6 silently gives nothing.
 std::string CreatorOf(
     const std::string& value, cInifile& ini, const OwnerFile& file, const ShowMessage& show)
 {
-    constexpr std::size_t Letters = 4, WithBraces = 6;
-    if (value.size() == WithBraces)
-        return value.substr(1, Letters);
+    constexpr std::size_t Letters = 4;
+    const std::string creator = CreatorOfValue(value);
     if (value.size() > Letters)
-        return {};
-    std::string creator = value;
-    creator.resize(Letters, ' ');
-    if (value.empty()) {
-        creator = "XXXX";
+        return creator;
+    if (value.empty())
         show(std::string(file.corrupt) + ini.Section()
             + ".\nA Creator ID or XXXX has been assigned to it.");
-    }
     ini.Value("{" + creator + "}");
     return creator;
 }

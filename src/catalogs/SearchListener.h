@@ -22,9 +22,12 @@ public:
     /// Time to let pending events run.
     virtual void RunEvents() { }
     /// Whether the search is to stop; asked after each RunEvents. It ends the stage that runs: what
-    /// the walk has found is still gone through, and what is new so far is still added. A listener
-    /// that goes on saying true ends the second stage at its first step.
+    /// the walk has found is still gone through, and what is new so far is still added. A stop amid
+    /// the walk may stand on: the second stage takes only a later one for its own.
     virtual bool StopAsked() { return false; }
+    /// Whether the search is to end altogether, asked beside StopAsked: nothing more is gone
+    /// through, and what is new so far is still added.
+    virtual bool LeaveAsked() { return false; }
 };
 
 /// Runs a listener's events in the steps of long work: at the first one, and then not before a
@@ -48,7 +51,7 @@ public:
         m_isUnderWay = true;
         m_listener.RunEvents();
         m_last = m_clock(); // the pause begins when the events are done
-        return !m_listener.StopAsked();
+        return !m_listener.StopAsked() && !m_listener.LeaveAsked();
     }
 
 private:

@@ -129,23 +129,54 @@ TEST_F(AddPrcFilesTest, NothingNewIsNoFailureWhereNothingCanBeWritten)
     EXPECT_THAT(listener.texts, IsEmpty());
 }
 
-TEST_F(AddPrcFilesTest, AnotherProgramsEntryOfTheSameNameStays)
+/// Once the files were compared with the catalog, another program adds to it.
+TEST_F(AddPrcFilesTest, WhatAnotherProgramAddsMeanwhileIsNotAddedAgain)
 {
     Put("1.prc", PrcFile("One", "appl", "AAAA"));
     Put("2.prc", PrcFile("Two", "appl", "BBBB"));
+    Put("3.prc", PrcFile("Three", "appl", "CCCC"));
     AllowFolderSearch();
     SearchPrcFiles(listener);
-    int turns = 0;
-    listener.events = [&] {
-        if (turns++ == 0) // once the files were compared with
-            WriteText(AppListFile(), Entry("ONE", "OTHR"));
-    };
+    const std::string others = Entry("ONE", "OTHR") + Entry("Second", "CCCC");
+    listener.events = [&] { WriteText(AppListFile(), others); };
 
     const AddEnd end = AddPrcFiles(listener);
 
     EXPECT_EQ(end.files[0].verdict, PrcVerdict::KnownName);
     EXPECT_EQ(end.files[1].verdict, PrcVerdict::Added);
-    EXPECT_EQ(Apps(), Entry("ONE", "OTHR") + Entry("Two", "BBBB"));
+    EXPECT_EQ(end.files[2].verdict, PrcVerdict::KnownCreator);
+    EXPECT_EQ(Apps(), others + Entry("Two", "BBBB"));
+}
+
+/// Two copies that search the same files: the tables of each are from before.
+TEST_F(AddPrcFilesTest, OfTwoSearchesAtOnceOneAdds)
+{
+    Put("1.prc", PrcFile("One", "appl", "AAAA"));
+    Put("2.prc", PrcFile("Two", "appl", "BBBB"));
+    AllowFolderSearch();
+    SearchPrcFiles(listener);
+    listener.events = [&] {
+        RecordingSearch other;
+        AddPrcFiles(other);
+    };
+
+    const AddEnd end = AddPrcFiles(listener);
+
+    EXPECT_EQ(end.files[0].verdict, PrcVerdict::KnownCreator);
+    EXPECT_EQ(end.files[1].verdict, PrcVerdict::KnownCreator);
+    EXPECT_TRUE(end.couldWrite);
+    EXPECT_THAT(listener.texts, IsEmpty());
+    EXPECT_EQ(Apps(), Entry("One", "AAAA") + Entry("Two", "BBBB"));
+}
+
+TEST_F(AddPrcFilesTest, OnPurposeACreatorBeforeItsTypeIsStillNotKnown)
+{
+    const std::string apps = "[Odd]\nCreator={AAAA}\nType=appl\n";
+    Catalogs(apps, "");
+
+    EXPECT_EQ(JudgedAs(PrcFile("One", "appl", "AAAA")).verdict, PrcVerdict::Added);
+
+    EXPECT_EQ(Apps(), apps + Entry("One", "AAAA"));
 }
 
 TEST_F(AddPrcFilesTest, AStopAddsWhatWasFoundToBeNewSoFar)

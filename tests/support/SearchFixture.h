@@ -19,7 +19,7 @@ public:
     std::vector<CatalogBox> boxes;
     std::vector<std::string> found; ///< and "(end)" where the walk ended
     std::function<void()> events = [] {};
-    bool stops = false;
+    bool stops = false, leaves = false;
 
     void Show(const CatalogBox& box) override
     {
@@ -30,6 +30,7 @@ public:
     void WalkEnded() override { found.emplace_back("(end)"); }
     void RunEvents() override { events(); }
     bool StopAsked() override { return stops; }
+    bool LeaveAsked() override { return leaves; }
 };
 
 /// Catalogs in the program's folder, and a folder "palm" to search.

@@ -65,9 +65,8 @@ EntryFate FateOf(
     return text.HasSection(entry.name) ? EntryFate::KnownName : EntryFate::Added;
 }
 
-bool BackUp(const std::string& file, const IniText& text)
+bool BackUp(const std::string& file, const std::string& bytes)
 {
-    const std::string bytes = text.Bytes();
     const auto* const data = reinterpret_cast<const std::uint8_t*>(bytes.data());
     return !platform::ReplaceFile(file + ".bak", std::span(data, bytes.size()), file);
 }
@@ -135,11 +134,12 @@ bool ChangeEntries(const std::string& file, std::span<const std::string> removed
     const std::optional<CatalogEntry>& added)
 {
     return EditIni(file, [&](IniText& text) {
-        const auto isThere = [&](const std::string& name) { return text.HasSection(name); };
-        if (std::count_if(removed.begin(), removed.end(), isThere) > 1 && !BackUp(file, text))
-            return false;
+        const std::string before = text.Bytes();
+        std::size_t gone = 0; // a name may stand more than once
         for (const std::string& name : removed)
-            text.DeleteSection(name);
+            gone += text.DeleteSection(name);
+        if (gone > 1 && !BackUp(file, before))
+            return false;
         return !added || SetEntry(text, *added);
     });
 }

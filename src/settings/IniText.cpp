@@ -160,7 +160,8 @@ std::vector<std::string> IniText::KeyNames(std::string_view section) const
     const Section* const in = Find(section);
     if (!in)
         return names;
-    for (std::size_t i = in->header + 1; i < EndOfSection(in->header); ++i)
+    const std::size_t end = EndOfSection(in->header); // a long section would cost its square
+    for (std::size_t i = in->header + 1; i < end; ++i)
         if (m_lines[i].kind == Kind::Key)
             names.push_back(m_lines[i].name);
     return names;
@@ -181,6 +182,17 @@ IniText::Section& IniText::FoundOrMade(std::string_view section)
         m_sections[Folded(section)].header = m_lines.size() - 1;
     }
     return m_sections.at(Folded(section));
+}
+
+std::size_t IniText::EndOfKeys(std::size_t header) const
+{
+    const std::size_t section = EndOfSection(header);
+    std::size_t end = section;
+    while (end > header + 1 && m_lines[end - 1].kind != Kind::Key)
+        --end;
+    while (end < section && Trimmed(m_lines[end].text).empty())
+        ++end;
+    return end;
 }
 
 bool IniText::SetValue(std::string_view section, std::string_view key, std::string_view value)
@@ -233,16 +245,22 @@ void IniText::DeleteKey(std::string_view section, std::string_view key)
     Index();
 }
 
-void IniText::DeleteSection(std::string_view section)
+std::size_t IniText::DeleteSection(std::string_view section)
 {
     const std::string name = Folded(section);
-    bool inside = false;
-    std::erase_if(m_lines, [&](const Line& line) {
-        if (line.kind == Kind::Section)
-            inside = Folded(line.name) == name;
-        return inside;
-    });
+    std::size_t deleted = 0;
+    std::vector<Line> kept;
+    for (std::size_t i = 0; i < m_lines.size(); ++i) {
+        if (m_lines[i].kind == Kind::Section && Folded(m_lines[i].name) == name) {
+            ++deleted;
+            i = EndOfKeys(i) - 1;
+        } else {
+            kept.push_back(std::move(m_lines[i]));
+        }
+    }
+    m_lines = std::move(kept);
     Index();
+    return deleted;
 }
 
 void IniText::Insert(std::size_t at, std::string_view text)

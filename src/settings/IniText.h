@@ -41,9 +41,11 @@ public:
     bool SetValue(std::string_view section, std::string_view key, std::string_view value);
     /// The same, and the key stands right under the section's header, wherever it stood before.
     bool SetFirstValue(std::string_view section, std::string_view key, std::string_view value);
-    /// All keys and all sections of that name, a section with everything up to the next one.
+    /// All keys of that name.
     void DeleteKey(std::string_view section, std::string_view key);
-    void DeleteSection(std::string_view section);
+    /// All sections of that name, each up to its last key and the blank lines behind that: a
+    /// comment further down may belong to the next section. How many there were.
+    std::size_t DeleteSection(std::string_view section);
 
 private:
     enum class Kind { Other, Section, Key };
@@ -65,6 +67,8 @@ private:
     Section& FoundOrMade(std::string_view section); ///< at the file's end
     /// Index of the line behind the section that begins at `header`.
     std::size_t EndOfSection(std::size_t header) const;
+    /// The same without what stands behind its last key, blank lines excepted.
+    std::size_t EndOfKeys(std::size_t header) const;
     void Insert(std::size_t at, std::string_view text);
     std::string NewLineEnd() const;
 

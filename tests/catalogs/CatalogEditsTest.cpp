@@ -49,6 +49,40 @@ TEST_F(CatalogEditsTest, DeletesPalmItemsFromTheirOwnFile)
     EXPECT_FALSE(NamedFileExists(PalmAppFile() + ".bak")) << "one entry leaves no backup";
 }
 
+TEST_F(CatalogEditsTest, OneNameThatStandsTwiceLeavesABackup)
+{
+    const std::string apps = Entry("Foo", "1111") + Entry("Bar", "2222") + Entry("foo", "3333");
+    Catalogs(apps, "");
+
+    DeleteApplications(Names{ "Foo" }, show);
+
+    EXPECT_EQ(Apps(), Entry("Bar", "2222"));
+    EXPECT_EQ(ReadText(AppListFile() + ".bak"), apps);
+}
+
+TEST_F(CatalogEditsTest, SeveralPalmItemsLeaveABackupOfTheirFile)
+{
+    const std::string palm = Entry("Palm One", "1111") + Entry("Palm Two", "2222");
+    Catalogs("", palm);
+
+    DeletePalmItems(Names{ "Palm One", "Palm Two", "Palm Two" }, show);
+
+    EXPECT_EQ(PalmItems(), "");
+    EXPECT_EQ(ReadText(PalmAppFile() + ".bak"), palm);
+    EXPECT_FALSE(NamedFileExists(AppListFile() + ".bak"));
+}
+
+TEST_F(CatalogEditsTest, CommentsOfOtherEntriesStay)
+{
+    Catalogs("; mine\n" + Entry("One", "1111") + "\n; about Two\n" + Entry("Two", "2222")
+            + Entry("Three", "3333") + "; the end\n",
+        "");
+
+    DeleteApplications(Names{ "One", "Three" }, show);
+
+    EXPECT_EQ(Apps(), "; mine\n; about Two\n" + Entry("Two", "2222") + "; the end\n");
+}
+
 TEST_F(CatalogEditsTest, NamesThatAreNotThereAreNoFailureAndNoReasonForABackup)
 {
     Catalogs(Entry("One", "1111"), "");

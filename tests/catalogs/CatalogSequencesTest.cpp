@@ -33,6 +33,10 @@ protected:
     static constexpr const char* Head = "; mine\r\n\r\n";
     static constexpr const char* Kept = "[Kept]\r\nType=appl\r\n; a comment\r\nCreator={KEPT}\r\n"
                                         "Note = \"x\" \r\nno key\r\n\r\n";
+    static constexpr const char* Between = "; about Kept\r\n";
+    static constexpr const char* End = "; end\r\n";
+
+    ~CatalogSequences() override { FileLoaded = false; }
 
     void Begin()
     {
@@ -45,7 +49,8 @@ protected:
 
     static std::string Before()
     {
-        return Head + Entry("Palm First", "FRST") + Kept + Entry("Palm Last", "LAST");
+        return Head + Entry("Palm First", "FRST") + Between + Kept + Entry("Palm Last", "LAST")
+            + End;
     }
 
     void AnyEdit()
@@ -99,7 +104,10 @@ protected:
     {
         RC_ASSERT(Apps().starts_with(Before()));
         RC_ASSERT(PalmItems().starts_with(Head));
-        RC_ASSERT(PalmItems().find(Kept) != std::string::npos);
+        const std::string items = PalmItems();
+        const std::size_t kept = items.find(std::string(Between) + Kept);
+        RC_ASSERT(kept != std::string::npos);
+        RC_ASSERT(items.find(End, kept) != std::string::npos);
     }
     /// Every section is a row with its own type and Creator, and no name stands twice.
     static void RequireWholeRows(const std::vector<CatalogRow>& table)
@@ -124,7 +132,6 @@ RC_GTEST_FIXTURE_PROP(CatalogSequences, AreReadBackWholeAndKeepWhatOthersWrote, 
         RequireWholeRows(AppTable);
         RequireWholeRows(PalmTable);
     }
-    FileLoaded = false;
 }
 
 } // namespace

@@ -222,6 +222,37 @@ TEST(IniText, DeletingTakesAllOfAName)
     EXPECT_EQ(text.Bytes(), "[B]\n");
 }
 
+TEST(IniText, ADeletedSectionLeavesTheCommentsBehindItsLastKey)
+{
+    IniText text("[A]\n; in A\nx=1\n\n; about B\n\n[B]\ny=1\n[C]\n; about D\n[D]\nz=1\n \n"
+                 "words\n; end");
+
+    EXPECT_EQ(text.DeleteSection("A"), 1u);
+    EXPECT_EQ(text.Bytes(), "; about B\n\n[B]\ny=1\n[C]\n; about D\n[D]\nz=1\n \nwords\n; end");
+    text.DeleteSection("C");
+    text.DeleteSection("D");
+    EXPECT_EQ(text.Bytes(), "; about B\n\n[B]\ny=1\n; about D\nwords\n; end");
+    EXPECT_EQ(text.DeleteSection("D"), 0u);
+}
+
+TEST(IniText, ASectionIsGoneWithAllOfItsName)
+{
+    IniText text("[A]\nx=1\n[a]\n[B]\n[ A ]\n");
+
+    EXPECT_EQ(text.DeleteSection("A"), 3u);
+    EXPECT_EQ(text.Bytes(), "[B]\n");
+}
+
+/// Its square would be hours.
+TEST(IniText, ASectionMayHaveAMillionLines)
+{
+    std::string bytes = "[A]\n";
+    for (int i = 0; i < 1'000'000; ++i)
+        bytes += ";\n";
+
+    EXPECT_THAT(IniText(bytes + "x=1\n").KeyNames("A"), ElementsAre("x"));
+}
+
 TEST(IniText, DeletingWhatIsNotThereChangesNothing)
 {
     const std::string bytes = "top\n[A]\nx=1\n;x=2\n";

@@ -315,13 +315,13 @@ TEST_F(Inifile, DeletesAKey)
 
 TEST_F(Inifile, DeletesASectionWithAllItsKeys)
 {
-    WriteText(file, "[A]\nx=1\n[B]\ny=2\n; words\n[C]\nz=3\n");
+    WriteText(file, "[A]\nx=1\n[B]\n; in B\ny=2\n; about C\n[C]\nz=3\n");
 
     ini.Section("b");
     ini.DeleteSection();
 
     EXPECT_TRUE(ini.Success());
-    EXPECT_EQ(ReadText(file), "[A]\nx=1\n[C]\nz=3\n");
+    EXPECT_EQ(ReadText(file), "[A]\nx=1\n; about C\n[C]\nz=3\n");
 }
 
 TEST_F(Inifile, OnPurposeSettingINISectionDeletesTheSection)

@@ -53,7 +53,9 @@ private:
     void Enter()
     {
         auto listing = platform::ListFolder(
-            m_path, [&](platform::FolderId id) { return m_visited.insert(id).second; });
+            m_path, [&](platform::FolderId id) { return m_visited.insert(id).second; },
+            [&] { return m_pace.Step(); });
+        m_end.wasStopped = listing.wasStopped;
         if (!listing.isWhole)
             m_end.unreadable.push_back(m_path);
         for (FolderEntry& entry : listing.entries)
@@ -80,7 +82,7 @@ private:
             m_path += entry.name;
             Enter();
         }
-        m_end.wasStopped = !m_pace.Step();
+        m_end.wasStopped = m_end.wasStopped || !m_pace.Step();
     }
 
     void LookAt(const std::string& name)
@@ -131,11 +133,13 @@ void GetDesktopPath(SearchListener& listener)
     GetDesktopPath(listener, platform::UserRegistryValues(DesktopKey));
 }
 
-void AllowFolderSearch()
+void AllowFolderSearch(const std::optional<platform::RegistryValues>& key)
 {
-    if (!platform::UserRegistryValues(DesktopKey))
+    if (!key)
         ScanHasNew = true;
 }
+
+void AllowFolderSearch() { AllowFolderSearch(platform::UserRegistryValues(DesktopKey)); }
 
 WalkEnd SearchPrcFiles(SearchListener& listener)
 {

@@ -44,8 +44,9 @@ void GetDesktopPath(SearchListener& listener);
 void GetDesktopPath(SearchListener& listener, const std::optional<platform::RegistryValues>& key);
 
 /// What a search in a folder finds is always added; where the Palm Desktop's key is, on purpose,
-/// only after an automatic search has found values in it.
+/// only after an automatic search has found values in it. `key` is for tests.
 void AllowFolderSearch();
+void AllowFolderSearch(const std::optional<platform::RegistryValues>& key);
 
 /// Walks the folder `root`, which ends in a separator, and all below it but those whose names begin
 /// with a full stop. Each is visited once, by the first path that leads to it in the order of the

@@ -27,10 +27,17 @@ struct FolderEntry {
 struct FolderListing {
     std::vector<FolderEntry> entries; ///< in no order, without "." and ".."
     bool isWhole = false;             ///< false: the folder, or the rest of it, can't be read
+    bool wasStopped = false;          ///< by `goOn`; it is whole as far as it was read
 };
 
+/// How many entries are listed between two questions whether to go on.
+inline constexpr std::size_t EntriesOfAStep = 256;
+
 /// What a folder holds. `wanted` is asked before it is read: after a false it is whole and empty.
-FolderListing ListFolder(const std::string& path, const std::function<bool(FolderId)>& wanted);
+/// `goOn` is asked behind every EntriesOfAStep entries.
+FolderListing ListFolder(
+    const std::string& path, const std::function<bool(FolderId)>& wanted,
+    const std::function<bool()>& goOn = [] { return true; });
 
 /// The first bytes of a regular file, `most` of them or as many as it has; empty when it is none or
 /// can't be read. Folders, pipes and devices are not even opened.

@@ -74,7 +74,8 @@ bool IsFolder(int folder, const dirent& entry)
 
 } // namespace
 
-FolderListing ListFolder(const std::string& path, const std::function<bool(FolderId)>& wanted)
+FolderListing ListFolder(const std::string& path, const std::function<bool(FolderId)>& wanted,
+    const std::function<bool()>& goOn)
 {
     const int file = Reach(path).Open(O_DIRECTORY);
     struct stat status { };
@@ -83,19 +84,20 @@ FolderListing ListFolder(const std::string& path, const std::function<bool(Folde
             ::close(file);
         return {};
     }
-    FolderListing listing{ .isWhole = true };
-    DIR* const folder = wanted({ static_cast<std::uint64_t>(status.st_dev),
-                            static_cast<std::uint64_t>(status.st_ino) })
-        ? ::fdopendir(file)
-        : nullptr;
+    const bool isWanted = wanted(
+        { static_cast<std::uint64_t>(status.st_dev), static_cast<std::uint64_t>(status.st_ino) });
+    DIR* const folder = isWanted ? ::fdopendir(file) : nullptr;
     if (!folder) {
         ::close(file);
-        return listing;
+        return { .entries = {}, .isWhole = !isWanted };
     }
+    FolderListing listing;
     errno = 0;
-    while (const dirent* const entry = ::readdir(folder)) {
-        if (!IsDots(entry->d_name))
+    while (const dirent* const entry = listing.wasStopped ? nullptr : ::readdir(folder)) {
+        if (!IsDots(entry->d_name)) {
             listing.entries.push_back({ entry->d_name, IsFolder(file, *entry) });
+            listing.wasStopped = listing.entries.size() % EntriesOfAStep == 0 && !goOn();
+        }
         errno = 0;
     }
     listing.isWhole = errno == 0;

@@ -2,6 +2,7 @@
 
 #include "platform/Folders.h"
 #include "platform/Platform.h"
+#include "platform/WideText.h"
 
 #include <filesystem>
 #include <fstream>
@@ -10,7 +11,8 @@ namespace vypx::platform {
 
 namespace fs = std::filesystem;
 
-FolderListing ListFolder(const std::string& path, const std::function<bool(FolderId)>& wanted)
+FolderListing ListFolder(const std::string& path, const std::function<bool(FolderId)>& wanted,
+    const std::function<bool()>& goOn)
 {
     const std::optional<FileIdentity> identity = IdentityOf(path);
     if (!identity)
@@ -19,11 +21,13 @@ FolderListing ListFolder(const std::string& path, const std::function<bool(Folde
     if (!wanted({ identity->volume, identity->file }))
         return listing;
     std::error_code error;
-    for (fs::directory_iterator entry(NativePath(path), error), end; !error && entry != end;
-         entry.increment(error)) {
+    for (fs::directory_iterator entry(NativePath(path), error), end;
+         !error && entry != end && !listing.wasStopped; entry.increment(error)) {
         std::error_code unknown;
         listing.entries.push_back(
-            { Utf8Path(entry->path().filename()), entry->is_directory(unknown) });
+            { Utf8FromWide(std::wstring_view(entry->path().filename().native())),
+                entry->is_directory(unknown) });
+        listing.wasStopped = listing.entries.size() % EntriesOfAStep == 0 && !goOn();
     }
     listing.isWhole = !error;
     return listing;

@@ -3,6 +3,7 @@
 #ifdef _WIN32
 
 #include "platform/Platform.h"
+#include "platform/WideText.h"
 
 #include <algorithm>
 #include <array>
@@ -21,8 +22,11 @@ constexpr DWORD Buffer = 255; // characters, each terminator among them
 /// A text of UTF-16 as it lies in memory, up to its terminator.
 std::string Utf8(const wchar_t* text, std::size_t most)
 {
-    return Utf8Path(std::wstring(text, std::find(text, text + most, L'\0')));
+    const wchar_t* const end = std::find(text, text + most, L'\0');
+    return Utf8FromWide(std::wstring_view(text, static_cast<std::size_t>(end - text)));
 }
+
+bool IsText(DWORD type) { return type == REG_SZ || type == REG_EXPAND_SZ; }
 
 } // namespace
 
@@ -35,12 +39,13 @@ std::optional<RegistryValues> UserRegistryValues(const std::string& key)
     RegistryValues found;
     for (DWORD i = 0;; ++i) {
         std::array<wchar_t, Buffer> name{}, data{};
-        DWORD nameLength = Buffer, dataBytes = sizeof data;
-        const LSTATUS status = ::RegEnumValueW(open, i, name.data(), &nameLength, nullptr, nullptr,
+        DWORD nameLength = Buffer, dataBytes = sizeof data, type = REG_NONE;
+        const LSTATUS status = ::RegEnumValueW(open, i, name.data(), &nameLength, nullptr, &type,
             reinterpret_cast<BYTE*>(data.data()), &dataBytes);
         if (status == ERROR_SUCCESS) {
-            found.values.push_back({ Utf8(name.data(), nameLength),
-                Utf8(data.data(), std::min<std::size_t>(dataBytes / sizeof(wchar_t), Buffer)) });
+            const std::size_t letters =
+                IsText(type) ? std::min<std::size_t>(dataBytes / sizeof(wchar_t), Buffer) : 0;
+            found.values.push_back({ Utf8(name.data(), nameLength), Utf8(data.data(), letters) });
             continue;
         }
         if (status == ERROR_NO_MORE_ITEMS)

@@ -7,7 +7,7 @@
 namespace vypx::platform {
 
 struct RegistryValue {
-    std::string name, data; ///< UTF-8; data without its terminator
+    std::string name, data; ///< UTF-8; data without its terminator, empty when it is no text
 };
 
 struct RegistryValues {

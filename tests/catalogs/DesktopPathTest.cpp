@@ -46,6 +46,35 @@ TEST_F(DesktopPath, WithoutKeyAndSettingNothingIsDoneOrSaid)
     }
 }
 
+TEST_F(DesktopPath, WhatTheSettingsFolderHoldsIsAdded)
+{
+    Put("sub/b.prc", PrcFile("My App", "appl", "MyAp"));
+    PalmDesktopFolder = SearchFolder;
+    SearchFolder = folder.File("gone");
+
+    const SearchEnd end = SearchAndAdd(listener);
+
+    ASSERT_EQ(end.add.files.size(), 2u);
+    EXPECT_EQ(end.add.files[0].verdict, PrcVerdict::TooShort);
+    EXPECT_EQ(end.add.files[1].verdict, PrcVerdict::Added);
+    EXPECT_EQ(Apps(), Entry("My App", "MyAp"));
+    EXPECT_THAT(listener.texts, IsEmpty());
+}
+
+TEST_F(DesktopPath, OnPurposeWithTheKeyAFolderSearchGoesByTheSearchBefore)
+{
+    const RegistryValues key{ .values = { { "Other", "x" } } };
+
+    AllowFolderSearch(key);
+    EXPECT_FALSE(ScanHasNew);
+    GetDesktopPath(listener, key);
+    AllowFolderSearch(key);
+    EXPECT_TRUE(ScanHasNew);
+    ScanHasNew = false;
+    AllowFolderSearch(std::nullopt);
+    EXPECT_TRUE(ScanHasNew) << "without the key it always adds";
+}
+
 TEST_F(DesktopPath, OfTheKeyIsTheValueOfThatName)
 {
     PalmDesktopFolder = "/not/asked";

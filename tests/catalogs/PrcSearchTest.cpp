@@ -242,6 +242,19 @@ TEST_F(PrcSearch, TheListIsNotEmptiedByTheWalk)
     EXPECT_THAT(listPRC, ElementsAre("before", InPalm("a.prc")));
 }
 
+TEST_F(PrcSearch, AStopEndsTheListOfALargeFolder)
+{
+    for (int i = 0; i < 300; ++i)
+        Touch("a" + std::to_string(i) + ".prc");
+    listener.stops = true;
+
+    const WalkEnd end = Walk();
+
+    EXPECT_TRUE(end.wasStopped);
+    EXPECT_THAT(listener.found, ElementsAre("(end)")) << "events run while the folder is listed";
+    EXPECT_THAT(end.unreadable, IsEmpty());
+}
+
 TEST_F(PrcSearch, AStopKeepsWhatWasFoundSoFar)
 {
     for (int i = 0; i < 5; ++i)

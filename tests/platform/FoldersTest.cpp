@@ -1,5 +1,7 @@
 #include "platform/Folders.h"
 
+#include "platform/WideText.h"
+
 #include "platform/Registry.h"
 #include "support/CommonUser.h"
 #include "support/Files.h"
@@ -72,6 +74,33 @@ TEST(ListFolder, OneFolderHasOneIdentityByWhateverPath)
     EXPECT_NE(ids[0], ids[2]);
     EXPECT_TRUE(unwanted.isWhole && unwanted.entries.empty())
         << "one that is not wanted is not read";
+}
+
+TEST(ListFolder, AsksBehindEachStepWhetherToGoOn)
+{
+    const TempFolder folder;
+    for (std::size_t i = 0; i < 2 * platform::EntriesOfAStep + 1; ++i)
+        WriteText(folder.File(std::to_string(i)), "");
+    int asked = 0;
+
+    EXPECT_EQ(ListFolder(folder.Path(), Any, [&] { return ++asked > 0; }).entries.size(),
+        2 * platform::EntriesOfAStep + 1);
+    EXPECT_EQ(asked, 2);
+    const FolderListing stopped = ListFolder(folder.Path(), Any, [] { return false; });
+    EXPECT_EQ(stopped.entries.size(), platform::EntriesOfAStep);
+    EXPECT_TRUE(stopped.wasStopped);
+    EXPECT_TRUE(stopped.isWhole) << "a stop is no failure";
+}
+
+TEST(Utf8FromWide, GivesEveryLetterAndNeverThrows)
+{
+    EXPECT_EQ(platform::Utf8FromWide(std::u16string_view(u"a\u00E9\u20AC\U0001F600")),
+        "a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80");
+    const char16_t halves[] = { 0xD83D, u'a', 0xDE00, 0xD83D };
+    EXPECT_EQ(platform::Utf8FromWide(std::u16string_view(halves, 4)),
+        "\xEF\xBF\xBD"
+        "a"
+        "\xEF\xBF\xBD\xEF\xBF\xBD");
 }
 
 TEST(ListFolder, WhatIsNoFolderCannotBeRead)

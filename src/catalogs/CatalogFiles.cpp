@@ -53,23 +53,30 @@ std::string& CellOf(CatalogRow& row, std::size_t column, std::size_t lastColumn)
     return *cells.at(column);
 }
 
+/// One read of such a file.
+struct OwnerRead {
+    const OwnerFile& file;
+    const ShowMessage& show;
+    bool couldRepair = true;
+};
+
 /// The Creator that a value stands for; writes a repaired one back to where `ini` stands.
-std::string CreatorOf(
-    const std::string& value, cInifile& ini, const OwnerFile& file, const ShowMessage& show)
+std::string CreatorOf(const std::string& value, cInifile& ini, OwnerRead& read)
 {
     constexpr std::size_t Letters = 4;
     const std::string creator = CreatorOfValue(value);
     if (value.size() > Letters)
         return creator;
     if (value.empty())
-        show(std::string(file.corrupt) + ini.Section()
+        read.show(std::string(read.file.corrupt) + ini.Section()
             + ".\nA Creator ID or XXXX has been assigned to it.");
     ini.Value("{" + creator + "}");
+    read.couldRepair = read.couldRepair && ini.Success();
     return creator;
 }
 
 /// On purpose: the column is the key's position in its section, whatever the key's name.
-void ReadOwner(CatalogRow& row, cInifile& ini, const OwnerFile& file, const ShowMessage& show)
+void ReadOwner(CatalogRow& row, cInifile& ini, OwnerRead& read)
 {
     std::vector<std::string> keys;
     std::int32_t count = 0;
@@ -78,9 +85,9 @@ void ReadOwner(CatalogRow& row, cInifile& ini, const OwnerFile& file, const Show
         const std::string name = LowerCase(keys[k]);
         ini.key(keys[k]);
         if (name == "type")
-            CellOf(row, k, file.lastColumn) = ini.Value();
+            CellOf(row, k, read.file.lastColumn) = ini.Value();
         else if (name == "creator")
-            CellOf(row, k, file.lastColumn) = CreatorOf(ini.Value(), ini, file, show);
+            CellOf(row, k, read.file.lastColumn) = CreatorOf(ini.Value(), ini, read);
     }
 }
 
@@ -129,23 +136,30 @@ std::optional<CutCatalog> ReadSections(std::string_view file, std::vector<Row>& 
     std::int32_t count = 0;
     ini.EnumerateAllSections(sections, count);
     const std::optional<CutCatalog> cut = CutOff(file, ini, sections);
-    table.assign(static_cast<std::size_t>(count) + 1, {});
+    // Of its own: another read may fill the table while a box of this one stands.
+    std::vector<Row> rows(static_cast<std::size_t>(count) + 1);
+    bool isWhole = true;
     try {
-        for (std::size_t i = 1; i < table.size(); ++i) {
-            table[i].name = sections[i];
+        for (std::size_t i = 1; i < rows.size(); ++i) {
+            rows[i].name = sections[i];
             ini.Section(sections[i]);
-            readRow(table[i], ini);
+            readRow(rows[i], ini);
         }
     } catch (const BeyondTheLastColumn&) {
-        show(failed); // the rows read so far stay
+        isWhole = false; // the rows read so far stay
     }
+    table.swap(rows);
+    if (!isWhole)
+        show(failed);
     return cut;
 }
 
-std::optional<CutCatalog> ReadOwners(const OwnerFile& file, const ShowMessage& show)
+CatalogRead ReadOwners(const OwnerFile& file, const ShowMessage& show)
 {
-    return ReadSections(file.file, file.table, file.missing, file.failed, show,
-        [&](CatalogRow& row, cInifile& ini) { ReadOwner(row, ini, file, show); });
+    OwnerRead read{ file, show };
+    const auto cut = ReadSections(file.file, file.table, file.missing, file.failed, show,
+        [&](CatalogRow& row, cInifile& ini) { ReadOwner(row, ini, read); });
+    return { cut, read.couldRepair };
 }
 
 class DuplicateCheck {
@@ -210,11 +224,17 @@ std::string NoteOf(const CutCatalog& catalog)
         + " names in " + catalog.file + " are known: together they are too long.";
 }
 
-std::optional<CutCatalog> ReadAppIni(const ShowMessage& show) { return ReadOwners(AppFile, show); }
+CatalogRead ReadAndRepairApps(const ShowMessage& show) { return ReadOwners(AppFile, show); }
+CatalogRead ReadAndRepairPalm(const ShowMessage& show) { return ReadOwners(PalmFile, show); }
+
+std::optional<CutCatalog> ReadAppIni(const ShowMessage& show)
+{
+    return ReadAndRepairApps(show).cut;
+}
 
 std::optional<CutCatalog> ReadPalmAppIni(const ShowMessage& show)
 {
-    return ReadOwners(PalmFile, show);
+    return ReadAndRepairPalm(show).cut;
 }
 
 std::optional<CutCatalog> ReadVYIconsIni(const ShowMessage& show)

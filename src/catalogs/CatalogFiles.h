@@ -45,6 +45,15 @@ std::optional<CutCatalog> ReadAppIni(const ShowMessage& show);
 std::optional<CutCatalog> ReadPalmAppIni(const ShowMessage& show);
 std::optional<CutCatalog> ReadVYIconsIni(const ShowMessage& show);
 
+/// What a read came to.
+struct CatalogRead {
+    std::optional<CutCatalog> cut;
+    bool couldRepair = true; ///< false: a Creator's repair could not be written
+};
+/// ReadAppIni and ReadPalmAppIni, and whether they could write their repairs.
+CatalogRead ReadAndRepairApps(const ShowMessage& show);
+CatalogRead ReadAndRepairPalm(const ShowMessage& show);
+
 /// Tells entries that have one Creator, within AppTable, within PalmTable and across the two.
 void ChkDupCreators(const ShowMessage& show);
 

@@ -26,11 +26,17 @@ public:
     std::vector<std::string> texts;
 };
 
-void ReadKnownApplications(CollectedBoxes& boxes)
+/// False: a catalog needed a repair that could not be written.
+bool ReadKnownApplications(CollectedBoxes& boxes)
 {
-    for (const auto read : { ReadAppIni, ReadPalmAppIni })
-        if (const auto cut = read([&](std::string_view text) { boxes.Show(text); }))
-            Tell(NoteOf(*cut));
+    bool couldRepair = true;
+    for (const auto read : { ReadAndRepairApps, ReadAndRepairPalm }) {
+        const CatalogRead end = read([&](std::string_view text) { boxes.Show(text); });
+        if (end.cut)
+            Tell(NoteOf(*end.cut));
+        couldRepair = couldRepair && end.couldRepair;
+    }
+    return couldRepair;
 }
 
 ordered_json JsonOf(const JudgedPrc& file)
@@ -64,13 +70,12 @@ int Scan(const ScanOptions& options)
     AppFolder =
         platform::Utf8Path(std::filesystem::canonical(platform::NativePath(options.appFolder)));
     CollectedBoxes boxes;
-    ReadKnownApplications(boxes);
+    const bool couldRepair = ReadKnownApplications(boxes);
     SearchFolder = options.folder;
-    ScanHasNew =
-        true; // whoever calls the tool wants what is found, also where it is on purpose not
+    ScanHasNew = true; // the tool's user wants what is found, also where on purpose it isn't added
     const SearchEnd end = SearchAndAdd(boxes);
     Print(end, boxes);
-    return end.add.couldWrite ? 0 : 1;
+    return end.add.couldWrite && couldRepair ? 0 : 1;
 }
 
 } // namespace vypx

@@ -80,6 +80,15 @@ CLI::App& AddScan(CLI::App& tool, vypx::ScanOptions& options)
     return *scan;
 }
 
+/// A command's exit code, unless what it printed got lost.
+int EndOf(int exitCode)
+{
+    if (std::cout.flush() || exitCode != 0)
+        return exitCode;
+    std::cerr << "pixelworks-cli: the output could not be written\n";
+    return 1;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -97,10 +106,11 @@ int main(int argc, char** argv)
     try {
         tool.parse(argc, argv);
         if (dump.parsed())
-            return vypx::Dump(dumpOptions);
+            return EndOf(vypx::Dump(dumpOptions));
         if (scan.parsed())
-            return vypx::Scan(scanOptions);
-        return convert.parsed() ? vypx::Convert(convertOptions) : vypx::Import(importOptions);
+            return EndOf(vypx::Scan(scanOptions));
+        return EndOf(
+            convert.parsed() ? vypx::Convert(convertOptions) : vypx::Import(importOptions));
     } catch (const CLI::ParseError& error) {
         const bool askedForHelp = tool.exit(error) == 0;
         return askedForHelp ? 0 : 2;

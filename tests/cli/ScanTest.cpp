@@ -13,6 +13,15 @@ namespace fs = std::filesystem;
 using nlohmann::json;
 using ::testing::HasSubstr;
 
+// What stands before the tool on the shell's line.
+constexpr const char* WithoutRoomInFiles = R"(sh -c 'trap "" XFSZ; ulimit -f 0; exec "$0" "$@"')";
+constexpr const char* IntoFullDisk = R"(sh -c 'exec "$0" "$@" >/dev/full')";
+/// Root reads every folder.
+std::string AsCommonUser()
+{
+    return ::geteuid() == 0 ? "setpriv --reuid=65534 --clear-groups" : "";
+}
+
 class Scan : public ::testing::Test {
 protected:
     Scan()
@@ -122,6 +131,30 @@ TEST_F(Scan, ACatalogThatCannotBeWrittenIsExitCode1)
         (json{ "Error! Can't find Applist.dat.", "Failed to save value." }));
 }
 
+TEST_F(Scan, ARepairThatCannotBeWrittenIsExitCode1)
+{
+    const std::string apps = "[Known]\nType=appl\nCreator=KNWN\n";
+    WriteText(folder.File("catalogs/AppList.dat"), apps);
+
+    EXPECT_EQ(Run(WithoutRoomInFiles).exitCode, 1);
+    EXPECT_EQ(Apps(), apps);
+    EXPECT_EQ(Run().exitCode, 0) << "where it can be written";
+    EXPECT_EQ(Apps(), "[Known]\nType=appl\nCreator={KNWN}\n");
+}
+
+TEST_F(Scan, OutputThatGetsLostIsExitCode1)
+{
+    const ToolRun run = Run(IntoFullDisk);
+
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_THAT(run.errors, HasSubstr("the output could not be written"));
+    EXPECT_EQ(RunTool({ "scan", folder.File("gone"), "--app-folder", folder.File("catalogs") },
+                  IntoFullDisk)
+                  .exitCode,
+        2)
+        << "what went wrong before counts";
+}
+
 TEST_F(Scan, AFolderThatIsNotThereIsWrongUse)
 {
     fs::remove_all(folder.File("palm"));
@@ -149,11 +182,9 @@ TEST_F(Scan, SoAreAFileAndMissingOptions)
 
 TEST_F(Scan, FoldersThatCannotBeReadAreListed)
 {
-    if (::geteuid() == 0)
-        GTEST_SKIP() << "root reads every folder";
     fs::permissions(folder.File("palm/sub"), fs::perms::none);
 
-    const ToolRun run = Run();
+    const ToolRun run = Run(AsCommonUser());
     fs::permissions(folder.File("palm/sub"), fs::perms::all);
 
     EXPECT_EQ(run.exitCode, 0);

@@ -5,6 +5,7 @@
 #include "catalogs/Checks.h"
 #include "catalogs/PalmHeader.h"
 #include "document/Document.h"
+#include "settings/Blanks.h"
 #include "settings/LetterCase.h"
 
 #include <algorithm>
@@ -66,7 +67,7 @@ std::optional<CatalogBox> CreatorInTheWay(const CatalogEntry& entry)
 /// they may name.
 std::optional<std::vector<std::string>> AgreedToGo(const CatalogEntry& entry, const ShowBox& show)
 {
-    if (IsHidden(AppListFile(), AppTable, entry.name) && !MayOverwrite(show))
+    if (IsUntold(AppListFile(), AppTable, entry.name) && !MayOverwrite(show))
         return std::nullopt;
     std::vector<CatalogRow> parts;
     std::copy_if(AppTable.begin(), AppTable.end(), std::back_inserter(parts),
@@ -99,7 +100,7 @@ bool IsKnownName(const std::string& name)
     const bool isLauncher = std::any_of(VYTable.begin(), VYTable.end(),
         [&](const LauncherRow& row) { return !row.name.empty() && AreOneName(row.name, name); });
     return FindName(AppTable, name) || isLauncher || FindName(PalmTable, name)
-        || IsHidden(AppListFile(), AppTable, name);
+        || IsUntold(AppListFile(), AppTable, name);
 }
 
 std::optional<CatalogBox> CreatorInTheWayByHand(const CatalogEntry& entry)

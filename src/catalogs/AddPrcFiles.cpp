@@ -43,9 +43,10 @@ class Judge {
 public:
     Judge()
     {
+        const auto palm = ReadIni(PalmAppFile());
         for (const CatalogRow& row : PalmTable)
             if (!row.name.empty())
-                m_palmItems.try_emplace(StoredCreator(PalmAppFile(), row.name), row.name);
+                m_palmItems.try_emplace(StoredCreator(*palm, row.name), row.name);
         for (const CatalogRow& row : AppTable) {
             if (!HasFullName(row))
                 continue;

@@ -4,6 +4,7 @@
 #include "catalogs/CatalogFiles.h"
 #include "catalogs/Checks.h"
 #include "document/WorkingFolder.h"
+#include "settings/IniStore.h"
 
 namespace vypx {
 
@@ -28,8 +29,9 @@ constexpr Check<std::string> SearchChecks[] = {
 const CatalogRow* FindStored(
     const std::vector<CatalogRow>& table, const std::string& file, const std::string& creator)
 {
+    const auto text = ReadIni(file);
     for (const CatalogRow& row : table)
-        if (!row.name.empty() && StoredCreator(file, row.name) == creator)
+        if (!row.name.empty() && StoredCreator(*text, row.name) == creator)
             return &row;
     return nullptr;
 }

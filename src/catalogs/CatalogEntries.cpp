@@ -2,7 +2,6 @@
 
 #include "platform/Platform.h"
 #include "settings/IniStore.h"
-#include "settings/Inifile.h"
 #include "settings/LetterCase.h"
 
 #include <algorithm>
@@ -99,11 +98,9 @@ const CatalogRow* FindCreator(const std::vector<CatalogRow>& table, std::string_
     return found == table.end() ? nullptr : &*found;
 }
 
-bool IsHidden(const std::string& file, const std::vector<CatalogRow>& table, std::string_view name)
+bool IsUntold(const std::string& file, const std::vector<CatalogRow>& table, std::string_view name)
 {
-    const bool isShown = std::any_of(table.begin(), table.end(),
-        [&](const CatalogRow& row) { return AreOneName(row.name, name); });
-    return !isShown && ReadIni(file)->HasSection(name);
+    return !FindName(table, name) && ReadIni(file)->HasSection(name);
 }
 
 std::string CreatorOfValue(std::string_view value)
@@ -119,15 +116,11 @@ std::string CreatorOfValue(std::string_view value)
     return creator;
 }
 
-std::string StoredCreator(const std::string& file, const std::string& name)
+std::string StoredCreator(const IniText& file, const std::string& name)
 {
     constexpr std::size_t Letters = 4;
-    cInifile ini;
-    ini.path(file);
-    ini.Section(name);
-    ini.key("Creator");
-    const std::string value = ini.Value();
-    return value.empty() ? value : value.substr(1, Letters);
+    const std::string_view value = file.Value(name, "Creator").value_or("");
+    return std::string(value.empty() ? value : value.substr(1, Letters));
 }
 
 bool ChangeEntries(const std::string& file, std::span<const std::string> removed,

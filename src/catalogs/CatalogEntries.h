@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/Catalogs.h"
+#include "settings/IniText.h"
 
 #include <optional>
 #include <span>
@@ -32,8 +33,9 @@ const CatalogRow* FindName(const std::vector<CatalogRow>& table, std::string_vie
 /// The first row with that Creator.
 const CatalogRow* FindCreator(const std::vector<CatalogRow>& table, std::string_view creator);
 
-/// Whether the file has an entry of that name that the table, read from it, does not show.
-bool IsHidden(const std::string& file, const std::vector<CatalogRow>& table, std::string_view name);
+/// Whether the file has an entry of that name that no full name of the table, read from it, tells:
+/// one that readers do not see, or see without a Creator.
+bool IsUntold(const std::string& file, const std::vector<CatalogRow>& table, std::string_view name);
 
 /// The Creator that a stored value stands for. On purpose: only the length is looked at, and one of
 /// 5 or beyond 6 silently gives nothing.
@@ -41,7 +43,7 @@ std::string CreatorOfValue(std::string_view value);
 
 /// The four characters behind the first one of the entry's stored Creator.
 /// On purpose: without its brace one stored as "ABCD" gives "BCD".
-std::string StoredCreator(const std::string& file, const std::string& name);
+std::string StoredCreator(const IniText& file, const std::string& name);
 
 /// Takes entries out of a file and puts `added` in, all in one replacement of the file or nothing:
 /// then false. An entry of the name of `added` keeps its place and its other keys, which stand

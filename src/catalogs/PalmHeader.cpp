@@ -1,6 +1,7 @@
 #include "catalogs/PalmHeader.h"
 
 #include "platform/Folders.h"
+#include "settings/Blanks.h"
 
 #include <algorithm>
 
@@ -59,12 +60,6 @@ std::optional<PalmHeader> ReadPalmHeader(const std::string& path)
 std::string CutAtStar(std::string_view name)
 {
     return std::string(WithoutBlanks(name.substr(0, name.find('*'))));
-}
-
-std::string_view WithoutBlanks(std::string_view text)
-{
-    text = text.substr(0, text.find_last_not_of(' ') + 1);
-    return text.substr(std::min(text.find_first_not_of(' '), text.size()));
 }
 
 std::string EntryName(std::string name, bool isPanel)

@@ -38,9 +38,6 @@ std::optional<PalmHeader> ReadPalmHeader(const std::string& path);
 /// The name up to its first "*", without blanks at its ends.
 std::string CutAtStar(std::string_view name);
 
-/// Without the blanks at its ends.
-std::string_view WithoutBlanks(std::string_view text);
-
 /// The name of a catalog's entry: " Panel" stands behind a panel's.
 std::string EntryName(std::string name, bool isPanel);
 

@@ -3,8 +3,9 @@
 #include "catalogs/CatalogEntries.h"
 #include "catalogs/CatalogFiles.h"
 #include "catalogs/Checks.h"
-#include "catalogs/PalmHeader.h"
 #include "document/WorkingFolder.h"
+#include "settings/Blanks.h"
+#include "settings/IniStore.h"
 #include "settings/Inifile.h"
 
 #include <algorithm>
@@ -38,16 +39,24 @@ bool HasAnother(const PalmSysChange& change)
         std::any_of(PalmTable.begin(), PalmTable.end(), [&](const CatalogRow& row) {
             return HasFullName(row) && row.name != change.current && AreOneName(row.name, name);
         });
-    return isShown || IsHidden(PalmAppFile(), PalmTable, name);
+    const bool keepsItsName = change.edits && AreOneName(change.current, name);
+    return isShown || (!keepsItsName && IsUntold(PalmAppFile(), PalmTable, name));
+}
+
+/// Whether the name of a new entry is one of the table's, and no half of one.
+bool IsInTable(const PalmSysChange& change)
+{
+    const std::string name = NewName(change);
+    const bool isShown = std::any_of(PalmTable.begin(), PalmTable.end(),
+        [&](const CatalogRow& row) { return AreOneName(row.name, name); });
+    return FindName(PalmTable, name) || (isShown && ReadIni(PalmAppFile())->HasSection(name));
 }
 
 /// The boxes' own texts first, then what the entries say.
 constexpr Check<PalmSysChange> Checks[] = {
     { [](const PalmSysChange& change) { return WithoutBlanks(change.boxes.name).empty(); },
         "An icon name is required" },
-    { [](const PalmSysChange& change) {
-         return !change.edits && FindName(PalmTable, NewName(change));
-     },
+    { [](const PalmSysChange& change) { return !change.edits && IsInTable(change); },
         "This Palm system icon name already exists, please use a different name or use the edit "
         "function." },
     { [](const PalmSysChange& change) { return IsShort(change.boxes.type); },
@@ -66,18 +75,19 @@ constexpr Check<PalmSysChange> Checks[] = {
 /// Whether an entry's stored Creator is the typed one.
 /// On purpose: in edit mode the stored text is compared with its braces, so that only one without
 /// them is found.
-bool HasTypedCreator(const CatalogRow& row, const PalmSysChange& change)
+bool HasTypedCreator(const IniText& file, const CatalogRow& row, const PalmSysChange& change)
 {
     if (change.edits)
         return row.name != change.current
-            && StoredValue(row.name, "Creator") == change.boxes.creator;
-    return StoredCreator(PalmAppFile(), row.name) == change.boxes.creator;
+            && file.Value(row.name, "Creator").value_or("") == change.boxes.creator;
+    return StoredCreator(file, row.name) == change.boxes.creator;
 }
 
 std::optional<CatalogBox> CreatorInTheWay(const PalmSysChange& change)
 {
+    const auto file = ReadIni(PalmAppFile());
     for (const CatalogRow& row : PalmTable)
-        if (!row.name.empty() && HasTypedCreator(row, change))
+        if (!row.name.empty() && HasTypedCreator(*file, row, change))
             return CatalogBox{ .text = "Error! The icon " + InQuotes(row.name)
                     + ", has the same Creator ID as the one you have entered." };
     return std::nullopt;
@@ -91,7 +101,7 @@ PalmSysBoxes PalmSysBoxesOf(const std::string& name)
     return {
         .name = name.substr(std::min(Prefix.size(), name.size())),
         .type = StoredValue(name, "Type"),
-        .creator = StoredCreator(PalmAppFile(), name),
+        .creator = StoredCreator(*ReadIni(PalmAppFile()), name),
     };
 }
 

@@ -1,6 +1,7 @@
 #include "settings/IniText.h"
 
 #include "platform/Platform.h"
+#include "settings/Blanks.h"
 #include "settings/LetterCase.h"
 
 #include <algorithm>
@@ -9,16 +10,7 @@ namespace vypx {
 
 namespace {
 
-constexpr std::string_view Blanks(" \t\r\v\f");
 constexpr std::string_view ByteOrderMark("\xEF\xBB\xBF");
-
-std::string_view Trimmed(std::string_view text)
-{
-    const std::size_t first = text.find_first_not_of(Blanks);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(Blanks) - first + 1);
-}
 
 /// A text that fits one line.
 std::string OneLine(std::string_view text)
@@ -31,7 +23,7 @@ std::string OneLine(std::string_view text)
 }
 
 /// A name as it stands in a file and is listed.
-std::string CleanName(std::string_view name) { return std::string(Trimmed(OneLine(name))); }
+std::string CleanName(std::string_view name) { return std::string(WithoutBlanks(OneLine(name))); }
 
 /// A name as it is looked up.
 std::string Folded(std::string_view name) { return LowerCase(CleanName(name)); }
@@ -75,7 +67,7 @@ IniText::Line IniText::Parsed(std::string_view text, std::string_view end)
     std::string_view words = text;
     if (words.starts_with(ByteOrderMark))
         words.remove_prefix(ByteOrderMark.size());
-    words = Trimmed(words);
+    words = WithoutBlanks(words);
     if (words.starts_with(';'))
         return line;
     if (words.starts_with('[')) {
@@ -87,7 +79,7 @@ IniText::Line IniText::Parsed(std::string_view text, std::string_view end)
         return line;
     }
     const std::size_t equals = words.find('=');
-    if (equals == std::string_view::npos || Trimmed(words.substr(0, equals)).empty())
+    if (equals == std::string_view::npos || WithoutBlanks(words.substr(0, equals)).empty())
         return line;
     line.kind = Kind::Key;
     line.name = CleanName(words.substr(0, equals));
@@ -137,7 +129,7 @@ std::optional<std::string_view> IniText::Value(std::string_view section, std::st
     const Line& line = m_lines[found->second];
     std::string_view value = std::string_view(line.text).substr(line.valueOffset);
     value = value.substr(0, value.find('\0'));
-    return WithoutQuotes(Trimmed(value));
+    return WithoutQuotes(WithoutBlanks(value));
 }
 
 bool IniText::SameName(std::string_view first, std::string_view second)
@@ -190,7 +182,7 @@ std::size_t IniText::EndOfKeys(std::size_t header) const
     std::size_t end = section;
     while (end > header + 1 && m_lines[end - 1].kind != Kind::Key)
         --end;
-    while (end < section && Trimmed(m_lines[end].text).empty())
+    while (end < section && WithoutBlanks(m_lines[end].text).empty())
         ++end;
     return end;
 }
@@ -209,7 +201,7 @@ bool IniText::SetValue(std::string_view section, std::string_view key, std::stri
         return true;
     }
     std::size_t at = EndOfSection(in.header);
-    while (at > in.header + 1 && Trimmed(m_lines[at - 1].text).empty())
+    while (at > in.header + 1 && WithoutBlanks(m_lines[at - 1].text).empty())
         --at; // blank lines before the next section stay before it
     Insert(at, name + "=" + text);
     if (at + 1 == m_lines.size())

@@ -48,7 +48,11 @@ TEST_F(AddManualTest, TheFirstCheckThatFailsIsTold)
 
 TEST_F(AddManualTest, ANameOfBlanksIsNoneNotEvenForAPanel)
 {
-    EXPECT_EQ(Told({ "   ", "ABCD", "panl" }), "Invalid application name entered");
+    for (const char* const name : { "   ", "\t", " \r\n\v\f" })
+        for (const char* const type : { "appl", "panl" })
+            EXPECT_EQ(Told({ name, "ABCD", type }), "Invalid application name entered");
+    EXPECT_EQ(Told({ "\tApp\t", "ABCD", "panl" }), "");
+    EXPECT_EQ(Apps(), Entry("App Panel", "ABCD", "panl"));
 }
 
 TEST_F(AddManualTest, ANameOfAnyCatalogInAnyCaseIsTaken)
@@ -78,14 +82,26 @@ TEST_F(AddManualTest, ANameThatTheReadersDoNotSeeIsTaken)
     EXPECT_EQ(Apps(), apps);
 }
 
-TEST_F(AddManualTest, ARowWithoutACreatorTakesNoName)
+TEST_F(AddManualTest, AnEntryWithoutACreatorTakesItsNameAllTheSame)
 {
-    Catalogs("[App]\nType=appl\n", "");
+    const std::string apps = "[App]\nType=appl\n";
+    Catalogs(apps, "");
 
+    EXPECT_EQ(Told({ "APP", "ABCE", "appl" }),
+        "The application name already exists, please use a different name.");
     EXPECT_EQ(Told({ "App", "ABCD", "panl" }), "");
-    EXPECT_EQ(Told({ "App", "ABCE", "appl" }), "");
 
-    EXPECT_EQ(Apps(), Entry("App", "ABCE") + Entry("App Panel", "ABCD", "panl"));
+    EXPECT_EQ(Apps(), apps + Entry("App Panel", "ABCD", "panl"));
+}
+
+/// The last name that the readers see is half a one: no entry of the file has it.
+TEST_F(AddManualTest, ANameThatTheBufferCutTakesNone)
+{
+    Catalogs(Entry(std::string(8186, 'x'), "XXX1") + Entry("Abcdefgh", "XXX2"), "");
+    const std::string half = AppTable.back().name;
+    ASSERT_LT(half.size(), 8u);
+
+    EXPECT_EQ(Told({ half, "ABCD", "appl" }), "");
 }
 
 TEST_F(AddManualTest, TheCreatorOfAPalmIconIsToldFirst)

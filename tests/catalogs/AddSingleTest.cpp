@@ -256,13 +256,26 @@ TEST_F(AddSingleTest, OnPurposeWhatStandsBehindAStarDoesNotCount)
     EXPECT_THAT(boxes, IsEmpty());
 }
 
-TEST_F(AddSingleTest, ARowWithoutACreatorAsksNothing)
+TEST_F(AddSingleTest, ARowWithoutACreatorAsksNothingForAPartOfAName)
 {
-    Catalogs("[Ap]\nType=appl\nCreator=ABCDE\n[App]\nType=appl\n", "");
+    Catalogs("[Ap]\nType=appl\nCreator=ABCDE\n", "");
 
     EXPECT_TRUE(Add(PrcFile("App")));
 
     EXPECT_THAT(boxes, IsEmpty());
+}
+
+TEST_F(AddSingleTest, AnEntryWithoutACreatorIsAskedAboutBeforeItIsOverwritten)
+{
+    const std::string apps = "[Ap]\nType=appl\nCreator=ABCDE\n[App]\nType=appl\n";
+    Catalogs(apps, "");
+    answers = { false, true };
+
+    EXPECT_FALSE(Add(PrcFile("App")));
+    EXPECT_EQ(Apps(), apps);
+    EXPECT_TRUE(Add(PrcFile("App")));
+
+    EXPECT_THAT(boxes, ElementsAre(Question, Question));
     EXPECT_EQ(Apps(), "[Ap]\nType=appl\nCreator=ABCDE\n" + Entry("App", "ABCD"));
 }
 
@@ -276,6 +289,21 @@ TEST_F(AddSingleTest, AnEntryThatTheReadersDoNotSeeIsAskedAboutToo)
 
     EXPECT_THAT(boxes, ElementsAre(Question));
     EXPECT_EQ(Apps(), apps);
+}
+
+TEST_F(AddSingleTest, WhatEndsItSilentlyComesBeforeATakenCreator)
+{
+    Catalogs(Entry("Other", "ABCD"),
+        Entry("Palm Clock",
+            "A\x01"
+            "CD"));
+
+    EXPECT_FALSE(Add(PrcFile("*", "appl", "ABCD")));
+    EXPECT_FALSE(Add(PrcFile("App", "appl",
+        "A\x01"
+        "CD")));
+
+    EXPECT_THAT(boxes, IsEmpty());
 }
 
 TEST_F(AddSingleTest, AFailedWriteIsTold)

@@ -56,6 +56,7 @@ TEST_F(PalmPage, TheFirstCheckThatFailsIsTold)
 {
     const auto refused = [&](const PalmSysBoxes& typed) { return Refused({ .boxes = typed }); };
 
+    EXPECT_EQ(refused({ "\t", "", "" }), Plain("An icon name is required"));
     EXPECT_EQ(refused({ "  ", "", "" }), Plain("An icon name is required"));
     EXPECT_EQ(refused({ "CLOCK", "ap", "\x01" }),
         Plain("This Palm system icon name already exists, please use a different name or use the "
@@ -92,6 +93,47 @@ TEST_F(PalmPage, ANewNameThatTheReadersDoNotSeeIsTaken)
 
     EXPECT_EQ(Refused({ .boxes = { "dial", "appl", "NEWD" } }),
         Plain("Error! An icon with that name already exists."));
+}
+
+TEST_F(PalmPage, AnEntryWithoutACreatorTakesItsName)
+{
+    Catalogs("", Entry("Palm Clock", "CLCK") + "[Palm Dial]\nType=appl\n");
+    before = PalmItems();
+
+    EXPECT_EQ(Refused({ .boxes = { "dial", "appl", "NEWD" } }),
+        Plain("This Palm system icon name already exists, please use a different name or use the "
+              "edit function."));
+    EXPECT_EQ(Refused({ { "dial", "appl", "NEWD" }, true, "Palm Clock" }),
+        Plain("Error! An icon with that name already exists."));
+    EXPECT_TRUE(Edit("Palm Dial", { "Dial", "appl", "NEWD" }).wasApplied) << "but it may be mended";
+    EXPECT_EQ(PalmItems(), Entry("Palm Clock", "CLCK") + Entry("Palm Dial", "NEWD"));
+}
+
+TEST_F(PalmPage, ATakenNameIsToldBeforeATakenCreator)
+{
+    EXPECT_EQ(Refused({ { "mail", "appl", "CLCK" } }),
+        Plain("This Palm system icon name already exists, please use a different name or use the "
+              "edit function."));
+    WriteText(
+        PalmAppFile(), Entry("Palm Clock", "CLCK") + "[Palm Mail]\nType=appl\nCreator=MAIL\n");
+    before = PalmItems();
+    EXPECT_EQ(Refused({ { "mail", "appl", "MAIL" }, true, "Palm Clock" }),
+        Plain("Error! An icon with that name already exists."));
+}
+
+TEST_F(PalmPage, TwoEntriesOfOneCreatorAreToldAtTheNextStart)
+{
+    Edit("Palm Clock", { "Clock", "appl", "mail" });
+    ReadTables();
+
+    std::vector<std::string> told;
+    ChkDupCreators([&](std::string_view text) { told.emplace_back(text); });
+
+    ASSERT_EQ(told.size(), 2u);
+    EXPECT_EQ(told[0],
+        "An icon with a duplicate Creator ID was found in the Palm System List.\n\n"
+        "Please press Edit App List and remove either \"Palm Clock\" or \"Palm Mail\".\n\n"
+        "See the help section on Duplicate Creator IDs  more information.");
 }
 
 TEST_F(PalmPage, AnEditReplacesTheOldEntryByOneAtTheEnd)

@@ -177,6 +177,22 @@ TEST_F(PrcRules, CreatorsOfBlanksAndHighBytesComeBackAsTheyWere)
     EXPECT_EQ(AppTable.at(1).creator, " \xE9\x7F ");
 }
 
+/// Each file has two reasons: the one that is told, and the next.
+TEST_F(PrcRules, TheFirstReasonIsTold)
+{
+    Catalogs(Entry("Chess", "CHES") + Entry("Clock", "CLCK"), Entry("Palm Clock", "CLCK"));
+    const auto verdict = [&](const char* name, const char* type, const char* creator) {
+        return JudgedAs(PrcFile(name, type, creator)).verdict;
+    };
+
+    EXPECT_EQ(verdict("App", "libr", "syst"), PrcVerdict::NoApplication);
+    EXPECT_EQ(verdict("App", "appl", "CLCK"), PrcVerdict::CreatorOfPalmItem);
+    EXPECT_EQ(verdict("My Clock", "appl", "CHES"), PrcVerdict::KnownCreator);
+    EXPECT_EQ(verdict("* Chess", "appl", "NEWC"), PrcVerdict::PartName);
+    WriteText(AppListFile(), Apps() + "[Panel]\n[ Panel]\n");
+    EXPECT_EQ(verdict("*", "panl", "NEWC"), PrcVerdict::NoName);
+}
+
 TEST_F(PrcRules, WhatIsNoWholeFileIsPassedOver)
 {
     Bytes file = PrcFile("App");

@@ -3,7 +3,6 @@
 #include "catalogs/CatalogEntries.h"
 #include "catalogs/CatalogFiles.h"
 #include "catalogs/PalmHeader.h"
-#include "platform/Folders.h"
 #include "settings/IniStore.h"
 #include "settings/LetterCase.h"
 
@@ -58,12 +57,11 @@ public:
     /// `entry` is what is to be added, if the file is new.
     JudgedPrc Look(const std::string& path, CatalogEntry& entry)
     {
-        const auto bytes = platform::ReadFileHead(path, PalmHeader::Length);
-        if (!bytes)
-            return { path, PrcVerdict::Unreadable, {} };
-        if (bytes->size() < PalmHeader::Length)
-            return { path, PrcVerdict::TooShort, {} };
-        JudgedPrc judged = LookAt(ReadPalmHeader(ByteView(*bytes)), entry);
+        bool isShort = false;
+        const std::optional<PalmHeader> header = ReadPalmHeader(path, &isShort);
+        if (!header)
+            return { path, isShort ? PrcVerdict::TooShort : PrcVerdict::Unreadable, {} };
+        JudgedPrc judged = LookAt(*header, entry);
         judged.path = path;
         return judged;
     }

@@ -49,9 +49,11 @@ PalmHeader ReadPalmHeader(ByteView file)
     };
 }
 
-std::optional<PalmHeader> ReadPalmHeader(const std::string& path)
+std::optional<PalmHeader> ReadPalmHeader(const std::string& path, bool* isShort)
 {
     const auto bytes = platform::ReadFileHead(path, PalmHeader::Length);
+    if (isShort)
+        *isShort = bytes && bytes->size() < PalmHeader::Length;
     if (!bytes || bytes->size() < PalmHeader::Length)
         return std::nullopt;
     return ReadPalmHeader(ByteView(*bytes));

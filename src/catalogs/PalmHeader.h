@@ -32,8 +32,8 @@ struct PalmHeader {
 /// Throws PastTheEnd for less than Length bytes.
 PalmHeader ReadPalmHeader(ByteView file);
 
-/// The header of a regular file. Empty: it can't be read, or is too short.
-std::optional<PalmHeader> ReadPalmHeader(const std::string& path);
+/// The header of a regular file. Empty: it can't be read, or is too short, which `isShort` is told.
+std::optional<PalmHeader> ReadPalmHeader(const std::string& path, bool* isShort = nullptr);
 
 /// The name up to its first "*", without blanks at its ends.
 std::string CutAtStar(std::string_view name);

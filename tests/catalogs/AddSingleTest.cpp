@@ -1,7 +1,6 @@
 #include "catalogs/AddApplication.h"
 
-#include "document/Document.h"
-#include "support/EditFixture.h"
+#include "support/AddSingleFixture.h"
 
 namespace vypx::test {
 
@@ -10,23 +9,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-const CatalogBox Question{
-    .text = "The application name you have entered already exists.\n"
-            "Press OK to overwrite the existing application.",
-    .title = "Application Already Exists!",
-    .icon = CatalogBox::Icon::Exclamation,
-    .asks = true,
-};
-
-class AddSingleTest : public Editing {
-protected:
-    /// With a file that exists by then.
-    bool Add(const Bytes& file, const std::string& name = "app.prc")
-    {
-        Put(name, file);
-        return AddSingle(InPalm(name), show);
-    }
-};
+using AddSingleTest = AddingSingle;
 
 TEST_F(AddSingleTest, WritesTypeAndCreatorBehindTheOthers)
 {
@@ -153,90 +136,6 @@ TEST_F(AddSingleTest, EveryPartIsAskedAboutUntilACancel)
     EXPECT_EQ(Apps(), apps);
 }
 
-TEST_F(AddSingleTest, EntriesWithOtherCreatorsAlwaysStay)
-{
-    const std::string apps = Entry("Po", "1111") + Entry("Chess", "2222");
-    Catalogs(apps, "");
-
-    EXPECT_TRUE(Add(PrcFile("Pocket Chess")));
-
-    EXPECT_EQ(boxes.size(), 2u);
-    EXPECT_EQ(Apps(), apps + Entry("Pocket Chess", "ABCD"));
-}
-
-TEST_F(AddSingleTest, AnApplicationThatChangedItsNameLosesItsOldEntry)
-{
-    Catalogs(Entry("Chess", "ABCD") + Entry("Other", "OTHR"), "");
-
-    EXPECT_TRUE(Add(PrcFile("Chess 2")));
-
-    EXPECT_THAT(boxes, ElementsAre(Question));
-    EXPECT_EQ(Apps(), Entry("Other", "OTHR") + Entry("Chess 2", "ABCD"));
-    EXPECT_FALSE(NamedFileExists(AppListFile() + ".bak")) << "one entry is no reason";
-}
-
-TEST_F(AddSingleTest, ButNotWhileAnIconsetIsOpen)
-{
-    Catalogs(Entry("Chess", "ABCD"), "");
-    FileLoaded = true;
-
-    EXPECT_TRUE(Add(PrcFile("Chess 2")));
-
-    EXPECT_EQ(Apps(), Entry("Chess", "ABCD") + Entry("Chess 2", "ABCD"));
-    FileLoaded = false;
-}
-
-TEST_F(AddSingleTest, MoreThanOneOldEntryLeavesABackup)
-{
-    const std::string apps = Entry("Ch", "ABCD") + Entry("Chess", "ABCD");
-    Catalogs(apps, "");
-
-    EXPECT_TRUE(Add(PrcFile("Chess 2")));
-
-    EXPECT_EQ(Apps(), Entry("Chess 2", "ABCD"));
-    EXPECT_EQ(ReadText(AppListFile() + ".bak"), apps);
-}
-
-TEST_F(AddSingleTest, TheSameNameUpToCaseKeepsItsPlaceAndItsOtherKeys)
-{
-    Catalogs("[MY APP]\nType=panl\nCreator={XXXX}\nNote=x\n" + Entry("Other", "OTHR"), "");
-
-    EXPECT_TRUE(Add(PrcFile("My App")));
-
-    EXPECT_THAT(boxes, ElementsAre(Question));
-    EXPECT_EQ(Apps(), "[MY APP]\nType=appl\nCreator={ABCD}\nNote=x\n" + Entry("Other", "OTHR"));
-}
-
-/// What the reader makes of the entry that a file overwrites.
-TEST_F(AddSingleTest, AnEntryThatIsOverwrittenIsReadBackHoweverItsKeysStood)
-{
-    for (const char* const keys :
-        { "Creator={OTHR}\nType=appl\n", "Note=x\nType=appl\nCreator={OTHR}\n",
-            "; mine\nType=appl\nNote=x\nCreator={OTHR}\n", "Type=appl\nType=panl\nCreator={OTHR}\n",
-            "Type=appl\nCreator={OTHR}\nNote=x\nCREATOR={AGIN}\n", "Type=appl\n",
-            "Creator={OTHR}\n", "Type=applications\nCreator={TOOLONG}\n", "" }) {
-        Catalogs(Entry("First", "FRST") + "[App]\n" + keys + Entry("Last", "LAST"), "");
-
-        EXPECT_TRUE(Add(PrcFile("App", "appl", "ABCD"))) << keys;
-
-        ReadTables();
-        ASSERT_EQ(AppTable.size(), 4u) << keys;
-        EXPECT_EQ(AppTable[2], (CatalogRow{ "App", "appl", "ABCD", "" })) << keys;
-        EXPECT_EQ(Apps().find("Note=x") != std::string::npos,
-            std::string(keys).find("Note=x") != std::string::npos)
-            << "what others wrote stays";
-    }
-}
-
-TEST_F(AddSingleTest, TypeAndCreatorComeBeforeTheKeysOfOthers)
-{
-    Catalogs("[App]\n; mine\nNote=x\nCreator={OTHR}\nType=appl\n" + Entry("Last", "LAST"), "");
-
-    Add(PrcFile("App", "appl", "ABCD"));
-
-    EXPECT_EQ(Apps(), Entry("App", "ABCD") + "; mine\nNote=x\n" + Entry("Last", "LAST"));
-}
-
 TEST_F(AddSingleTest, OnPurposeThePanelsEndingCountsForTheQuestion)
 {
     Catalogs(Entry("Panel", "PANL"), "");
@@ -263,32 +162,6 @@ TEST_F(AddSingleTest, ARowWithoutACreatorAsksNothingForAPartOfAName)
     EXPECT_TRUE(Add(PrcFile("App")));
 
     EXPECT_THAT(boxes, IsEmpty());
-}
-
-TEST_F(AddSingleTest, AnEntryWithoutACreatorIsAskedAboutBeforeItIsOverwritten)
-{
-    const std::string apps = "[Ap]\nType=appl\nCreator=ABCDE\n[App]\nType=appl\n";
-    Catalogs(apps, "");
-    answers = { false, true };
-
-    EXPECT_FALSE(Add(PrcFile("App")));
-    EXPECT_EQ(Apps(), apps);
-    EXPECT_TRUE(Add(PrcFile("App")));
-
-    EXPECT_THAT(boxes, ElementsAre(Question, Question));
-    EXPECT_EQ(Apps(), "[Ap]\nType=appl\nCreator=ABCDE\n" + Entry("App", "ABCD"));
-}
-
-TEST_F(AddSingleTest, AnEntryThatTheReadersDoNotSeeIsAskedAboutToo)
-{
-    const std::string apps = Entry(std::string(8190, 'x'), "XXXX") + Entry("App", "OTHR");
-    Catalogs(apps, "");
-    answer = false;
-
-    EXPECT_FALSE(Add(PrcFile("App")));
-
-    EXPECT_THAT(boxes, ElementsAre(Question));
-    EXPECT_EQ(Apps(), apps);
 }
 
 TEST_F(AddSingleTest, WhatEndsItSilentlyComesBeforeATakenCreator)

@@ -59,6 +59,15 @@ void PaintChrome(QWidget& window, Rgb colour)
     window.setStyleSheet(QString(GroupBoxes).arg(ScreenColour(colour).name()));
 }
 
+void KeepRoom(std::initializer_list<QWidget*> controls)
+{
+    for (QWidget* control : controls) {
+        QSizePolicy policy = control->sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        control->setSizePolicy(policy);
+    }
+}
+
 QValidator* Latin1Validator(QObject& owner)
 {
     return new QRegularExpressionValidator(QRegularExpression("[\\x20-\\x7E\\xA0-\\xFF]*"), &owner);

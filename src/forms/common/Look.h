@@ -5,6 +5,7 @@
 
 #include <QColor>
 #include <QPoint>
+#include <initializer_list>
 
 class QObject;
 class QValidator;
@@ -28,6 +29,9 @@ inline constexpr Rgb CropColour{ 214, 219, 191 };
 /// Gives a window the chrome colour, or another one. Its group boxes get a plain frame, since a
 /// style's own tints the colour.
 void PaintChrome(QWidget& window, Rgb colour = ChromeColour);
+
+/// Nothing moves when these are hidden and shown.
+void KeepRoom(std::initializer_list<QWidget*> controls);
 
 /// Where most dialogs open: 100 twips from the left and the top.
 inline QPoint DialogPlace() { return { PixelsFromTwips(100), PixelsFromTwips(100) }; }

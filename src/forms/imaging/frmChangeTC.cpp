@@ -16,14 +16,6 @@ namespace {
 /// 300 twips from the left and the top.
 QPoint EditorPlace() { return { PixelsFromTwips(300), PixelsFromTwips(300) }; }
 
-/// A hidden control keeps its room, so that nothing jumps when it comes.
-void KeepRoom(QWidget& control)
-{
-    QSizePolicy policy = control.sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    control.setSizePolicy(policy);
-}
-
 /// No option of the group is chosen, which its own use can't bring about.
 void Clear(QRadioButton& option)
 {
@@ -100,12 +92,9 @@ void frmChangeTC::Connect()
 
 void frmChangeTC::KeepPlaces()
 {
-    for (QWidget* control :
-        { static_cast<QWidget*>(m_ui->frmSampColors), static_cast<QWidget*>(m_ui->picTCswatch) })
-        KeepRoom(*control);
+    KeepRoom({ m_ui->frmSampColors, m_ui->picTCswatch });
     for (const Component& component : m_components) {
-        KeepRoom(*component.title);
-        KeepRoom(*component.text);
+        KeepRoom({ component.title, component.text });
         component.text->setEnabled(false); // the picker is chosen at first
         component.sample->setMinimumWidth(component.text->width());
     }

@@ -35,13 +35,7 @@ frmCrop::frmCrop(const vypx::Slot& slot, ColorDepth depth, Ask& ask, Doors doors
     setAttribute(Qt::WA_DeleteOnClose);
     PaintChrome(*this, CropColour);
     m_ui->viewScroll->viewport()->setAutoFillBackground(false);
-    // Nothing moves when these come and go.
-    for (QWidget* control : std::initializer_list<QWidget*>{
-             m_ui->lblWorking, m_ui->lblRegion, m_ui->picBackColor, m_ui->cmdChangeBackColor }) {
-        QSizePolicy policy = control->sizePolicy();
-        policy.setRetainSizeWhenHidden(true);
-        control->setSizePolicy(policy);
-    }
+    KeepRoom({ m_ui->lblWorking, m_ui->lblRegion, m_ui->picBackColor, m_ui->cmdChangeBackColor });
     m_ui->lblWorking->hide();
     m_ui->lblStretch->hide();
     move(DialogPlace());

@@ -75,9 +75,7 @@ IconTreeView::IconTreeView(QWidget* parent)
     setIconSize(QSize(16, 16));
     setItemDelegate(new LabelEdit(*this));
     setTextElideMode(Qt::ElideMiddle); // the end of a label says which of two icons it is
-    QSizePolicy policy = sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    setSizePolicy(policy);
+    KeepRoom({ this });
     connect(this, &QTreeWidget::itemSelectionChanged, this, [this] {
         if (const QTreeWidgetItem* node = selectedItems().value(0))
             emit NodeClick(node);

@@ -18,6 +18,7 @@ public:
         EXPECT_TRUE(m_boxes.empty()) << "an answer was queued and no box came";
         EXPECT_TRUE(m_files.empty()) << "a file was queued and no dialog came";
         EXPECT_TRUE(m_targets.empty()) << "a file to save was queued and no dialog came";
+        EXPECT_TRUE(m_folders.empty()) << "a folder was queued and no dialog came";
     }
 
     /// The next box is answered so; `during` runs while it is up.
@@ -36,6 +37,8 @@ public:
     /// The next dialog that saves gives this path.
     void SaveTo(const QString& path) { m_targets.push_back(path); }
     void CancelSave() { m_targets.push_back(std::nullopt); }
+    /// The next dialog for a folder gives this path; empty: it is cancelled.
+    void ChooseFolder(const QString& path) { m_folders.push_back(path); }
 
     QMessageBox::StandardButton Show(QWidget*, const Box& box) override
     {
@@ -79,9 +82,22 @@ public:
         return path;
     }
 
+    QString ChooseFolder(QWidget*, const FolderQuestion& question) override
+    {
+        folders.push_back(question);
+        if (m_folders.empty()) {
+            ADD_FAILURE() << "unexpected dialog for a folder: " << question.title.toStdString();
+            return {};
+        }
+        const QString path = m_folders.front();
+        m_folders.pop_front();
+        return path;
+    }
+
     std::vector<Box> shown;
     std::vector<OpenQuestion> opened;
     std::vector<SaveQuestion> saved;
+    std::vector<FolderQuestion> folders;
 
 private:
     struct BoxAnswer {
@@ -96,6 +112,7 @@ private:
     std::optional<QMessageBox::StandardButton> m_further;
     std::deque<FileAnswer> m_files;
     std::deque<std::optional<QString>> m_targets;
+    std::deque<QString> m_folders;
 };
 
 } // namespace vypx::test

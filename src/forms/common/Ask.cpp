@@ -1,5 +1,6 @@
 #include "forms/common/Ask.h"
 
+#include "forms/common/CutLabel.h"
 #include "forms/common/HeldKeys.h"
 
 #include <QAbstractButton>
@@ -8,7 +9,6 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
 
 namespace vypx {
@@ -49,8 +49,9 @@ namespace {
 std::optional<QString> Chosen(
     QFileDialog& dialog, const QString& folder, const QStringList& filters)
 {
-    dialog.setNameFilters(filters);
-    dialog.setDirectory(folder.isEmpty() ? QDir::currentPath() : folder);
+    if (!filters.isEmpty())
+        dialog.setNameFilters(filters);
+    dialog.setDirectory(folder.isEmpty() || !QDir(folder).exists() ? QDir::currentPath() : folder);
     const bool accepted = dialog.exec() == QDialog::Accepted;
     // After a question of its own some window managers leave no window active.
     if (QWidget* const parent = dialog.parentWidget())
@@ -59,33 +60,6 @@ std::optional<QString> Chosen(
         return std::nullopt;
     return dialog.selectedFiles().value(0);
 }
-
-/// One line that is cut in its middle where it is too long for its width, which it never widens.
-class CutLabel : public QLabel {
-public:
-    explicit CutLabel(QWidget* parent)
-        : QLabel(parent)
-    {
-        setTextFormat(Qt::PlainText);
-        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    }
-
-    void Show(const QString& text)
-    {
-        m_whole = text;
-        setText(fontMetrics().elidedText(text, Qt::ElideMiddle, width()));
-    }
-
-protected:
-    void resizeEvent(QResizeEvent* event) override
-    {
-        QLabel::resizeEvent(event);
-        Show(m_whole);
-    }
-
-private:
-    QString m_whole;
-};
 
 /// Below the fields of a dialog that saves: the name of the file that will be written, with the
 /// ending that a name without one gets.
@@ -126,6 +100,16 @@ std::optional<QString> ScreenAsk::SaveFile(QWidget* parent, const SaveQuestion& 
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     ShowNameToBeWritten(dialog);
     return Chosen(dialog, question.folder, question.filters);
+}
+
+QString ScreenAsk::ChooseFolder(QWidget* parent, const FolderQuestion& question)
+{
+    QFileDialog dialog(parent, question.title);
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    dialog.setOption(QFileDialog::ReadOnly);
+    return Chosen(dialog, question.folder, {}).value_or(QString());
 }
 
 } // namespace vypx

@@ -18,7 +18,7 @@ struct Box {
 /// A file dialog that opens.
 struct OpenQuestion {
     QString title;
-    QString folder;      ///< where it starts; empty: where the program was started
+    QString folder;      ///< where it starts; empty or gone: where the program was started
     QStringList filters; ///< "Words (*.a *.b)", patterns apart by blanks
 };
 
@@ -26,9 +26,15 @@ struct OpenQuestion {
 /// existing file.
 struct SaveQuestion {
     QString title;
-    QString folder;        ///< where it starts; empty: where the program was started
+    QString folder;        ///< where it starts; empty or gone: where the program was started
     QStringList filters;   ///< as above
     QString defaultEnding; ///< without the dot; put behind a name that has none
+};
+
+/// A dialog that chooses a folder.
+struct FolderQuestion {
+    QString title;
+    QString folder; ///< where it starts; empty or gone: where the program was started
 };
 
 /// The one door to boxes and file dialogs, so that tests can stand in for the user.
@@ -42,6 +48,8 @@ public:
     virtual QString OpenFile(QWidget* parent, const OpenQuestion& question) = 0;
     /// Path of the file to write; nothing when the dialog was cancelled.
     virtual std::optional<QString> SaveFile(QWidget* parent, const SaveQuestion& question) = 0;
+    /// Path of the chosen folder; empty when the dialog was cancelled.
+    virtual QString ChooseFolder(QWidget* parent, const FolderQuestion& question) = 0;
 };
 
 /// Shows real boxes and dialogs.
@@ -50,6 +58,7 @@ public:
     QMessageBox::StandardButton Show(QWidget* parent, const Box& box) override;
     QString OpenFile(QWidget* parent, const OpenQuestion& question) override;
     std::optional<QString> SaveFile(QWidget* parent, const SaveQuestion& question) override;
+    QString ChooseFolder(QWidget* parent, const FolderQuestion& question) override;
 };
 
 } // namespace vypx

@@ -15,6 +15,7 @@ public:
     QMessageBox::StandardButton Show(QWidget*, const Box&) override { return QMessageBox::Yes; }
     QString OpenFile(QWidget*, const OpenQuestion&) override { return file; }
     std::optional<QString> SaveFile(QWidget*, const SaveQuestion&) override { return {}; }
+    QString ChooseFolder(QWidget*, const FolderQuestion&) override { return {}; }
 
     QString file;
 };

@@ -29,10 +29,13 @@ QString LocalFileOf(QUrl url)
 /// Asks the other program, which may be slow.
 DraggedData ReadDrag(const QMimeData& data)
 {
+    DraggedData dragged;
     for (const QUrl& url : data.urls())
         if (const QString file = LocalFileOf(url); !file.isEmpty())
-            return { .file = file };
-    return { .isPicture = data.hasImage() };
+            dragged.files << file;
+    dragged.file = dragged.files.value(0);
+    dragged.isPicture = dragged.files.isEmpty() && data.hasImage();
+    return dragged;
 }
 
 /// Sees the widget's events before the widget, whose own class may refuse files.

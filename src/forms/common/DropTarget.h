@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <functional>
 
 class QWidget;
@@ -10,6 +11,7 @@ namespace vypx {
 /// What is dragged, as far as it counts here.
 struct DraggedData {
     QString file;           ///< path of the first local file; empty: there is none
+    QStringList files;      ///< paths of all local files
     bool isPicture = false; ///< a picture by itself, without a local file
 };
 

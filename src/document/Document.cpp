@@ -22,7 +22,7 @@ void ResetCounters()
 
 void ForgetDocument()
 {
-    FileLoaded = false;
+    FileLoaded = LoadedAsTemplate = false;
     IconTable.assign(1, {});
     BitmapTable.assign(1, {});
     BitmapRow = 0;

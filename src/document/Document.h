@@ -74,6 +74,8 @@ inline std::string DatabaseName; ///< database name of the document, 31 characte
 inline std::string FileName;     ///< path of the open iconset; empty for a new one not yet saved
 inline bool FileLoaded = false;
 inline ChangeMark IconsetChanged;
+/// The open document is what a template brought, and no save has made an iconset of its file since.
+inline bool LoadedAsTemplate = false;
 inline bool TemplateMode = false;      ///< the next load reads a template
 inline bool SkipOpenDialog = false;    ///< FileName is set already; lives for one load
 inline bool DuplicateResource = false; ///< the next load reads no pictures; nothing sets it

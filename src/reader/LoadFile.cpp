@@ -157,6 +157,7 @@ void FinishDocument(bool asTemplate, LoadListener& listener)
     CompactIconTable();
     // A template brings rows and labels, and no images.
     FillFileCells(asTemplate);
+    LoadedAsTemplate = asTemplate;
     TemplateMode = false;
     Recount(listener);
 }

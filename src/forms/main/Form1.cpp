@@ -71,7 +71,7 @@ struct Form1::Parts {
         , contents(*ui.TreeView1, panels)
         , sides(form, commands, contents)
         , settings(frame, sides, ask)
-        , windows(form, commands, views, *ui.lblTargetCD)
+        , windows(form, commands, views, *ui.lblTargetCD, ask)
         , icons({ *ui.TreeView1, panels, commands, status, notes, *ui.lblSearchingApp }, ask)
         , watcher({ form, *ui.TreeView1, panels, status, *ui.lblWorking, *ui.ProgressBar1 }, ask)
         , loading(

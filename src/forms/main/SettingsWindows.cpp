@@ -15,10 +15,11 @@ void BringUp(QWidget& window)
 }
 
 SettingsWindows::SettingsWindows(
-    QWidget& form, Commands& commands, ViewEntries& views, QLabel& depthLabel)
+    QWidget& form, Commands& commands, ViewEntries& views, QLabel& depthLabel, Ask& ask)
     : m_form(form)
     , m_views(views)
     , m_depthLabel(depthLabel)
+    , m_ask(ask)
 {
     commands.Connect(Command::Options, this, [this] { ShowOptions(); });
 }
@@ -26,7 +27,7 @@ SettingsWindows::SettingsWindows(
 void SettingsWindows::ShowOptions()
 {
     if (!m_options) {
-        m_options = new frmProgOptions(&m_form);
+        m_options = new frmProgOptions(m_ask, &m_form);
         connect(m_options, &frmProgOptions::DepthChosen, this, [this] {
             m_choices.ForgetDepth();
             if (m_depthWindow)
@@ -70,6 +71,12 @@ void SettingsWindows::AskForDepth()
 
 bool SettingsWindows::AsksForDepth() const { return m_depthWindow && m_depthWindow->isVisible(); }
 
+void SettingsWindows::HoldDepthWindow(bool on)
+{
+    if (m_depthWindow)
+        m_depthWindow->setEnabled(!on);
+}
+
 void SettingsWindows::TakeBackChoices()
 {
     const DepthChoices::TakenBack taken = m_choices.TakeBack();
@@ -92,10 +99,10 @@ void SettingsWindows::ShowDepthLock()
 
 void SettingsWindows::CloseAll()
 {
-    for (QDialog* window :
-        { static_cast<QDialog*>(m_depthWindow), static_cast<QDialog*>(m_options) })
-        if (window)
-            window->close();
+    if (m_depthWindow)
+        m_depthWindow->close();
+    if (m_options)
+        m_options->CloseAnyway();
 }
 
 } // namespace vypx

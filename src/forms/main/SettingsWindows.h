@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/common/Ask.h"
 #include "forms/main/Commands.h"
 #include "forms/main/ViewEntries.h"
 #include "settings/DepthChoices.h"
@@ -20,12 +21,15 @@ class SettingsWindows : public QObject {
 
 public:
     /// `depthLabel` is lblTargetCD.
-    SettingsWindows(QWidget& form, Commands& commands, ViewEntries& views, QLabel& depthLabel);
+    SettingsWindows(
+        QWidget& form, Commands& commands, ViewEntries& views, QLabel& depthLabel, Ask& ask);
 
     void ShowOptions();
     /// Asks for depth and resolution of a document that is to be opened or made.
     void AskForDepth();
     bool AsksForDepth() const;
+    /// The window for that, where it stands, takes no input for a while.
+    void HoldDepthWindow(bool on);
 
     /// A document began with what was chosen, or there is none whose depth could differ from it.
     void KeepChoices() { m_choices.Keep(); }
@@ -37,6 +41,7 @@ public:
     void ShowDepth();
     /// An iconset was opened or closed: the colour depth can only be changed without one.
     void ShowDepthLock();
+    /// For the exit: nothing keeps them open.
     void CloseAll();
 
 signals:
@@ -51,6 +56,7 @@ private:
     QWidget& m_form;
     ViewEntries& m_views;
     QLabel& m_depthLabel;
+    Ask& m_ask;
     DepthChoices m_choices;
     QPointer<frmProgOptions> m_options;
     QPointer<frmSelectCDepth> m_depthWindow;

@@ -5,6 +5,7 @@
 #include "forms/common/Text.h"
 #include "forms/settings/DepthControls.h"
 #include "forms/settings/UserStore.h"
+#include "settings/Inifile.h"
 #include "settings/Settings.h"
 #include "ui_frmProgOptions.h"
 
@@ -49,9 +50,10 @@ QSize SizeOnScreen(const QDialog& window, const QWidget& options, const QScrollA
 
 } // namespace
 
-frmProgOptions::frmProgOptions(QWidget* parent)
+frmProgOptions::frmProgOptions(Ask& ask, QWidget* parent)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::frmProgOptions>())
+    , m_ask(ask)
 {
     m_ui->setupUi(this);
     setAttribute(Qt::WA_DeleteOnClose);
@@ -65,6 +67,8 @@ frmProgOptions::frmProgOptions(QWidget* parent)
     ConnectBoxes();
     ConnectDepths();
     ConnectResolutions();
+    connect(m_ui->cmdBrowsePalmDesktop, &QPushButton::clicked, this,
+        &frmProgOptions::cmdBrowsePalmDesktop_Click);
     connect(
         m_ui->cmdDoneOptions, &QPushButton::clicked, this, &frmProgOptions::cmdDoneOptions_Click);
 }
@@ -74,6 +78,7 @@ frmProgOptions::~frmProgOptions() = default;
 void frmProgOptions::ShowSettings()
 {
     m_ui->txtPalmUserID->setText(FromLatin1(PalmUserID));
+    m_ui->txtPalmDesktopFolder->setText(PathText(PalmDesktopFolder));
     m_ui->txtVstring->setText(FromLatin1(VersionString));
     m_ui->chkRemeberDirs->setChecked(UseLastDirs);
     m_ui->chkCreateLowRes->setChecked(AutoCreateLowRes);
@@ -160,6 +165,25 @@ void frmProgOptions::ConnectResolutions()
     setsResolution(m_ui->optLowResOnly, false, true);
 }
 
+void frmProgOptions::cmdBrowsePalmDesktop_Click()
+{
+    QLineEdit& edit = *m_ui->txtPalmDesktopFolder;
+    const QString chosen = m_ask.ChooseFolder(
+        this, { .title = tr("Palm Desktop Folder"), .folder = edit.text().trimmed() });
+    if (!chosen.isEmpty())
+        edit.setText(chosen);
+}
+
+/// False: the settings file can't hold it.
+bool frmProgOptions::TakeFolder()
+{
+    const std::string folder = m_ui->txtPalmDesktopFolder->text().trimmed().toStdString();
+    const bool fits = FitsKey(folder);
+    if (fits)
+        PalmDesktopFolder = folder;
+    return fits;
+}
+
 void frmProgOptions::TakeTexts()
 {
     QString version = m_ui->txtVstring->text();
@@ -172,8 +196,23 @@ void frmProgOptions::TakeTexts()
 
 void frmProgOptions::cmdDoneOptions_Click() { close(); }
 
+void frmProgOptions::CloseAnyway()
+{
+    m_closesAnyway = true;
+    close();
+}
+
 void frmProgOptions::reject()
 {
+    if (!TakeFolder() && !m_closesAnyway) {
+        m_ui->txtPalmDesktopFolder->setFocus();
+        m_ask.Show(this,
+            { .text = tr("The path of the Palm Desktop folder is too long to be kept: the settings "
+                         "hold %1 bytes of it at most. Please choose another folder.")
+                          .arg(MaxValueLength),
+                .icon = QMessageBox::Information });
+        return;
+    }
     TakeTexts();
     QDialog::reject();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "forms/common/Ask.h"
+
 #include <QDialog>
 #include <memory>
 
@@ -12,13 +14,14 @@ class frmProgOptions;
 namespace vypx {
 
 /// The window of the program's options. Every change takes effect at once, on the variables of
-/// settings/Settings.h, the two texts when it is closed, in whatever way: there is no cancel. It
-/// does not block the main form and goes when it is closed.
+/// settings/Settings.h, the texts when it is closed, in whatever way: there is no cancel. It does
+/// not block the main form and goes when it is closed. A folder that the settings can't keep keeps
+/// it open.
 class frmProgOptions : public QDialog {
     Q_OBJECT
 
 public:
-    explicit frmProgOptions(QWidget* parent);
+    frmProgOptions(Ask& ask, QWidget* parent);
     ~frmProgOptions() override;
 
     /// An iconset was opened or closed: the colour depth can only be changed without one.
@@ -27,6 +30,8 @@ public:
     void ShowChoices();
 
     void reject() override;
+    /// Closes it even with a folder that can't be kept: then the one before stays.
+    void CloseAnyway();
 
 signals:
     /// The user chose here: DefaultColorDepth, or HighResOnly and LowResOnly, have new values.
@@ -41,10 +46,14 @@ private:
     void ConnectDepths();
     void ConnectResolutions();
     void ShowWarning();
+    void cmdBrowsePalmDesktop_Click();
+    bool TakeFolder();
     void TakeTexts();
     void cmdDoneOptions_Click();
 
     std::unique_ptr<Ui::frmProgOptions> m_ui;
+    Ask& m_ask;
+    bool m_closesAnyway = false;
 };
 
 } // namespace vypx

@@ -25,8 +25,23 @@ Commands::Commands(QWidget& frame, QWidget& form)
 
 void Commands::Enable(Command command, bool on)
 {
-    const Control& control = ControlOf(command);
-    const bool enabled = on && RowOf(command).isBuilt;
+    Control& control = m_controls[static_cast<std::size_t>(command)];
+    control.isWanted = on && RowOf(command).isBuilt;
+    Apply(control);
+}
+
+void Commands::Hold(std::initializer_list<Command> commands, bool on)
+{
+    for (const Command command : commands) {
+        Control& control = m_controls[static_cast<std::size_t>(command)];
+        control.isHeld = on;
+        Apply(control);
+    }
+}
+
+void Commands::Apply(const Control& control)
+{
+    const bool enabled = control.isWanted && !control.isHeld;
     if (control.widget)
         control.widget->setEnabled(enabled);
     else

@@ -24,6 +24,9 @@ public:
     /// All commands of that kind.
     void Enable(When when, bool on);
     bool IsEnabled(Command command) const;
+    /// Keeps commands disabled, whatever is asked meanwhile, until they are let go: then they are
+    /// enabled as was asked last.
+    void Hold(std::initializer_list<Command> commands, bool on);
 
     /// A command's button or entry was used.
     template <typename Receiver, typename Handler>
@@ -44,7 +47,10 @@ private:
         QWidget* widget = nullptr; // a button or a panel
         QAbstractButton* button = nullptr;
         QAction* entry = nullptr;
+        bool isWanted = false; // enabled, as was asked last
+        bool isHeld = false;
     };
+    static void Apply(const Control& control);
     const Control& ControlOf(Command command) const
     {
         return m_controls[static_cast<std::size_t>(command)];

@@ -75,6 +75,23 @@ TEST_F(CommandsTest, WhatIsNotBuiltStaysDisabled)
     }
 }
 
+TEST_F(CommandsTest, AHeldCommandIsLetGoAsItWasAskedLast)
+{
+    Commands commands(frame, form);
+    commands.Hold({ Command::Open, Command::CloseIconset, Command::RemoveIcon }, true);
+    for (const Command held : { Command::Open, Command::CloseIconset, Command::RemoveIcon })
+        EXPECT_FALSE(commands.IsEnabled(held));
+    commands.Enable({ Command::CloseIconset, Command::RemoveIcon }, true);
+    EXPECT_FALSE(commands.IsEnabled(Command::CloseIconset)) << "whatever a step says";
+    commands.Enable(Command::RemoveIcon, false);
+
+    commands.Hold({ Command::Open, Command::CloseIconset, Command::RemoveIcon }, false);
+
+    EXPECT_TRUE(commands.IsEnabled(Command::Open));
+    EXPECT_TRUE(commands.IsEnabled(Command::CloseIconset));
+    EXPECT_FALSE(commands.IsEnabled(Command::RemoveIcon));
+}
+
 TEST_F(CommandsTest, ButtonsAndEntriesCallTheirHandler)
 {
     Commands commands(frame, form);

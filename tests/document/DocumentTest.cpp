@@ -22,7 +22,7 @@ TEST_F(Document, BeginsWithOneEmptyRow)
 TEST_F(Document, ResettingPutsEverythingBack)
 {
     FileLoaded = IconsetChanged = TemplateMode = SkipOpenDialog = DroppedFile = true;
-    DropLGEnabled = DropSMEnabled = true;
+    DropLGEnabled = DropSMEnabled = LoadedAsTemplate = true;
     FileName = DatabaseName = Parent = DroppedFileName = SelectedNode = LastClickedText = "x";
     HighResPath = LowResPath = "x";
     LGloaded = SMloaded = LGhasTransparent = SMhasTransparent = true;
@@ -44,9 +44,9 @@ TEST_F(Document, ResettingPutsEverythingBack)
 
     EXPECT_EQ(IconsetChanged.Times(), 0u);
     EXPECT_FALSE(IconsetChanged);
-    for (const bool flag :
-        { FileLoaded, TemplateMode, SkipOpenDialog, DroppedFile, DropLGEnabled, DropSMEnabled,
-            LGloaded, SMloaded, LGhasTransparent, SMhasTransparent, StatDeletable, SettingsSaved })
+    for (const bool flag : { FileLoaded, LoadedAsTemplate, TemplateMode, SkipOpenDialog,
+             DroppedFile, DropLGEnabled, DropSMEnabled, LGloaded, SMloaded, LGhasTransparent,
+             SMhasTransparent, StatDeletable, SettingsSaved })
         EXPECT_FALSE(flag);
     EXPECT_TRUE(TransparentUse);
     EXPECT_EQ(FileName + DatabaseName + Parent + DroppedFileName + SelectedNode + LastClickedText

@@ -107,6 +107,17 @@ TEST_F(LoadFile, ATemplateWantsItsOwnEnding)
     EXPECT_FALSE(TemplateMode);
 }
 
+TEST_F(LoadFile, WhatCameFromATemplateIsRememberedUntilTheNextDocument)
+{
+    const Bytes file = Iconset{ .resources = { Icon(3500) } }.File();
+
+    TemplateMode = true;
+    Open(file, "set.vpt");
+    EXPECT_TRUE(LoadedAsTemplate);
+    Open(file, "set.prc");
+    EXPECT_FALSE(LoadedAsTemplate);
+}
+
 TEST_F(LoadFile, AFileOf68BytesIsInvalidWhateverItHolds)
 {
     Bytes file = Iconset{}.File();

@@ -17,7 +17,8 @@ int main(int argc, char** argv)
         vypx::MDIForm1 frame(ask);
         frame.Start(QApplication::applicationDirPath(),
             QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
-        return QApplication::exec();
+        // It may have been left amid the search of its start.
+        return frame.isHidden() ? 0 : QApplication::exec();
     } catch (const std::filesystem::filesystem_error& error) {
         ask.Show(nullptr,
             { .text = QString("VY Pixelworks can't make its working folder.\n\n%1")

@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPainter>
@@ -127,6 +128,60 @@ QString WrittenHills(const test::TempFolder& target, const QSize& size)
     const QString path = QString::fromStdString(target.File("hills.png"));
     hills.save(path);
     return path;
+}
+
+/// Names as handhelds have them, so many that the list scrolls.
+void WriteApplications(const std::string& file, int count)
+{
+    const char* const firsts[] = { "Pocket", "Tiny", "My", "Bike", "Star", "Diet", "Euro",
+        "Chess" };
+    const char* const seconds[] = { "Planner", "Atlas", "Ledger", "Tutor", "Timer", "Notes" };
+    std::string text;
+    for (int i = 0; i < count; ++i) {
+        const QString creator = QString("A%1").arg(i, 3, 10, QChar('0'));
+        const QString name = QString("%1 %2 %3").arg(firsts[i % 8], seconds[i % 6]).arg(i / 4 + 1);
+        text += QString("[%1%2]\nType=%3\nCreator={%4}\n")
+                    .arg(name, i % 9 == 8 ? " Panel" : "", i % 9 == 8 ? "panl" : "appl", creator)
+                    .toStdString();
+    }
+    test::WriteText(file, text);
+}
+
+/// The window for the catalogs on both its pages, amid a search, and its companion.
+void TakeAppList(const QString& folder, MDIForm1& frame, test::ScriptedAsk& ask)
+{
+    const test::TempFolder palm;
+    const std::string searched = palm.File("Palm Desktop/What I keep of the programs for it/games");
+    std::filesystem::create_directories(searched);
+    test::WriteText(searched + "/Chess for two players and more.prc", "");
+    WriteApplications(AppListFile(), 400);
+    frame.findChild<QPushButton*>("cmdEditAppList")->click();
+    auto& window = *frame.findChild<QDialog*>("frmEditAppList");
+    const auto click = [&](const char* name) { window.findChild<QAbstractButton*>(name)->click(); };
+    window.move(60, 80);
+    Take(folder, "edit-app-list");
+    QTimer whilePathStands;
+    QObject::connect(&whilePathStands, &QTimer::timeout, [&] {
+        if (window.findChild<QLabel*>("lblSearchingFolder")->text().isEmpty())
+            return;
+        whilePathStands.stop();
+        Take(folder, "edit-app-list-search");
+    });
+    whilePathStands.start(0);
+    ask.ChooseFolder(QString::fromStdString(searched));
+    click("cmdAddPrcByFolder");
+    click("cmdManual");
+    auto& manual = *frame.findChild<QDialog*>("frmAddAppManual");
+    manual.move(200, 300);
+    Take(folder, "add-app-manual");
+    manual.close();
+    click("opt_PalmSys");
+    Take(folder, "edit-app-list-palm");
+    click("optEditSys");
+    auto& list = *window.findChild<QListWidget*>("ComboAppList");
+    list.setCurrentRow(7);
+    Take(folder, "edit-app-list-palm-edit");
+    window.close();
 }
 
 /// The crop window in its modes, and the window for its border's colour.
@@ -309,6 +364,7 @@ int main(int argc, char** argv)
     IconsetChanged = false;
     TakeDrop(folder, frame);
     TakeCrop(folder, frame, ask);
+    TakeAppList(folder, frame, ask);
 
     // The whole road: mark an icon, save under a name, close, open what was saved.
     select("Palm Calculator (Large Icon)");

@@ -35,6 +35,8 @@ public:
     /// The document has ended, or another one has begun: nothing is waiting to be added, and there
     /// is no icon whose owner could be changed.
     void DocumentChanged();
+    /// What the open window offers may be something else by now: it fills its list anew.
+    void ShowAvailable();
 
 private:
     using Work = std::function<RowsOutcome()>;
@@ -42,7 +44,6 @@ private:
 
     void OpenWindow();
     void MarkChanged();
-    void ShowAvailable();
     bool IsOpen() const;
     PixelSize HighResOnShow() const;
     std::string SelectedIcon() const;

@@ -42,7 +42,7 @@ std::vector<CommandRow> Rows()
         { RemoveIcon, "cmdRemoveIcon", "&Remove Selected", none, Built, When::Icon },
         { ClearDeleted, "cmdClrDeleted", "Clear &Deleted", none, Built, When::Icon },
         { ChangeDatabaseName, "cmdChangeDataBaseName", "Change Palm Iconset Name", none, Built, When::Root },
-        { EditAppList, "cmdEditAppList", "Edit App List", none, NotBuiltYet, When::Always },
+        { EditAppList, "cmdEditAppList", "Edit App List", none, Built, When::Always },
         { PanelLG, "frameLG", "", none, Built, When::Always },
         { ImportLG, "cmdImportLG", "&Import...", none, Built, When::Icon },
         { ExportLG, "cmdSaveLG", "E&xport...", none, Built, When::Icon },

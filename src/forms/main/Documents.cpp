@@ -133,6 +133,13 @@ void Documents::CloseWindows()
         m_newIconset->close();
 }
 
+void Documents::HoldWindows(bool on)
+{
+    m_settings.HoldDepthWindow(on);
+    if (m_newIconset)
+        m_newIconset->setEnabled(!on);
+}
+
 void Documents::ShowNewIconset()
 {
     if (!m_newIconset) {
@@ -178,18 +185,22 @@ void Documents::MakeNewIconset(const QString& name)
     m_icons.UpdateIconStats(); // or a save would judge the new iconset by the icons of the old one
 }
 
+bool Documents::MayCloseIconset()
+{
+    return !IconsetChanged
+        || m_ask.Show(&m_view.form,
+               { .text = "The current iconset has been modified.\n\n"
+                         "Are you sure you want to close it?",
+                   .title = "Current Iconset Was Changed!",
+                   .icon = QMessageBox::Warning,
+                   .buttons = QMessageBox::Ok | QMessageBox::Cancel })
+        == QMessageBox::Ok;
+}
+
 void Documents::Close()
 {
-    if (IconsetChanged) {
-        const auto answer = m_ask.Show(&m_view.form,
-            { .text =
-                    "The current iconset has been modified.\n\nAre you sure you want to close it?",
-                .title = "Current Iconset Was Changed!",
-                .icon = QMessageBox::Warning,
-                .buttons = QMessageBox::Ok | QMessageBox::Cancel });
-        if (answer != QMessageBox::Ok)
-            return;
-    }
+    if (!MayCloseIconset())
+        return;
     Tree.Clear();
     EmptyTables();
     Itbl.assign(1, {});
@@ -214,6 +225,7 @@ void Documents::EmptyTables()
     IconTable.assign(1, {});
     BitmapTable.assign(1, {});
     BitmapRow = 0;
+    LoadedAsTemplate = false;
     ShareNames.assign(1, {});
     ClearSlots();
     ShowNoIcons();

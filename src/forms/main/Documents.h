@@ -32,8 +32,12 @@ public:
     void New();
     void Open();
     void Close();
+    /// Asks the question before a changed document is closed. True: it may be, or it is unchanged.
+    bool MayCloseIconset();
     /// Closes the windows that lead to another document; what was chosen in them is taken back.
     void CloseWindows();
+    /// Keeps the windows that lead to another document from leading there for a while.
+    void HoldWindows(bool on);
 
 signals:
     /// There is no document any more, or another one.

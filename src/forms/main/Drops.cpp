@@ -45,7 +45,8 @@ QWidget* Drops::ControlNamed(std::string_view name) const
 
 bool Drops::CanServe() const
 {
-    return !m_isServing && !m_busy.IsBusy() && m_view.frame.isEnabled()
+    const bool searches = m_doors.isSearching && m_doors.isSearching();
+    return !m_isServing && !m_busy.IsBusy() && !searches && m_view.frame.isEnabled()
         && !QApplication::activeModalWidget();
 }
 

@@ -14,8 +14,8 @@
 namespace vypx {
 
 /// Takes files that are dropped on the window: iconsets are opened, pictures brought into a slot.
-/// Nothing is taken during a load or another drop, nor while a window keeps the frame from taking
-/// input.
+/// Nothing is taken during a load, a search or another drop, nor while a window keeps the frame
+/// from taking input.
 class Drops : public QObject {
     Q_OBJECT
 
@@ -32,6 +32,8 @@ public:
         std::function<void()> load;                         ///< LoadFile
         std::function<void(const vypx::Slot& slot)> import; ///< ImportLG, ImportSM
         std::function<void()> paste;                        ///< PasteImageLG; may be empty
+        /// Whether a search runs, in which nothing is taken; may be empty.
+        std::function<bool()> isSearching = {};
     };
 
     /// Turns the drops of all targets on.

@@ -3,6 +3,7 @@
 #include "document/Slot.h"
 #include "forms/common/Text.h"
 #include "forms/main/AddIconCommands.h"
+#include "forms/main/AppListCommands.h"
 #include "forms/main/ClipboardCommands.h"
 #include "forms/main/Documents.h"
 #include "forms/main/Drops.h"
@@ -40,18 +41,21 @@ struct Form1::Parts {
     Panels panels;
     Commands commands;
     Notes notes;
+    CatalogReading catalogs;
     StatusTexts status;
     ViewEntries views;
     SideContents contents;
     SideWindows sides;
     SavedSettings settings;
     BusyGuard busy;
+    AppSearch search;
     SettingsWindows windows;
     IconCommands icons;
     LoadWatcher watcher;
     Loading loading;
     Documents documents;
     AddIconCommands addIcons;
+    AppListCommands appList;
     Saving saving;
     PictureCommands pictures;
     TransparencyCommands transparency;
@@ -66,11 +70,13 @@ struct Form1::Parts {
         : panels{ MakePanel(SlotLG, *ui.ImageBUF, form), MakePanel(SlotSM, *ui.ImageBUF, form) }
         , commands(frame, form)
         , notes(*ui.lblNotSaved, *ui.lblNote)
+        , catalogs(form, ask, notes)
         , status(*ui.StatusBar1, frame)
         , views(panels, commands)
         , contents(*ui.TreeView1, panels)
         , sides(form, commands, contents)
         , settings(frame, sides, ask)
+        , search(form, commands, ask)
         , windows(form, commands, views, *ui.lblTargetCD, ask)
         , icons({ *ui.TreeView1, panels, commands, status, notes, *ui.lblSearchingApp }, ask)
         , watcher({ form, *ui.TreeView1, panels, status, *ui.lblWorking, *ui.ProgressBar1 }, ask)
@@ -78,6 +84,8 @@ struct Form1::Parts {
               { form, *ui.TreeView1, panels, commands, status, notes }, ask, busy, watcher, icons)
         , documents({ form, panels, commands, status, notes }, ask, loading, icons, windows)
         , addIcons({ form, *ui.TreeView1, panels, commands, notes }, ask, busy, icons)
+        , appList({ form, commands, *ui.lblWorking, *ui.lblSearchingApp }, ask, search, catalogs,
+              icons, loading, documents)
         , saving({ form, commands, status, notes }, ask, icons, settings, windows)
         , pictures({ form, *ui.TreeView1, panels, commands, status, notes, *ui.lblWorking }, ask,
               busy, icons, settings, windows, views)
@@ -86,10 +94,11 @@ struct Form1::Parts {
         , drops({ frame, form, panels, commands, notes }, ask, busy,
               { .load = [this] { loading.LoadFile(); },
                   .import = [this](const vypx::Slot& slot) { pictures.Import(slot); },
-                  .paste = [this] { pictures.Paste(SlotLG); } })
+                  .paste = [this] { pictures.Paste(SlotLG); },
+                  .isSearching = [this] { return search.IsRunning(); } })
         , clipboard({ form, panels, commands }, ask, pictures, icons)
-        , session({ frame, form, panels, commands, views, notes, *ui.lblWorking, sides }, ask, busy,
-              settings, windows, documents)
+        , session({ frame, form, panels, commands, views, *ui.lblWorking, sides }, busy, settings,
+              windows, documents, catalogs, search)
         , keys(form, *ui.TreeView1, [this] { icons.RemoveSelected(); })
         , panelKeys(form, panels, commands)
     {
@@ -113,6 +122,10 @@ Form1::Form1(QWidget& frame, Ask& ask)
     connect(
         &parts.watcher, &LoadWatcher::Began, this, [&parts] { parts.views.ShowPanelsByOption(); });
     connect(&parts.watcher, &LoadWatcher::Began, &parts.transparency, &TransparencyCommands::Close);
+    connect(&parts.watcher, &LoadWatcher::Began, &parts.appList, &AppListCommands::CloseWindows);
+    connect(
+        &parts.catalogs, &CatalogReading::Read, &parts.addIcons, &AddIconCommands::ShowAvailable);
+    connect(&parts.saving, &Saving::FileNamed, &parts.appList, &AppListCommands::DocumentChanged);
     connect(
         &parts.watcher, &LoadWatcher::Cleared, &parts.addIcons, &AddIconCommands::DocumentChanged);
     connect(
@@ -138,6 +151,7 @@ void Form1::StartUp(const QString& programFolder, const QString& userFolder)
 {
     m_parts->session.StartUp(programFolder, userFolder);
     m_ui->TreeView1->setFocus();
+    m_parts->appList.DoStartup();
 }
 
 void Form1::ExitProgram() { m_parts->session.Exit(); }

@@ -43,7 +43,7 @@ void IconCommands::NodeClick(const QTreeWidgetItem& node)
 void IconCommands::ShowSelected(const QTreeWidgetItem& node)
 {
     m_view.searchNote.setVisible(false);
-    m_view.searchNote.clear();
+    m_view.searchNote.Show({});
     const SelectionEffects effects =
         SelectNode(ToLatin1(node.text(0)), ToLatin1(m_view.tree.Root()->text(0)));
     if (effects.endsUndo)

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "forms/common/Ask.h"
+#include "forms/common/CutLabel.h"
 #include "forms/imaging/Panels.h"
 #include "forms/main/Commands.h"
 #include "forms/main/IconTreeView.h"
 #include "forms/main/Notes.h"
 #include "forms/main/StatusTexts.h"
 
-#include <QLabel>
 #include <QObject>
 
 namespace vypx {
@@ -28,7 +28,7 @@ public:
         Commands& commands;
         StatusTexts& status;
         Notes& notes;
-        QLabel& searchNote;
+        CutLabel& searchNote;
     };
 
     IconCommands(const View& view, Ask& ask);

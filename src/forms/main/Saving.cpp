@@ -138,6 +138,7 @@ void Saving::TakeTargetFolder()
     m_settings.Save();
     m_view.status.ShowFileName(FileName);
     m_view.status.ShowTitle();
+    emit FileNamed();
 }
 
 /// Writes the iconset. A failure shows no box but a note that stays until a save succeeds; the old
@@ -148,6 +149,7 @@ bool Saving::Compile()
         CompileTarget target = TargetFromFlags();
         target.depth = m_windows.DepthOfDocument();
         const std::string note = NoteOf(CompileIconset(target));
+        LoadedAsTemplate = false; // whatever its ending, the file holds pictures now
         m_view.notes.SaveSucceeded();
         m_view.notes.Tell(Notes::Kind::Save, FromLatin1(note));
         return true;

@@ -33,6 +33,10 @@ public:
     void SaveIconset();
     void SaveAs();
 
+signals:
+    /// FileName is another one.
+    void FileNamed();
+
 private:
     void Message(std::string_view text);
     bool PassesChecks();

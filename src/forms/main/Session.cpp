@@ -1,12 +1,10 @@
 #include "forms/main/Session.h"
 
-#include "catalogs/CatalogFiles.h"
 #include "document/AppFolders.h"
 #include "document/Document.h"
 #include "document/SettingsFile.h"
 #include "document/WorkingFolder.h"
 #include "forms/common/Look.h"
-#include "forms/common/Text.h"
 #include "settings/Settings.h"
 
 #include <QApplication>
@@ -21,14 +19,15 @@ constexpr int LeastSide = 200;
 
 } // namespace
 
-Session::Session(const View& view, Ask& ask, BusyGuard& busy, SavedSettings& settings,
-    SettingsWindows& windows, Documents& documents)
+Session::Session(const View& view, BusyGuard& busy, SavedSettings& settings,
+    SettingsWindows& windows, Documents& documents, CatalogReading& catalogs, AppSearch& search)
     : m_view(view)
-    , m_ask(ask)
     , m_busy(busy)
     , m_settings(settings)
     , m_windows(windows)
     , m_documents(documents)
+    , m_catalogs(catalogs)
+    , m_search(search)
 {
     view.commands.Connect(Command::Exit, &view.form, [this] { Exit(); });
 }
@@ -46,7 +45,7 @@ void Session::StartUp(const QString& programFolder, const QString& userFolder)
     m_view.commands.Enable(When::Document, false);
     IconTable.assign(1, {});
     BitmapTable.assign(1, {});
-    ReadCatalogFiles();
+    m_catalogs.ReadAll();
     ShowInFrame();
     m_view.sides.ShowByOption();
     m_view.views.ShowByOption();
@@ -61,17 +60,6 @@ void Session::TakeWorkingFolder()
     if (!isCounted)
         m_settings.TellNotRead();
     MakeFolder(WorkFolder());
-}
-
-void Session::ReadCatalogFiles()
-{
-    QStringList notes;
-    const auto show = [this](std::string_view text) {
-        m_ask.Show(&m_view.form, { .text = FromLatin1(text) });
-    };
-    for (const CutCatalog& cut : ReadCatalogs(show))
-        notes << QString::fromStdString(NoteOf(cut));
-    m_view.notes.Tell(Notes::Kind::Catalog, notes.join('\n'));
 }
 
 void Session::PaintColours()
@@ -94,7 +82,7 @@ void Session::ShowInFrame()
 
 void Session::Exit()
 {
-    m_busy.WhenIdle([this] { End(); });
+    m_search.WhenIdle([this] { m_busy.WhenIdle([this] { End(); }); });
 }
 
 /// On purpose: there is no question about unsaved changes.

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "document/RunningCopies.h"
-#include "forms/common/Ask.h"
 #include "forms/imaging/Panels.h"
+#include "forms/main/AppSearch.h"
 #include "forms/main/BusyGuard.h"
+#include "forms/main/CatalogReading.h"
 #include "forms/main/Commands.h"
 #include "forms/main/Documents.h"
-#include "forms/main/Notes.h"
 #include "forms/main/SavedSettings.h"
 #include "forms/main/SettingsWindows.h"
 #include "forms/main/SideWindows.h"
@@ -28,35 +28,35 @@ public:
         Panels panels;
         Commands& commands;
         ViewEntries& views;
-        Notes& notes;
         QLabel& working;
         SideWindows& sides;
     };
 
-    Session(const View& view, Ask& ask, BusyGuard& busy, SavedSettings& settings,
-        SettingsWindows& windows, Documents& documents);
+    Session(const View& view, BusyGuard& busy, SavedSettings& settings, SettingsWindows& windows,
+        Documents& documents, CatalogReading& catalogs, AppSearch& search);
 
-    /// From the first step to the idle main window. Folders are the platform's own paths. Throws
-    /// std::filesystem::filesystem_error when a working folder can't be made.
+    /// From the first step to the main window, before a search. Folders are the platform's own
+    /// paths. Throws std::filesystem::filesystem_error when a working folder can't be made.
     void StartUp(const QString& programFolder, const QString& userFolder);
 
     /// Leaves the program: at once, without a question about changes; during long work at its end.
+    /// A search is stopped.
     void Exit();
     bool HasEnded() const { return m_hasEnded; }
 
 private:
     void TakeWorkingFolder();
-    void ReadCatalogFiles();
     void PaintColours();
     void ShowInFrame();
     void End();
 
     View m_view;
-    Ask& m_ask;
     BusyGuard& m_busy;
     SavedSettings& m_settings;
     SettingsWindows& m_windows;
     Documents& m_documents;
+    CatalogReading& m_catalogs;
+    AppSearch& m_search;
     RunningCopies m_copies;
     bool m_hasEnded = false;
 };

@@ -29,6 +29,27 @@ TEST_F(AppSearchEnd, TheStopButtonEndsItAndKeepsWhatWasFound)
     EXPECT_EQ(NewApplications(), Many) << "the next one is not stopped";
 }
 
+TEST_F(AppSearchEnd, AllThatTheStoppedWalkHasFoundIsAdded)
+{
+    Prc("a.prc", PrcFile("New A", "appl", "NEWA"));
+    Prc("b.prc", PrcFile("New B", "appl", "NEWB"));
+    // So much that events come before the walk is through.
+    std::filesystem::create_directory_symlink("/usr", program.File("palm/c"));
+    Prc("d.prc", PrcFile("New D", "appl", "NEWD"));
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, [&] {
+        if (!PathOnShow().endsWith("b.prc"))
+            return;
+        watch.stop();
+        Press("cmdStopSearch");
+    });
+    watch.start(0);
+
+    SearchInFolder();
+
+    EXPECT_EQ(Names(), QStringList({ "Alpha", "Beta Panel", "New A", "New B" }));
+}
+
 TEST_F(AppSearchEnd, AStopWhileFilesAreReadKeepsThoseThatWere)
 {
     PutApplications(Many);

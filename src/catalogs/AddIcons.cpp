@@ -100,6 +100,11 @@ std::string NoteOfSharedKeys(std::size_t firstNew)
 
 } // namespace
 
+bool IsListed(std::string_view label)
+{
+    return label.size() >= ShortestLabel && Classify(label) != Catalog::None;
+}
+
 RowsOutcome ApplyAddIcons(std::span<const std::string> labels)
 {
     if (!FileLoaded || !Tree.HasRoot()) // a new iconset without a name has no tree

@@ -5,6 +5,7 @@
 
 #include <span>
 #include <string>
+#include <string_view>
 
 /// How icons enter the open document and change hands. What is done is done to IconTable,
 /// BitmapTable, Tree and the working folder; IconsetChanged is set where anything changed, and at
@@ -27,6 +28,9 @@ struct AssignRequest {
     SizeClass size = SizeClass::Large;
     std::string entry; ///< name of the catalog's entry that is current; empty: none is
 };
+
+/// Whether a catalog names the icon of that label, so that it can be added.
+bool IsListed(std::string_view label);
 
 /// Adds an icon without pictures for each label, in order. A label that the tree has already is
 /// passed over. What was added before a stop stays.

@@ -70,6 +70,13 @@ void CatalogList::Narrow(const QString& text)
     emit Filled();
 }
 
+void CatalogList::TakeKeys()
+{
+    setFocus(Qt::TabFocusReason);
+    if (selectedItems().isEmpty())
+        setCurrentRow(0);
+}
+
 void CatalogList::SelectNothing()
 {
     const QSignalBlocker quiet(this);

@@ -20,6 +20,8 @@ public:
     void ShowEntries(std::vector<AvailableIcon> entries);
     /// Shows the entries whose name holds the text, in any case; empty: all.
     void Narrow(const QString& text);
+    /// Has the focus, with an entry for the keys to go on from.
+    void TakeKeys();
     /// Nothing is selected or current.
     void SelectNothing();
 

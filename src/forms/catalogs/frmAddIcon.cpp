@@ -13,15 +13,6 @@
 
 namespace vypx {
 
-namespace {
-
-bool IsEnter(const QKeyEvent& press)
-{
-    return press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter;
-}
-
-} // namespace
-
 frmAddIcon::frmAddIcon(QWidget& form)
     : QDialog(&form)
     , m_ui(std::make_unique<Ui::frmAddIcon>())
@@ -115,6 +106,12 @@ void frmAddIcon::ShowAvailable(const PixelSize& highRes)
             return FindIconRow(label).has_value(); // added by a run that stopped later
         });
     Fill();
+}
+
+void frmAddIcon::ForgetUnlisted()
+{
+    m_ui->ListAddedIcons->RemoveIf([](const std::string& label) { return !IsListed(label); });
+    AddedChanged();
 }
 
 void frmAddIcon::ForgetAdded()
@@ -264,9 +261,7 @@ bool frmAddIcon::TakesKey(const QObject& watched, const QKeyEvent& press)
         return true;
     }
     if (&watched == m_ui->txtFilter && press.key() == Qt::Key_Down) {
-        list.setFocus(Qt::TabFocusReason);
-        if (list.selectedItems().isEmpty())
-            list.setCurrentRow(0);
+        list.TakeKeys();
         return true;
     }
     return false;

@@ -31,6 +31,8 @@ public:
     /// Offers what there is by now: the icons, the catalogs or the selected icon may be others.
     /// `highRes` is the size of its high-res picture on show; 0 x 0: none.
     void ShowAvailable(const PixelSize& highRes);
+    /// What the catalogs don't name any more waits no more.
+    void ForgetUnlisted();
     /// The document is another one: nothing is waiting to be added.
     void ForgetAdded();
 

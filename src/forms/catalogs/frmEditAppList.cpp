@@ -21,11 +21,6 @@ namespace vypx {
 
 namespace {
 
-bool IsEnter(const QKeyEvent& press)
-{
-    return press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter;
-}
-
 /// Of what was dropped.
 QStringList PrcFiles(const DraggedData& data)
 {
@@ -95,7 +90,7 @@ void frmEditAppList::Connect()
             m_ui->txtPalmSysType, m_ui->txtPalmSysCreat, m_ui->txtIconSearch })
         watched->installEventFilter(this);
     const auto canAdd = [this] {
-        return m_ui->cmdAddSingle->isEnabled() && !QApplication::activeModalWidget();
+        return isVisible() && m_ui->cmdAddSingle->isEnabled() && !QApplication::activeModalWidget();
     };
     const auto takes = [](const DraggedData& dragged) { return !PrcFiles(dragged).isEmpty(); };
     TakeDrops(*this,
@@ -121,6 +116,7 @@ void frmEditAppList::ShowEnabled()
              m_ui->frmPalmSys, m_ui->cmdSearchIcon, m_ui->cmdAppEditDone })
         control->setEnabled(idle);
     m_ui->frmPalmSys->setVisible(!BoolApps());
+    m_ui->cmdPalmSysApply->setEnabled(!BoolEditSys() || !SelectedItem.empty());
     m_ui->cmdDeleteApp->setEnabled(idle && !FileLoaded);
     m_ui->lblCloseIconset->setVisible(FileLoaded);
     m_ui->cmdApplyAndReload->setEnabled(idle && FileLoaded && !FileName.empty());
@@ -130,7 +126,8 @@ void frmEditAppList::ShowEnabled()
 
 void frmEditAppList::ShowSearching(bool on)
 {
-    if (on) // or the next press of the space bar would use another command
+    // Or the next press of the space bar would use another command.
+    if (on || m_ui->cmdStopSearch->hasFocus())
         m_ui->ComboAppList->setFocus();
     m_isSearching = on;
     ShowEnabled();
@@ -169,9 +166,11 @@ void frmEditAppList::opt_Click(bool on)
     if (!on)
         return;
     ShowBoxes({});
+    m_ui->txtFilter->clear();
     m_ui->ComboAppList->SelectNothing();
     ShowEnabled();
     ReadList();
+    m_ui->ComboAppList->scrollToTop();
 }
 
 void frmEditAppList::optSys_Click(bool on)
@@ -191,6 +190,7 @@ void frmEditAppList::list_Click()
         return;
     ShowBoxes(PalmSysBoxesOf(ToLatin1(current)));
     SelectedItem = ToLatin1(current);
+    ShowEnabled();
 }
 
 void frmEditAppList::ShowBoxes(const PalmSysBoxes& boxes)
@@ -199,6 +199,7 @@ void frmEditAppList::ShowBoxes(const PalmSysBoxes& boxes)
     m_ui->txtPalmSysName->setText(FromLatin1(boxes.name));
     m_ui->txtPalmSysType->setText(FromLatin1(boxes.type));
     m_ui->txtPalmSysCreat->setText(FromLatin1(boxes.creator));
+    ShowEnabled();
 }
 
 PalmSysBoxes frmEditAppList::Boxes() const
@@ -306,7 +307,7 @@ bool frmEditAppList::eventFilter(QObject* watched, QEvent* event)
     if (watched == m_ui->ComboAppList)
         return IsEnter(press) || press.key() == Qt::Key_Delete;
     if (watched == m_ui->txtFilter && press.key() == Qt::Key_Down) {
-        m_ui->ComboAppList->setFocus(Qt::TabFocusReason);
+        m_ui->ComboAppList->TakeKeys();
         return true;
     }
     if (!IsEnter(press) || watched == m_ui->txtFilter)

@@ -42,6 +42,8 @@ public:
     /// A search begins or has ended. A window that was to be closed meanwhile is closed then.
     void ShowSearching(bool on);
     void ShowPath(const QString& path);
+    /// One that was to be closed when the search ends stays after all.
+    void CallBack() { m_closesAtEnd = false; }
 
     /// Every way out. Amid a search it is stopped first.
     void done(int result) override;

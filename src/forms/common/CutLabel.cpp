@@ -12,7 +12,10 @@ CutLabel::CutLabel(QWidget* parent)
 void CutLabel::Show(const QString& text)
 {
     m_whole = text;
-    setText(fontMetrics().elidedText(text, Qt::ElideMiddle, width()));
+    for (QChar& letter : m_whole)
+        if (letter < QChar(' ')) // a line break in a file's name would make a second line
+            letter = ' ';
+    setText(fontMetrics().elidedText(m_whole, Qt::ElideMiddle, width()));
 }
 
 void CutLabel::resizeEvent(QResizeEvent* event)

@@ -18,6 +18,14 @@ int Count(QWidget& window, int more)
 
 } // namespace
 
+void HoldWindow(QWidget& window, bool on)
+{
+    if (on || window.parentWidget()->isEnabled())
+        window.setEnabled(!on);
+    else
+        window.setAttribute(Qt::WA_ForceDisabled, false);
+}
+
 DisabledWindow::DisabledWindow(QWidget& window)
     : m_window(&window)
 {

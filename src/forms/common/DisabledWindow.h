@@ -20,4 +20,8 @@ private:
     QPointer<QWidget> m_window;
 };
 
+/// Keeps a window that belongs to another one from taking input, or lets it go; as long as the
+/// other one is disabled it follows that one.
+void HoldWindow(QWidget& window, bool on);
+
 } // namespace vypx

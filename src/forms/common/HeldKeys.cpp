@@ -6,6 +6,11 @@
 
 namespace vypx {
 
+bool IsEnter(const QKeyEvent& press)
+{
+    return press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter;
+}
+
 void HeldKey::Released(const QKeyEvent& release)
 {
     m_key = release.key();

@@ -6,6 +6,9 @@ class QKeyEvent;
 
 namespace vypx {
 
+/// Enter of the keyboard or of its number pad.
+bool IsEnter(const QKeyEvent& press);
+
 /// Whether presses of a key come from holding it down. Desktops mark such presses, but under X11
 /// not reliably: there a press at the very moment of the key's own release is one as well.
 class HeldKey {

@@ -68,6 +68,13 @@ void AddIconCommands::ShowAvailable()
         m_window->ShowAvailable(HighResOnShow());
 }
 
+void AddIconCommands::CatalogsChanged()
+{
+    if (IsOpen() && !AddIconAssignMode)
+        m_window->ForgetUnlisted();
+    ShowAvailable();
+}
+
 void AddIconCommands::DocumentChanged()
 {
     if (!IsOpen())

@@ -32,6 +32,9 @@ public:
     void cmdAddIcon_Click();
     void cmdAssignApp_Click();
 
+    /// A catalog was read anew.
+    void CatalogsChanged();
+
     /// The document has ended, or another one has begun: nothing is waiting to be added, and there
     /// is no icon whose owner could be changed.
     void DocumentChanged();

@@ -2,10 +2,13 @@
 
 #include "catalogs/PrcSearch.h"
 #include "document/Document.h"
+#include "document/WorkingFolder.h"
 #include "forms/catalogs/frmAddAppManual.h"
 #include "forms/catalogs/frmEditAppList.h"
 #include "forms/main/SettingsWindows.h"
 #include "settings/Settings.h"
+
+#include <utility>
 
 namespace vypx {
 
@@ -31,7 +34,7 @@ bool AppListCommands::IsOpen() const { return m_editor && !m_editor->isHidden();
 void AppListCommands::cmdEditAppList_Click()
 {
     if (IsOpen()) {
-        m_editor->setWindowState(m_editor->windowState() & ~Qt::WindowMinimized);
+        m_editor->CallBack();
         BringUp(*m_editor);
     } else {
         OpenEditor();
@@ -101,7 +104,7 @@ void AppListCommands::SearchIn(const QString& folder)
 
 void AppListCommands::DoStartup()
 {
-    if (!StartupSearch)
+    if (!StartupSearch || m_search.IsRunning())
         return;
     StartupSearchRunning = true;
     UpdateAppList();
@@ -165,15 +168,20 @@ void AppListCommands::ShowProgress(const QString& path)
 /// brought is a template again.
 void AppListCommands::cmdApplyAndReload_Click()
 {
+    m_icons.FinishName();
     m_editor->hide();
+    // What is in no file would be lost without a word.
+    if (FileLoaded && (m_view.notes.SaysNotSaved() || !NamedFileExists(FileName)))
+        IconsetChanged = true;
     if (!m_documents.MayCloseIconset()) {
         BringUp(*m_editor);
         return;
     }
     if (FileLoaded) {
-        TemplateMode = LoadedAsTemplate;
+        const bool before = std::exchange(TemplateMode, LoadedAsTemplate);
         SkipOpenDialog = true;
         m_loading.LoadFile();
+        TemplateMode = before; // which a file that can't be read leaves
     }
     CloseWindows();
 }

@@ -26,6 +26,7 @@ public:
     struct View {
         QWidget& form;
         Commands& commands;
+        Notes& notes;
         QLabel& working;
         CutLabel& searchNote;
     };

@@ -2,6 +2,7 @@
 
 #include "document/Document.h"
 #include "document/IconStats.h"
+#include "forms/common/DisabledWindow.h"
 #include "forms/common/Text.h"
 #include "forms/main/frmNewIconset.h"
 #include "forms/settings/frmSelectCDepth.h"
@@ -137,7 +138,7 @@ void Documents::HoldWindows(bool on)
 {
     m_settings.HoldDepthWindow(on);
     if (m_newIconset)
-        m_newIconset->setEnabled(!on);
+        HoldWindow(*m_newIconset, on);
 }
 
 void Documents::ShowNewIconset()

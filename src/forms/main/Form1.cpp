@@ -84,8 +84,8 @@ struct Form1::Parts {
               { form, *ui.TreeView1, panels, commands, status, notes }, ask, busy, watcher, icons)
         , documents({ form, panels, commands, status, notes }, ask, loading, icons, windows)
         , addIcons({ form, *ui.TreeView1, panels, commands, notes }, ask, busy, icons)
-        , appList({ form, commands, *ui.lblWorking, *ui.lblSearchingApp }, ask, search, catalogs,
-              icons, loading, documents)
+        , appList({ form, commands, notes, *ui.lblWorking, *ui.lblSearchingApp }, ask, search,
+              catalogs, icons, loading, documents)
         , saving({ form, commands, status, notes }, ask, icons, settings, windows)
         , pictures({ form, *ui.TreeView1, panels, commands, status, notes, *ui.lblWorking }, ask,
               busy, icons, settings, windows, views)
@@ -124,7 +124,7 @@ Form1::Form1(QWidget& frame, Ask& ask)
     connect(&parts.watcher, &LoadWatcher::Began, &parts.transparency, &TransparencyCommands::Close);
     connect(&parts.watcher, &LoadWatcher::Began, &parts.appList, &AppListCommands::CloseWindows);
     connect(
-        &parts.catalogs, &CatalogReading::Read, &parts.addIcons, &AddIconCommands::ShowAvailable);
+        &parts.catalogs, &CatalogReading::Read, &parts.addIcons, &AddIconCommands::CatalogsChanged);
     connect(&parts.saving, &Saving::FileNamed, &parts.appList, &AppListCommands::DocumentChanged);
     connect(
         &parts.watcher, &LoadWatcher::Cleared, &parts.addIcons, &AddIconCommands::DocumentChanged);

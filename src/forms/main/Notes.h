@@ -24,6 +24,8 @@ public:
 
     void SaveFailed(const QString& why);
     void SaveSucceeded();
+    /// The last save failed.
+    bool SaysNotSaved() const { return !m_notSaved.isHidden(); }
 
     /// An empty text takes the kind's note away.
     void Tell(Kind kind, const QString& text);

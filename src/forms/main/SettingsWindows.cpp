@@ -1,5 +1,6 @@
 #include "forms/main/SettingsWindows.h"
 
+#include "forms/common/DisabledWindow.h"
 #include "forms/common/Text.h"
 #include "forms/settings/frmProgOptions.h"
 #include "forms/settings/frmSelectCDepth.h"
@@ -9,6 +10,7 @@ namespace vypx {
 
 void BringUp(QWidget& window)
 {
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
     window.show();
     window.raise();
     window.activateWindow();
@@ -74,7 +76,7 @@ bool SettingsWindows::AsksForDepth() const { return m_depthWindow && m_depthWind
 void SettingsWindows::HoldDepthWindow(bool on)
 {
     if (m_depthWindow)
-        m_depthWindow->setEnabled(!on);
+        HoldWindow(*m_depthWindow, on);
 }
 
 void SettingsWindows::TakeBackChoices()

@@ -115,6 +115,13 @@ TEST_F(Reload, AFileThatHasVanishedIsNoted)
     OpenEditor();
     std::filesystem::remove(program.File("set.prc"));
 
+    ask.Answer(QMessageBox::Cancel);
+    Press("cmdApplyAndReload");
+    EXPECT_EQ(Messages().back(),
+        "The current iconset has been modified.\n\nAre you sure you want to close it?");
+    EXPECT_TRUE(FileLoaded) << "it is nowhere else";
+
+    ask.Answer(QMessageBox::Ok);
     Press("cmdApplyAndReload");
 
     EXPECT_EQ(Find<QLabel>("lblNote").text(), "set.prc could not be read.");

@@ -9,6 +9,7 @@ class NoAsk : public Ask {
     QMessageBox::StandardButton Show(QWidget*, const Box&) override { return QMessageBox::Ok; }
     QString OpenFile(QWidget*, const OpenQuestion&) override { return {}; }
     std::optional<QString> SaveFile(QWidget*, const SaveQuestion&) override { return {}; }
+    QString ChooseFolder(QWidget*, const FolderQuestion&) override { return {}; }
 };
 
 } // namespace vypx

@@ -181,6 +181,7 @@ void frmEditAppList::optSys_Click(bool on)
         list_Click();
     else
         ShowBoxes({});
+    ShowEnabled();
 }
 
 void frmEditAppList::list_Click()

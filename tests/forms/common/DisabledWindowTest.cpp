@@ -37,6 +37,31 @@ TEST_F(Disabled, TheWindowAndWhatItHoldsAreUsableAgainAfterwards)
     EXPECT_TRUE(child.isEnabled());
 }
 
+TEST_F(Disabled, AHeldChildThatIsLetGoFollowsTheWindow)
+{
+    QDialog child(&window);
+    HoldWindow(child, true);
+    EXPECT_FALSE(child.isEnabled());
+    {
+        const DisabledWindow disabled(window);
+        HoldWindow(child, false);
+        EXPECT_FALSE(child.isEnabled()) << "it would be used over a window that waits";
+    }
+    EXPECT_TRUE(child.isEnabled());
+}
+
+TEST_F(Disabled, AHeldChildStaysSoWhenTheWindowIsFreed)
+{
+    QDialog child(&window);
+    {
+        const DisabledWindow disabled(window);
+        HoldWindow(child, true);
+    }
+    EXPECT_FALSE(child.isEnabled());
+    HoldWindow(child, false);
+    EXPECT_TRUE(child.isEnabled());
+}
+
 TEST_F(Disabled, TheLastOfSeveralHoldersFreesItWhicheverThatIs)
 {
     for (const bool firstGoesFirst : { true, false }) {

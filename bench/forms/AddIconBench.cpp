@@ -12,7 +12,7 @@
 #include "settings/Settings.h"
 #include "support/TempFolder.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -128,11 +128,3 @@ BENCHMARK(TypeALetter)->Unit(benchmark::kMillisecond);
 BENCHMARK(AddFiveHundred)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char** argv)
-{
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

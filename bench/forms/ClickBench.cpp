@@ -13,7 +13,6 @@
 #include "support/Files.h"
 #include "support/TempFolder.h"
 
-#include <QApplication>
 #include <benchmark/benchmark.h>
 
 namespace {
@@ -95,11 +94,3 @@ BENCHMARK(ClickToDrawn)->Unit(benchmark::kMillisecond);
 BENCHMARK(UpdateIconStats)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char** argv)
-{
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

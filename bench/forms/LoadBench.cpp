@@ -13,7 +13,6 @@
 #include "support/Iconsets.h"
 #include "support/TempFolder.h"
 
-#include <QApplication>
 #include <benchmark/benchmark.h>
 #include <cstdlib>
 
@@ -94,11 +93,3 @@ BENCHMARK(LoadInTheWindow)->Unit(benchmark::kMillisecond);
 BENCHMARK(LoadByTheToolAndFillTheTree)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char** argv)
-{
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -14,7 +14,7 @@
 #include "support/Files.h"
 #include "support/TempFolder.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <benchmark/benchmark.h>
@@ -95,14 +95,7 @@ void PreviewBarStep(benchmark::State& state)
     bar.setSliderDown(false);
 }
 
-} // namespace
+BENCHMARK(DragStep)->Unit(benchmark::kMillisecond);
+BENCHMARK(PreviewBarStep)->Unit(benchmark::kMillisecond);
 
-int main(int argc, char** argv)
-{
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RegisterBenchmark("DragStep", DragStep)->Unit(benchmark::kMillisecond);
-    benchmark::RegisterBenchmark("PreviewBarStep", PreviewBarStep)->Unit(benchmark::kMillisecond);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}
+} // namespace

@@ -11,7 +11,7 @@
 #include "support/Files.h"
 #include "support/TempFolder.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QPushButton>
 #include <QScrollBar>
 #include <benchmark/benchmark.h>
@@ -78,11 +78,3 @@ BENCHMARK(DragPreviewColour)
     ->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char** argv)
-{
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

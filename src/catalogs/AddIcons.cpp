@@ -1,21 +1,11 @@
 #include "catalogs/ResourceIds.h"
 #include "catalogs/RowParts.h"
-#include "document/PictureState.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace vypx {
 
 namespace {
-
-/// The icon that the launcher lists under exactly that label. Null: none.
-const LauncherRow* FindLauncherRow(std::string_view label)
-{
-    const auto found = std::find_if(
-        VYTable.begin(), VYTable.end(), [&](const LauncherRow& row) { return row.name == label; });
-    return found == VYTable.end() ? nullptr : &*found;
-}
 
 /// The catalog that the label's name stands in. On purpose: an application comes first, so an icon
 /// of the launcher that bears its name becomes the application's.
@@ -83,6 +73,11 @@ RowsOutcome AddIcon(const std::string& label, ResourceIds& ids)
                                                   : AddIcon(label, catalog, ids);
 }
 
+std::string Joined(const std::string& first, const std::string& second)
+{
+    return first + (first.empty() || second.empty() ? "" : " ") + second;
+}
+
 /// New icons whose resource others have too, as happens beyond the last ID.
 std::string NoteOfSharedKeys(std::size_t firstNew)
 {
@@ -115,16 +110,17 @@ RowsOutcome ApplyAddIcons(std::span<const std::string> labels)
     for (const std::string& label : labels) {
         if (IsTaken(label))
             continue;
-        const std::string before = std::exchange(outcome, AddIcon(label, ids)).node;
+        const RowsOutcome before = std::exchange(outcome, AddIcon(label, ids));
         if (!outcome.isDone) {
-            outcome.node = before;
+            outcome.node = before.node;
             if (outcome.note.empty())
                 outcome.note = Quoted(label) + " could not be added.";
-            break;
         }
+        outcome.note = Joined(before.note, outcome.note);
+        if (!outcome.isDone)
+            break;
     }
-    if (const std::string shared = NoteOfSharedKeys(firstNew); !shared.empty())
-        outcome.note += (outcome.note.empty() ? "" : " ") + shared;
+    outcome.note = Joined(outcome.note, NoteOfSharedKeys(firstNew));
     if (outcome.isDone && outcome.node.empty())
         outcome.note = "No icon was added: "
             + std::string(labels.empty() ? "the list of icons to be added was empty."

@@ -108,31 +108,6 @@ private:
     std::shared_ptr<const IniText> m_file = ReadIni(AppListFile());
 };
 
-/// A search's listener as the second stage sees it: the stop that ended the walk is used up, until
-/// it was taken back.
-class BehindTheWalk : public SearchListener {
-public:
-    BehindTheWalk(SearchListener& listener, const WalkEnd& walk)
-        : m_listener(listener)
-        , m_isUsedUp(walk.wasStopped && listener.StopAsked())
-    {
-    }
-
-    void Show(const CatalogBox& box) override { m_listener.Show(box); }
-    void RunEvents() override { m_listener.RunEvents(); }
-    bool StopAsked() override
-    {
-        const bool isAsked = m_listener.StopAsked();
-        m_isUsedUp = m_isUsedUp && isAsked;
-        return isAsked && !m_isUsedUp;
-    }
-    bool LeaveAsked() override { return m_listener.LeaveAsked(); }
-
-private:
-    SearchListener& m_listener;
-    bool m_isUsedUp;
-};
-
 PrcVerdict VerdictOf(EntryFate fate)
 {
     return fate == EntryFate::Added    ? PrcVerdict::Added
@@ -186,10 +161,8 @@ SearchEnd SearchAndAdd(SearchListener& listener)
 {
     listPRC.clear();
     SearchEnd end{ .walk = SearchPrcFiles(listener) };
-    if (!ScanHasNew || (end.walk.wasStopped && listener.LeaveAsked()))
-        return end;
-    BehindTheWalk second(listener, end.walk);
-    end.add = AddPrcFiles(second);
+    if (ScanHasNew)
+        end.add = AddPrcFiles(listener);
     return end;
 }
 

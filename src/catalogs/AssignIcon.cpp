@@ -1,8 +1,8 @@
 #include "catalogs/AvailableIcons.h"
+#include "catalogs/CatalogFiles.h"
 #include "catalogs/MovedPictures.h"
 #include "catalogs/ResourceIds.h"
 #include "catalogs/RowParts.h"
-#include "document/WorkingFolder.h"
 #include "settings/Inifile.h"
 
 namespace vypx {
@@ -63,7 +63,7 @@ RowsOutcome MoveTo(int id, std::size_t row, const AssignRequest& request)
 std::optional<int> IdInCatalogFile(const std::string& entry)
 {
     cInifile ini;
-    ini.path(AppFolder + BelowFolder("VY_Icons.dat"));
+    ini.path(VYIconsFile());
     ini.Section(entry);
     ini.key("ID");
     return LauncherId(ini.Value());

@@ -1,9 +1,7 @@
 #include "catalogs/AvailableIcons.h"
 
-#include "document/Catalogs.h"
-#include "document/Document.h"
+#include "catalogs/RowParts.h"
 
-#include <algorithm>
 #include <string_view>
 #include <unordered_set>
 
@@ -54,12 +52,6 @@ SizeClass OtherSize(SizeClass size)
 bool IsLarger(const PixelSize& size, const PixelSize& bound)
 {
     return size.width > bound.width || size.height > bound.height;
-}
-
-bool IsListedByLauncher(const std::string& label)
-{
-    return std::any_of(
-        VYTable.begin(), VYTable.end(), [&](const LauncherRow& row) { return row.name == label; });
 }
 
 } // namespace
@@ -135,7 +127,7 @@ std::vector<std::string> LabelsInBothSizes(
         labels = { name }; // it has no other size
     const TakenLabels taken(added);
     std::erase_if(labels, [&](const std::string& label) {
-        return taken.Has(label) || (isLauncher && !IsListedByLauncher(label));
+        return taken.Has(label) || (isLauncher && !FindLauncherRow(label));
     });
     return labels;
 }

@@ -45,6 +45,8 @@ const OwnerFile PalmFile{
     .failed = "Error reading PalmApp.Dat file!!!",
 };
 
+constexpr std::string_view LauncherFile = "VY_Icons.dat";
+
 std::string& CellOf(CatalogRow& row, std::size_t column, std::size_t lastColumn)
 {
     const std::array<std::string*, 4> cells{ &row.name, &row.type, &row.creator, &row.extra };
@@ -217,6 +219,7 @@ private:
 
 std::string AppListFile() { return AppFolder + BelowFolder(AppFile.file); }
 std::string PalmAppFile() { return AppFolder + BelowFolder(PalmFile.file); }
+std::string VYIconsFile() { return AppFolder + BelowFolder(LauncherFile); }
 
 std::string NoteOf(const CutCatalog& catalog)
 {
@@ -239,7 +242,7 @@ std::optional<CutCatalog> ReadPalmAppIni(const ShowMessage& show)
 
 std::optional<CutCatalog> ReadVYIconsIni(const ShowMessage& show)
 {
-    return ReadSections("VY_Icons.dat", VYTable, "Error! Can't find VY_Icons.dat.",
+    return ReadSections(LauncherFile, VYTable, "Error! Can't find VY_Icons.dat.",
         "Error reading VY_Icons.dat file!!!!", show,
         [](LauncherRow& row, cInifile& ini) { ReadLauncherItem(row, ini); });
 }

@@ -20,6 +20,7 @@ namespace vypx {
 /// Paths of the two that are written, in AppFolder.
 std::string AppListFile();
 std::string PalmAppFile();
+std::string VYIconsFile();
 
 /// Shows a text (Latin-1) in a box.
 using ShowMessage = std::function<void(std::string_view)>;

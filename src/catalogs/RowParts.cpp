@@ -51,6 +51,13 @@ const CatalogRow* FindEntry(Catalog catalog, std::string_view name)
     return found == table->end() ? nullptr : &*found;
 }
 
+const LauncherRow* FindLauncherRow(std::string_view label)
+{
+    const auto found = std::find_if(
+        VYTable.begin(), VYTable.end(), [&](const LauncherRow& row) { return row.name == label; });
+    return found == VYTable.end() ? nullptr : &*found;
+}
+
 Owner OwnerOfEntry(Catalog catalog, std::string_view name)
 {
     const CatalogRow* const entry = FindEntry(catalog, name);

@@ -41,6 +41,9 @@ RowsOutcome StoppedBy(const IconRow& holder);
 /// The first entry of AppTable or PalmTable with that name; null for another catalog.
 const CatalogRow* FindEntry(Catalog catalog, std::string_view name);
 
+/// The icon that the launcher lists under exactly that label; null: none.
+const LauncherRow* FindLauncherRow(std::string_view label);
+
 /// Owner of the icons of that entry; unknown for the launcher's and where there is no entry.
 Owner OwnerOfEntry(Catalog catalog, std::string_view name);
 

@@ -21,13 +21,10 @@ public:
     virtual void WalkEnded() { }
     /// Time to let pending events run.
     virtual void RunEvents() { }
-    /// Whether the search is to stop; asked after each RunEvents. It ends the stage that runs: what
-    /// the walk has found is still gone through, and what is new so far is still added. A stop amid
-    /// the walk may stand on: the second stage takes only a later one for its own.
-    virtual bool StopAsked() { return false; }
-    /// Whether the search is to end altogether, asked beside StopAsked: nothing more is gone
-    /// through, and what is new so far is still added.
-    virtual bool LeaveAsked() { return false; }
+    /// Whether a stop was asked for since the last call; comes after each RunEvents. A stop ends
+    /// the stage that runs: what the walk has found is still gone through, and what is new so far
+    /// is still added.
+    virtual bool TakeStop() { return false; }
 };
 
 /// Runs a listener's events in the steps of long work: at the first one, and then not before a
@@ -51,7 +48,7 @@ public:
         m_isUnderWay = true;
         m_listener.RunEvents();
         m_last = m_clock(); // the pause begins when the events are done
-        return !m_listener.StopAsked() && !m_listener.LeaveAsked();
+        return !m_listener.TakeStop();
     }
 
 private:

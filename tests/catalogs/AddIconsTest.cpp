@@ -227,6 +227,17 @@ TEST_F(AddIcons, OnPurposeTheTopOfTheRangeIsGivenAgainByEachRun)
     EXPECT_THAT(outcome.note, HasSubstr("Gamma (Small Icon)"));
 }
 
+TEST_F(AddIcons, AStopKeepsWhatIsToBeNotedOfTheIconsBeforeIt)
+{
+    AddRow("Beta Panel (Large Icon)", "tAIB9998");
+
+    const RowsOutcome outcome = Add({ "Alpha (Large Icon)", "Gamma (Large Icon)" });
+
+    EXPECT_EQ(Row("Alpha (Large Icon)").ResourceKey, "tAIB10000");
+    EXPECT_THAT(outcome.note, HasSubstr("tAIB10000 to \"Alpha\""));
+    EXPECT_THAT(outcome.note, HasSubstr("\"Gamma (Large Icon)\" could not be added."));
+}
+
 TEST_F(AddIcons, BelowTheTopOfTheRangeThereIsNothingToNote)
 {
     AddRow("Beta Panel (Large Icon)", "tAIB3500");

@@ -19,7 +19,7 @@ public:
     std::vector<CatalogBox> boxes;
     std::vector<std::string> found; ///< and "(end)" where the walk ended
     std::function<void()> events = [] {};
-    bool stops = false, leaves = false;
+    bool stops = false; // until that is taken
 
     void Show(const CatalogBox& box) override
     {
@@ -29,8 +29,7 @@ public:
     void PathFound(std::string_view path) override { found.emplace_back(path); }
     void WalkEnded() override { found.emplace_back("(end)"); }
     void RunEvents() override { events(); }
-    bool StopAsked() override { return stops; }
-    bool LeaveAsked() override { return leaves; }
+    bool TakeStop() override { return std::exchange(stops, false); }
 };
 
 /// Catalogs in the program's folder, and a folder "palm" to search.

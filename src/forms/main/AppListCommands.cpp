@@ -171,7 +171,7 @@ void AppListCommands::cmdApplyAndReload_Click()
     m_icons.FinishName();
     m_editor->hide();
     // What is in no file would be lost without a word.
-    if (FileLoaded && (m_view.notes.SaysNotSaved() || !NamedFileExists(FileName)))
+    if (FileLoaded && (m_view.notes.IsDocumentNotSaved() || !NamedFileExists(FileName)))
         IconsetChanged = true;
     if (!m_documents.MayCloseIconset()) {
         BringUp(*m_editor);

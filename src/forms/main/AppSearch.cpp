@@ -75,13 +75,6 @@ void AppSearch::Show(const CatalogBox& box)
     ShowCatalogBox(m_ask, m_boxParent ? m_boxParent.data() : &m_form, box);
 }
 
-/// A stop was meant for the walk alone.
-void AppSearch::WalkEnded()
-{
-    m_path.clear();
-    m_isStopped = false;
-}
-
 /// On purpose: with the user's input. What must not happen amid a search is disabled.
 void AppSearch::RunEvents()
 {

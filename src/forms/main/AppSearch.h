@@ -41,9 +41,9 @@ private:
     void Search();
     void Show(const CatalogBox& box) override;
     void PathFound(std::string_view path) override { m_path = path; }
-    void WalkEnded() override;
+    void WalkEnded() override { m_path.clear(); }
     void RunEvents() override;
-    bool StopAsked() override { return m_isStopped; }
+    bool TakeStop() override { return std::exchange(m_isStopped, false); }
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     QWidget& m_form;

@@ -17,9 +17,14 @@ void Notes::SaveFailed(const QString& why)
 {
     m_notSaved.setText(QObject::tr("The iconset was not saved. %1").arg(why));
     m_notSaved.setVisible(true);
+    m_isDocumentNotSaved = true;
 }
 
-void Notes::SaveSucceeded() { m_notSaved.setVisible(false); }
+void Notes::SaveSucceeded()
+{
+    m_notSaved.setVisible(false);
+    m_isDocumentNotSaved = false;
+}
 
 void Notes::Tell(Kind kind, const QString& text)
 {
@@ -31,6 +36,7 @@ void Notes::DocumentEnded()
 {
     for (const Kind kind : { Kind::Load, Kind::Save, Kind::Picture, Kind::Rows, Kind::Name })
         m_texts.erase(kind);
+    m_isDocumentNotSaved = false; // the note stays, as its file is still not written
     Show();
 }
 

@@ -24,8 +24,8 @@ public:
 
     void SaveFailed(const QString& why);
     void SaveSucceeded();
-    /// The last save failed.
-    bool SaysNotSaved() const { return !m_notSaved.isHidden(); }
+    /// The last save failed, and was of the document that is still open.
+    bool IsDocumentNotSaved() const { return m_isDocumentNotSaved; }
 
     /// An empty text takes the kind's note away.
     void Tell(Kind kind, const QString& text);
@@ -38,6 +38,7 @@ private:
     QLabel& m_notSaved;
     QLabel& m_others;
     std::map<Kind, QString> m_texts;
+    bool m_isDocumentNotSaved = false;
 };
 
 } // namespace vypx

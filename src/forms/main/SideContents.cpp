@@ -79,7 +79,7 @@ void SideContents::SelectNode(const QString& label)
         return;
     m_tree.setFocus(); // a key that follows is meant for the icon
     m_tree.scrollToItem(node);
-    m_tree.setCurrentItem(node);
+    m_tree.setCurrentItem(node); // last: events run amid it, and a load would delete the node
 }
 
 void SideContents::PaintPanels()

@@ -63,6 +63,23 @@ TEST_F(EditorEdges, WhatASaveCouldNotWriteIsAskedAboutBeforeAReload)
     EXPECT_TRUE(Editor()->isVisible());
 }
 
+TEST_F(EditorEdges, AFailedSaveOfAnotherDocumentAsksNothing)
+{
+    OpenIconset();
+    FileName = program.File("missing/set.prc");
+    WarnOverwrite = false;
+    Entry("mnuSave").trigger();
+    IconsetChanged = false;
+    OpenIconset("other.prc");
+    OpenEditor();
+
+    Press("cmdApplyAndReload");
+
+    EXPECT_TRUE(ask.shown.empty());
+    EXPECT_TRUE(FileLoaded);
+    EXPECT_TRUE(Find<QLabel>("lblNotSaved").isVisible()) << "it is still not written";
+}
+
 TEST_F(EditorEdges, AnIconThatNoCatalogNamesAnyMoreWaitsNoLonger)
 {
     OpenIconset();

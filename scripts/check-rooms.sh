@@ -14,8 +14,9 @@ declare -A may=(
     [imaging]="imaging document settings companion platform"
     [reader]="reader imaging catalogs document settings companion platform"
     [writer]="writer imaging catalogs document settings companion platform"
+    [install]="install document settings companion platform"
     [cli]="cli pictures writer reader imaging catalogs document settings companion platform"
-    [forms]="forms pictures writer reader imaging catalogs document settings companion platform"
+    [forms]="forms install pictures writer reader imaging catalogs document settings companion platform"
 )
 bad=0
 for room in */; do

@@ -35,8 +35,9 @@ std::error_code WriteItbl(
 
 /// One resource of the output.
 struct ResourceRow {
-    std::string lowFile, highFile; ///< bare names in the working folder, or empty
-    std::string key;               ///< four-letter type and decimal ID
+    std::string lowFile,
+        highFile;    ///< bare names in the working folder, or empty; NoImage in a template
+    std::string key; ///< four-letter type and decimal ID
     /// In all three columns a name without ".bin": the resource is that file of the working folder.
     bool IsPlainFile() const { return lowFile == key && highFile == key; }
 };
@@ -76,6 +77,14 @@ struct CompileFailure {
 std::optional<CompileFailure> CompilePRC(std::span<const ResourceRow> resources,
     std::span<const TransparencyRow> transparency, Palette palette8, Palette palette4, int depth,
     bool pack, const std::string& outputPath, const std::string& databaseName,
+    const std::string& workFolder);
+
+/// Makes a template: the same, but no picture is read. Each slot that a row names, be it by a file
+/// or by NoImage, holds one white pixel of 4 bits, not packed, whatever the depth and the pack
+/// flag.
+std::optional<CompileFailure> ExpTemplate(std::span<const ResourceRow> resources,
+    std::span<const TransparencyRow> transparency, Palette palette8, Palette palette4, int depth,
+    bool pack, const std::string& templatePath, const std::string& databaseName,
     const std::string& workFolder);
 
 } // namespace vypx

@@ -30,6 +30,8 @@ inline std::string LastDirIconsetLoad, LastDirIconsetSave, LastDirImageLoad, Las
 inline std::string PalmUserID;
 /// Where the automatic search looks on systems without the Palm Desktop; empty: nowhere.
 inline std::string PalmDesktopFolder;
+/// Sync folder of palm-sync, which "Save and Install" queues iconsets in; empty: none.
+inline std::string PalmSyncFolder;
 
 /// Puts every setting back to its default.
 void SetDefaultSettings();

@@ -18,12 +18,12 @@ struct IconIndex {
 
 /// A record for each application that the rows of IconTable name: by `AppList.dat`, else by
 /// `PalmApp.dat`, else by the row's own owner; unknown icons by Itbl. Only `tAIB` resources with
-/// IDs from 3500 to 9999 and pictures take part. An unknown icon never takes the place of one that
-/// is known.
-IconIndex CollectIconIndex();
+/// IDs from 3500 to 9999 and pictures take part, for a template also those without. An unknown icon
+/// never takes the place of one that is known.
+IconIndex CollectIconIndex(bool forTemplate = false);
 
 /// Writes `iTbl1000.bin` of the working folder; none when no application qualifies. Gives back what
 /// was written. Throws SaveFailure.
-IconIndex BuildIconTableResource();
+IconIndex BuildIconTableResource(bool forTemplate = false);
 
 } // namespace vypx

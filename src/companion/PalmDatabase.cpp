@@ -1,16 +1,14 @@
 #include "companion/PalmDatabase.h"
 
-#include "companion/BmpFile.h"
+#include "companion/BitmapFamilies.h"
 #include "companion/IconsetLimits.h"
 #include "companion/Numbers.h"
-#include "companion/PalmRecord.h"
 #include "platform/Platform.h"
 
 #include <algorithm>
 #include <chrono>
-#include <map>
+#include <functional>
 #include <numeric>
-#include <unordered_map>
 
 namespace vypx {
 
@@ -46,94 +44,6 @@ std::uint32_t PalmNow()
     return static_cast<std::uint32_t>(duration_cast<seconds>(system_clock::now() - Epoch).count());
 }
 
-class Compiler {
-public:
-    Compiler(std::span<const TransparencyRow> transparency, const RecordForm& form,
-        const std::string& workFolder)
-        : m_form(form)
-        , m_workFolder(workFolder)
-    {
-        for (const TransparencyRow& row : transparency)
-            if (!row.file.empty())
-                m_transparency[row.file] = &row; // a later row overrides an earlier one
-    }
-
-    /// Throws CompileFailure.
-    Bytes Body(const ResourceRow& row)
-    {
-        if (row.IsPlainFile())
-            return ReadFile(row.key + ".bin");
-        Bytes family;
-        if (!row.lowFile.empty())
-            family = Encoded(row.lowFile, [&](const Picture& picture, const Colour& colour) {
-                return EncodeLowDensity(picture, m_form, colour, !row.highFile.empty());
-            });
-        if (!row.highFile.empty()) {
-            const Bytes mark = HighDensityMark();
-            const Bytes record =
-                Encoded(row.highFile, [&](const Picture& picture, const Colour& colour) {
-                    return EncodeHighDensity(picture, m_form, colour);
-                });
-            family.insert(family.end(), mark.begin(), mark.end());
-            family.insert(family.end(), record.begin(), record.end());
-        }
-        return family;
-    }
-
-private:
-    using Colour = std::optional<Rgb>;
-
-    template <typename Encode>
-    Bytes Encoded(const std::string& name, const Encode& encode) const
-    {
-        const Picture picture = ReadPicture(name);
-        try {
-            return encode(picture, ColourOf(name));
-        } catch (const RecordTooLarge& failure) {
-            throw Failure(name, failure.what());
-        }
-    }
-
-    CompileFailure Failure(const std::string& name, const std::string& reason) const
-    {
-        return { .file = m_workFolder + name, .reason = reason };
-    }
-
-    Bytes ReadFile(const std::string& name) const
-    {
-        std::optional<Bytes> bytes = platform::ReadWholeFile(m_workFolder + name);
-        if (!bytes)
-            throw Failure(name, "it is missing or can't be read");
-        return *std::move(bytes);
-    }
-
-    Picture ReadPicture(const std::string& name) const
-    {
-        std::optional<Picture> picture = DecodeBmp(ReadFile(name));
-        if (!picture)
-            throw Failure(name, "it can't be read as a picture");
-        return *std::move(picture);
-    }
-
-    Colour ColourOf(const std::string& file) const
-    {
-        const auto found = m_transparency.find(file);
-        if (found == m_transparency.end() || found->second->flag != "1")
-            return std::nullopt;
-        const TransparencyRow& row = *found->second;
-        const auto component = [](const std::string& text) { return LeadingWhole(text, 0, 255); };
-        const auto red = component(row.red), green = component(row.green),
-                   blue = component(row.blue);
-        if (!red || !green || !blue)
-            return std::nullopt;
-        return Rgb{ *red, *green, *blue };
-    }
-
-    RecordForm m_form;
-    std::string m_workFolder;
-    std::unordered_map<std::string, const TransparencyRow*> m_transparency;
-};
-
 Bytes Header(const std::string& databaseName, std::size_t count)
 {
     constexpr std::size_t NameSize = 32;
@@ -156,11 +66,21 @@ Bytes Header(const std::string& databaseName, std::size_t count)
     return bytes;
 }
 
+/// Makes the bitmap family of a row with pictures.
+using FamilyMaker = std::function<Bytes(const ResourceRow&)>;
+
+/// Where a database goes, what it is called there, and where its plain files are.
+struct Output {
+    const std::string& path;
+    const std::string& databaseName;
+    const std::string& workFolder;
+};
+
 /// Throws CompileFailure.
-Bytes Database(std::span<const ResourceRow> resources, const std::string& databaseName,
-    const std::string& outputPath, Compiler& compiler)
+Bytes Database(
+    std::span<const ResourceRow> resources, const Output& output, const FamilyMaker& family)
 {
-    Bytes file = Header(databaseName, resources.size());
+    Bytes file = Header(output.databaseName, resources.size());
     std::size_t entry = file.size();
     file.resize(HeaderSize + EntrySize * resources.size() + Gap);
     for (const ResourceRow& row : resources) {
@@ -172,13 +92,34 @@ Bytes Database(std::span<const ResourceRow> resources, const std::string& databa
         std::copy(listed.begin(), listed.end(), file.begin() + static_cast<std::ptrdiff_t>(entry));
         entry += EntrySize;
         if (file.size() >= DataOffsetEnd)
-            throw CompileFailure{ outputPath, "no resource can begin behind the first 16 MiB" };
-        const Bytes body = compiler.Body(row);
+            throw CompileFailure{ output.path, "no resource can begin behind the first 16 MiB" };
+        const Bytes body =
+            row.IsPlainFile() ? ReadWorkingBytes(output.workFolder, row.key + ".bin") : family(row);
         if (body.size() + 1 > std::size_t{ MaxResourceSize }) // the last one is read 1 longer
-            throw CompileFailure{ outputPath, row.key + " would be 10000000 bytes or more" };
+            throw CompileFailure{ output.path, row.key + " would be 10000000 bytes or more" };
         file.insert(file.end(), body.begin(), body.end());
     }
     return file;
+}
+
+/// Makes the database and writes it, or says what was in the way.
+std::optional<CompileFailure> Write(
+    std::span<const ResourceRow> resources, const Output& output, const FamilyMaker& family)
+{
+    try {
+        if (resources.size() > MaxResources)
+            return CompileFailure{ output.path, "an iconset holds 2000 resources at most" };
+        if (output.path.empty())
+            return CompileFailure{ {}, "there is no file name" };
+        const Bytes file = Database(resources, output, family);
+        if (const std::error_code error = platform::ReplaceFile(output.path, file)) {
+            const platform::Refusal refusal = platform::ExplainRefusal(output.path, error);
+            return CompileFailure{ refusal.path, refusal.reason };
+        }
+        return std::nullopt;
+    } catch (const CompileFailure& failure) {
+        return failure;
+    }
 }
 
 } // namespace
@@ -208,23 +149,18 @@ std::optional<CompileFailure> CompilePRC(std::span<const ResourceRow> resources,
     bool pack, const std::string& outputPath, const std::string& databaseName,
     const std::string& workFolder)
 {
-    try {
-        Compiler compiler(transparency,
-            { .depth = depth, .packed = pack, .palette8 = palette8, .palette4 = palette4 },
-            workFolder);
-        if (resources.size() > MaxResources)
-            return CompileFailure{ outputPath, "an iconset holds 2000 resources at most" };
-        if (outputPath.empty())
-            return CompileFailure{ {}, "there is no file name" };
-        const Bytes file = Database(resources, databaseName, outputPath, compiler);
-        if (const std::error_code error = platform::ReplaceFile(outputPath, file)) {
-            const platform::Refusal refusal = platform::ExplainRefusal(outputPath, error);
-            return CompileFailure{ refusal.path, refusal.reason };
-        }
-        return std::nullopt;
-    } catch (const CompileFailure& failure) {
-        return failure;
-    }
+    const PictureFamilies pictures(transparency,
+        { .depth = depth, .packed = pack, .palette8 = palette8, .palette4 = palette4 }, workFolder);
+    return Write(resources, { outputPath, databaseName, workFolder },
+        [&](const ResourceRow& row) { return pictures.Of(row); });
+}
+
+std::optional<CompileFailure> ExpTemplate(std::span<const ResourceRow> resources,
+    std::span<const TransparencyRow>, Palette, Palette palette4, int, bool,
+    const std::string& templatePath, const std::string& databaseName, const std::string& workFolder)
+{
+    return Write(resources, { templatePath, databaseName, workFolder },
+        [&](const ResourceRow& row) { return FamilyWithoutPictures(row, palette4); });
 }
 
 } // namespace vypx

@@ -24,11 +24,15 @@ std::span<const std::uint8_t> BytesOf(std::string_view text)
 /// Whether a file cell holds a picture: "bmp" in any letter case.
 bool NamesABmp(const std::string& cell) { return LowerCase(cell).find("bmp") != std::string::npos; }
 
+/// What goes into a picture column: a cell that holds a picture, in a template also NoImage.
+std::string Column(const std::string& cell, bool forTemplate)
+{
+    return NamesABmp(cell) || (forTemplate && cell == NoImage) ? cell : std::string();
+}
+
 bool Qualifies(const IconRow& row)
 {
-    const bool hasPicture = NamesABmp(row.LowResFile) || NamesABmp(row.HighResFile);
-    const bool isKept = KeepUnknown || row.IconKind != KindUnknown;
-    return hasPicture && isKept && row.IconState != 0;
+    return (KeepUnknown || row.IconKind != KindUnknown) && row.IconState != 0;
 }
 
 /// Scratch files of an earlier compile must not get into this one.
@@ -60,19 +64,17 @@ void WriteVersionResource()
         throw SaveFailure(path, error);
 }
 
-std::vector<ResourceRow> PictureRows()
+std::vector<ResourceRow> PictureRows(bool forTemplate)
 {
     std::vector<ResourceRow> rows;
     std::unordered_set<std::string> keys;
     for (const IconRow& icon : IconTable) {
+        const std::string low = Column(icon.LowResFile, forTemplate);
+        const std::string high = Column(icon.HighResFile, forTemplate);
+        const bool isNamed = !low.empty() || !high.empty();
         // Icons that share a resource give one.
-        if (!Qualifies(icon) || !keys.insert(icon.ResourceKey).second)
-            continue;
-        rows.push_back({
-            .lowFile = NamesABmp(icon.LowResFile) ? icon.LowResFile : std::string(),
-            .highFile = NamesABmp(icon.HighResFile) ? icon.HighResFile : std::string(),
-            .key = icon.ResourceKey,
-        });
+        if (isNamed && Qualifies(icon) && keys.insert(icon.ResourceKey).second)
+            rows.push_back({ .lowFile = low, .highFile = high, .key = icon.ResourceKey });
     }
     return rows;
 }
@@ -99,6 +101,8 @@ std::vector<TransparencyRow> TransparencyRows()
 
 CompileTarget TargetFromFlags()
 {
+    if (ExportingTemplate)
+        return { .path = TemplatePath, .asTemplate = true };
     return { .path = FileName, .backUp = CreateBackup && !SavingAs };
 }
 
@@ -106,8 +110,8 @@ SaveReport CompileIconset(const CompileTarget& target)
 {
     DeleteScratchFiles();
     WriteVersionResource();
-    const IconIndex index = BuildIconTableResource();
-    std::vector<ResourceRow> resources = PictureRows();
+    const IconIndex index = BuildIconTableResource(target.asTemplate);
+    std::vector<ResourceRow> resources = PictureRows(target.asTemplate);
     const SaveReport report = ReportOn(resources, index);
     const auto addFile = [&](std::string_view name) {
         resources.push_back({ .lowFile = std::string(name),
@@ -120,9 +124,9 @@ SaveReport CompileIconset(const CompileTarget& target)
     const std::vector<TransparencyRow> transparency = TransparencyRows();
     if (target.backUp)
         BackUp(target.path);
-    const auto failure =
-        CompilePRC(resources, transparency, Palette8, Palette4, BitsOf(target.depth), UsePackbits,
-            target.path, DatabaseName, WorkFolder() + platform::PathSeparator);
+    const auto compile = target.asTemplate ? ExpTemplate : CompilePRC;
+    const auto failure = compile(resources, transparency, Palette8, Palette4, BitsOf(target.depth),
+        UsePackbits, target.path, DatabaseName, WorkFolder() + platform::PathSeparator);
     if (failure)
         throw SaveFailure(*failure);
     return report;

@@ -21,10 +21,11 @@ namespace {
 
 constexpr double ApplicationClass = 10'000'000'000'000, PanelClass = 20'000'000'000'000;
 
-bool TakesPart(const IconRow& row)
+bool TakesPart(const IconRow& row, bool forTemplate)
 {
-    const bool empty = !ImageFileValid(row.LowResFile) && !ImageFileValid(row.HighResFile);
-    return !empty && !row.IconLabel.empty() && row.IconState == 1 && CanBeIndexed(row.ResourceKey);
+    const bool hasPicture = ImageFileValid(row.LowResFile) || ImageFileValid(row.HighResFile);
+    return (hasPicture || forTemplate) && !row.IconLabel.empty() && row.IconState == 1
+        && CanBeIndexed(row.ResourceKey);
 }
 
 /// The entry of a catalog file by its section's name; characters 2 to 5 of a Creator are the ID.
@@ -143,12 +144,12 @@ private:
 
 } // namespace
 
-IconIndex CollectIconIndex()
+IconIndex CollectIconIndex(bool forTemplate)
 {
     IndexMaker maker;
     const IndexRows itbl = IndexRows::OfItbl();
     for (const IconRow& row : IconTable) {
-        if (!TakesPart(row))
+        if (!TakesPart(row, forTemplate))
             continue;
         const RowOwner from = OwnerOf(row, itbl);
         if (from.owner.IsKnown())
@@ -157,14 +158,14 @@ IconIndex CollectIconIndex()
     return maker.Taken();
 }
 
-IconIndex BuildIconTableResource()
+IconIndex BuildIconTableResource(bool forTemplate)
 {
     IconIndex kept;
     if (!FileLoaded)
         return kept;
     std::error_code ignored;
     std::filesystem::remove(platform::NativePath(WorkPath("iTbl.bin")), ignored);
-    const IconIndex all = CollectIconIndex();
+    const IconIndex all = CollectIconIndex(forTemplate);
     for (std::size_t i = 0; i < all.values.size(); ++i) {
         if (all.keys[i].entryClass == 0)
             continue;

@@ -3,9 +3,11 @@
 #include "cli/OpenIconset.h"
 #include "companion/Latin1.h"
 #include "document/Document.h"
+#include "reader/LoadFile.h"
 #include "settings/Settings.h"
 #include "writer/CompileIconset.h"
 #include "writer/SaveChecks.h"
+#include "writer/TemplateExport.h"
 
 #include <algorithm>
 
@@ -27,14 +29,33 @@ std::string NameToWrite(const std::string& utf8)
     return name;
 }
 
+/// What keeps the document from being written, in words; empty: nothing does.
+std::string_view WhyNot(const SaveOptions& options)
+{
+    if (!options.asTemplate)
+        return WhyNotSaved().value_or(std::string_view());
+    if (const auto why = WhyNotExported())
+        return *why;
+    return WouldReplaceOpenIconset(options.out) ? "a template can't take the place of FILE itself"
+                                                : std::string_view();
+}
+
+SaveReport Write(const SaveOptions& options)
+{
+    return options.asTemplate ? ExportTemplate(options.out)
+                              : CompileIconset({ .path = options.out });
+}
+
 } // namespace
 
 int SaveIconset(const SaveOptions& options)
 {
-    if (const auto why = WhyNotSaved()) {
-        Tell(*why);
+    if (const std::string_view why = WhyNot(options); !why.empty()) {
+        Tell(why);
         return 1;
     }
+    if (options.asTemplate && !HasTheRightExtension({ .path = options.out, .asTemplate = true }))
+        Tell("OUT does not end in .vpt: the program will not load it as a template");
     UsePackbits = options.packed;
     KeepUnknown = !options.dropUnknown;
     if (options.versionString)
@@ -42,7 +63,7 @@ int SaveIconset(const SaveOptions& options)
     if (options.databaseName)
         DatabaseName = NameToWrite(*options.databaseName);
     try {
-        Tell(NoteOf(CompileIconset({ .path = options.out }))); // `out` is complete all the same
+        Tell(NoteOf(Write(options))); // `out` is complete all the same
     } catch (const SaveFailure& failure) {
         Tell(failure.what());
         return 1;

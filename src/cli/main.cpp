@@ -9,9 +9,10 @@
 
 namespace {
 
-void AddOpenOptions(CLI::App& command, vypx::OpenOptions& options, const char* whatFileIs)
+void AddOpenOptions(CLI::App& command, vypx::OpenOptions& options)
 {
-    command.add_option("FILE", options.file, whatFileIs)->required();
+    command.add_option("FILE", options.file, "Iconset (.prc, .pdb) or template (.vpt)")->required();
+    command.add_flag("--template", options.asTemplate, "FILE is a template");
     command.add_option("--app-folder", options.appFolder, "Folder with the catalogs")
         ->required()
         ->check(CLI::ExistingDirectory);
@@ -27,8 +28,7 @@ void AddOpenOptions(CLI::App& command, vypx::OpenOptions& options, const char* w
 CLI::App& AddDump(CLI::App& tool, vypx::OpenOptions& options)
 {
     CLI::App* dump = tool.add_subcommand("dump", "Open an iconset and print it as JSON");
-    AddOpenOptions(*dump, options, "Iconset (.prc, .pdb) or template (.vpt)");
-    dump->add_flag("--template", options.asTemplate, "FILE is a template");
+    AddOpenOptions(*dump, options);
     return *dump;
 }
 
@@ -44,8 +44,10 @@ void AddSaveOptions(CLI::App& command, vypx::SaveOptions& options)
 CLI::App& AddConvert(CLI::App& tool, vypx::ConvertOptions& options)
 {
     CLI::App* convert = tool.add_subcommand("convert", "Open an iconset and save it as OUT");
-    AddOpenOptions(*convert, options.open, "Iconset (.prc, .pdb)");
+    AddOpenOptions(*convert, options.open);
     AddSaveOptions(*convert, options.save);
+    convert->add_flag("--export-template", options.save.asTemplate,
+        "Make OUT (.vpt) a template: the icons without their pictures");
     return *convert;
 }
 
@@ -53,7 +55,7 @@ CLI::App& AddImport(CLI::App& tool, vypx::ImportOptions& options)
 {
     CLI::App* command = tool.add_subcommand(
         "import", "Open an iconset, bring in the pictures of a list and save it as OUT");
-    AddOpenOptions(*command, options.open, "Iconset (.prc, .pdb)");
+    AddOpenOptions(*command, options.open);
     AddSaveOptions(*command, options.save);
     command
         ->add_option("--list", options.list,

@@ -26,13 +26,6 @@ struct NoIconset {
     std::string_view message;
 };
 
-bool HasTheRightExtension(const LoadRequest& request)
-{
-    const std::string& path = request.path;
-    const std::string ending = LowerCase(path.size() < 3 ? path : path.substr(path.size() - 3));
-    return request.asTemplate ? ending == "vpt" : ending == "prc" || ending == "pdb";
-}
-
 void RememberFolder(LoadListener& listener)
 {
     LastDirIconsetLoad = FolderOf(FileName);
@@ -201,6 +194,13 @@ LoadResult ReplaceDocument(const LoadRequest& request, WalkState& walk, LoadList
 }
 
 } // namespace
+
+bool HasTheRightExtension(const LoadRequest& request)
+{
+    const std::string& path = request.path;
+    const std::string ending = LowerCase(path.size() < 3 ? path : path.substr(path.size() - 3));
+    return request.asTemplate ? ending == "vpt" : ending == "prc" || ending == "pdb";
+}
 
 LoadReport LoadFile(const LoadRequest& request, LoadListener& listener)
 {

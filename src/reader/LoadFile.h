@@ -30,6 +30,10 @@ struct LoadReport {
 /// no fault of the file (no memory, a mistake of the program) passes up; then there is no document.
 LoadReport LoadFile(const LoadRequest& request, LoadListener& listener);
 
+/// Whether the request's path ends as its kind of file must: in "vpt", or in "prc" or "pdb", in any
+/// letter case.
+bool HasTheRightExtension(const LoadRequest& request);
+
 /// What the user should know of a load and no box has said, in plain words (UTF-8): that the file
 /// could not be read, that pictures could not be stored. Empty: nothing.
 std::string NoteOf(const LoadReport& report);

@@ -10,6 +10,7 @@ class NoAsk : public Ask {
     QString OpenFile(QWidget*, const OpenQuestion&) override { return {}; }
     std::optional<QString> SaveFile(QWidget*, const SaveQuestion&) override { return {}; }
     QString ChooseFolder(QWidget*, const FolderQuestion&) override { return {}; }
+    void Beep() override { }
 };
 
 } // namespace vypx

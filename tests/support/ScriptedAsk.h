@@ -94,10 +94,13 @@ public:
         return path;
     }
 
+    void Beep() override { ++beeps; }
+
     std::vector<Box> shown;
     std::vector<OpenQuestion> opened;
     std::vector<SaveQuestion> saved;
     std::vector<FolderQuestion> folders;
+    int beeps = 0;
 
 private:
     struct BoxAnswer {

@@ -4,6 +4,7 @@
 #include "forms/common/HeldKeys.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -61,12 +62,54 @@ std::optional<QString> Chosen(
     return dialog.selectedFiles().value(0);
 }
 
+/// Qt puts the ending behind a name that has none; this one, where it is asked to, behind every
+/// name that has another.
+class SaveDialog : public QFileDialog {
+public:
+    SaveDialog(QWidget* parent, const SaveQuestion& question)
+        : QFileDialog(parent, question.title)
+        , m_ending("." + question.defaultEnding)
+        , m_adds(question.addsEnding)
+    {
+        setFileMode(QFileDialog::AnyFile);
+        setAcceptMode(QFileDialog::AcceptSave);
+        setDefaultSuffix(question.defaultEnding);
+        // Dialogs of some desktops ask about the name without the ending that it is then given.
+        setOption(QFileDialog::DontUseNativeDialog);
+    }
+
+    QLineEdit* NameEdit() const { return findChild<QLineEdit*>("fileNameEdit"); }
+
+    /// What Qt will not put behind the name by itself.
+    QString LackingEnding() const
+    {
+        const QString file = selectedFiles().value(0);
+        const bool lacks =
+            m_adds && !QFileInfo(file).isDir() && !file.endsWith(m_ending, Qt::CaseInsensitive);
+        return lacks ? m_ending : QString();
+    }
+
+    /// With the name that will be written, so that the question about an existing file is about it.
+    void accept() override
+    {
+        QLineEdit* const edit = NameEdit();
+        if (const QString ending = LackingEnding();
+            edit && !edit->text().isEmpty() && !ending.isEmpty())
+            edit->setText(edit->text() + ending);
+        QFileDialog::accept();
+    }
+
+private:
+    QString m_ending;
+    bool m_adds;
+};
+
 /// Below the fields of a dialog that saves: the name of the file that will be written, with the
 /// ending that a name without one gets.
-void ShowNameToBeWritten(QFileDialog& dialog)
+void ShowNameToBeWritten(SaveDialog& dialog)
 {
     auto* const layout = qobject_cast<QGridLayout*>(dialog.layout());
-    const auto* const edit = dialog.findChild<QLineEdit*>("fileNameEdit");
+    const auto* const edit = dialog.NameEdit();
     if (!layout || !edit)
         return;
     auto* const note = new CutLabel(&dialog);
@@ -75,7 +118,9 @@ void ShowNameToBeWritten(QFileDialog& dialog)
     QObject::connect(edit, &QLineEdit::textChanged, note, [&dialog, note](const QString& typed) {
         const QFileInfo file(dialog.selectedFiles().value(0));
         const bool isName = !typed.isEmpty() && !file.isDir();
-        note->Show(isName ? QObject::tr("Will be written as %1").arg(file.fileName()) : QString());
+        note->Show(isName
+                ? QObject::tr("Will be written as %1").arg(file.fileName() + dialog.LackingEnding())
+                : QString());
     });
 }
 
@@ -92,12 +137,7 @@ QString ScreenAsk::OpenFile(QWidget* parent, const OpenQuestion& question)
 
 std::optional<QString> ScreenAsk::SaveFile(QWidget* parent, const SaveQuestion& question)
 {
-    QFileDialog dialog(parent, question.title);
-    dialog.setFileMode(QFileDialog::AnyFile);
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(question.defaultEnding);
-    // Dialogs of some desktops ask about the name without the ending that it is then given.
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    SaveDialog dialog(parent, question);
     ShowNameToBeWritten(dialog);
     return Chosen(dialog, question.folder, question.filters);
 }
@@ -111,5 +151,7 @@ QString ScreenAsk::ChooseFolder(QWidget* parent, const FolderQuestion& question)
     dialog.setOption(QFileDialog::ReadOnly);
     return Chosen(dialog, question.folder, {}).value_or(QString());
 }
+
+void ScreenAsk::Beep() { QApplication::beep(); }
 
 } // namespace vypx

@@ -29,6 +29,8 @@ struct SaveQuestion {
     QString folder;        ///< where it starts; empty or gone: where the program was started
     QStringList filters;   ///< as above
     QString defaultEnding; ///< without the dot; put behind a name that has none
+    /// It is put behind every name that does not end in it, in whatever letter case.
+    bool addsEnding = false;
 };
 
 /// A dialog that chooses a folder.
@@ -50,6 +52,8 @@ public:
     virtual std::optional<QString> SaveFile(QWidget* parent, const SaveQuestion& question) = 0;
     /// Path of the chosen folder; empty when the dialog was cancelled.
     virtual QString ChooseFolder(QWidget* parent, const FolderQuestion& question) = 0;
+    /// The sound of something that is done.
+    virtual void Beep() = 0;
 };
 
 /// Shows real boxes and dialogs.
@@ -59,6 +63,7 @@ public:
     QString OpenFile(QWidget* parent, const OpenQuestion& question) override;
     std::optional<QString> SaveFile(QWidget* parent, const SaveQuestion& question) override;
     QString ChooseFolder(QWidget* parent, const FolderQuestion& question) override;
+    void Beep() override;
 };
 
 } // namespace vypx

@@ -181,7 +181,7 @@ void AppListCommands::cmdApplyAndReload_Click()
         const bool before = std::exchange(TemplateMode, LoadedAsTemplate);
         SkipOpenDialog = true;
         m_loading.LoadFile();
-        TemplateMode = before; // which a file that can't be read leaves
+        TemplateMode = before; // a depth window that stands open may still lead to a template
     }
     CloseWindows();
 }

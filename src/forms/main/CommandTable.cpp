@@ -19,9 +19,9 @@ std::vector<CommandRow> Rows()
         { CloseIconset, "mnuCloseIconset", "&Close Iconset", QKeySequence::Close, Built, When::Document },
         { Save, "mnuSave", "&Save", QKeySequence::Save, Built, When::Document },
         { SaveAs, "mnuSaveAs", "S&ave As", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), Built, When::Document },
-        { SaveAndInstall, "mnuSaveandInstall", "Save and &Install", none, NotBuiltYet, When::Document },
-        { LoadTemplate, "mnuLoadTemplate", "&Load Template", none, NotBuiltYet, When::Always },
-        { ExportTemplate, "mnuExportTemplate", "&Export Template", none, NotBuiltYet, When::Document },
+        { SaveAndInstall, "mnuSaveandInstall", "Save and &Install", none, Built, When::Document },
+        { LoadTemplate, "mnuLoadTemplate", "&Load Template", none, Built, When::Always },
+        { ExportTemplate, "mnuExportTemplate", "&Export Template", none, Built, When::Document },
         // No key: it asks nothing, and Ctrl+Q is beside Ctrl+W.
         { Exit, "mnuExit", "&Exit", none, Built, When::Always },
         { ShowPreviewOptions, "mnuShowPrevOpt", "Show Preview Options", none, Built, When::Always, true },

@@ -22,9 +22,11 @@ Documents::Documents(
 {
     view.commands.Connect(Command::New, this, &Documents::New);
     view.commands.Connect(Command::Open, this, &Documents::Open);
+    view.commands.Connect(Command::LoadTemplate, this, &Documents::LoadTemplate);
     view.commands.Connect(Command::CloseIconset, this, &Documents::Close);
     connect(&settings, &SettingsWindows::DepthDone, this, &Documents::GoOn);
     connect(&settings, &SettingsWindows::DepthGivenUp, this, [this] {
+        TemplateMode = false;
         if (!AsksForName())
             m_settings.TakeBackChoices();
     });
@@ -36,8 +38,9 @@ Documents::Documents(
 /// The question before a changed document is left. On purpose: Yes never saves.
 bool Documents::MayLeave(Leaving command)
 {
-    const bool opens = command == Leaving::ForOpen;
-    const bool asks = IconsetChanged && (opens ? StatHighRes != 0 || StatLowRes != 0 : FileLoaded);
+    const bool hasWhatCounts =
+        command == Leaving::ForOpen ? StatHighRes != 0 || StatLowRes != 0 : FileLoaded;
+    const bool asks = IconsetChanged && hasWhatCounts;
     auto answer = QMessageBox::No;
     if (asks)
         answer = m_ask.Show(&m_view.form,
@@ -45,7 +48,7 @@ bool Documents::MayLeave(Leaving command)
                 .title = "Save Changes?",
                 .icon = QMessageBox::Information,
                 .buttons = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel });
-    if (opens && answer == QMessageBox::Yes)
+    if (command != Leaving::ForNew && answer == QMessageBox::Yes)
         m_ask.Show(&m_view.form, { .text = "Not in this version :-( " });
     if (asks && answer == QMessageBox::No)
         m_changesWhenAsked = IconsetChanged.Times();
@@ -61,7 +64,7 @@ void Documents::New()
     m_view.commands.Enable(
         { Command::AddIcon, Command::RemoveIcon, Command::AssignApp, Command::ClearDeleted },
         false);
-    PendingOpen = false;
+    PendingOpen = TemplateMode = false;
     PendingNew = true;
     if (PromptColorDepth)
         m_settings.AskForDepth();
@@ -74,17 +77,25 @@ void Documents::New()
 
 void Documents::Open()
 {
+    for (ImagePanel* panel : m_view.panels)
+        panel->ClearSizeLimit();
+    OpenFile(Leaving::ForOpen);
+}
+
+void Documents::LoadTemplate() { OpenFile(Leaving::ForTemplate); }
+
+void Documents::OpenFile(Leaving command)
+{
     ForgetDropped();
     m_view.commands.Enable(Command::ChangeDatabaseName, false);
     const bool wasPendingNew = std::exchange(PendingNew, false);
-    for (ImagePanel* panel : m_view.panels)
-        panel->ClearSizeLimit();
-    if (!MayLeave(Leaving::ForOpen)) {
+    if (!MayLeave(command)) {
         // The depth window that stands open for another command still leads there.
         PendingNew = wasPendingNew && m_settings.AsksForDepth();
         return;
     }
     PendingOpen = true;
+    TemplateMode = command == Leaving::ForTemplate;
     if (PromptColorDepth)
         m_settings.AskForDepth();
     else
@@ -98,7 +109,8 @@ void Documents::GoOn()
         ShowNewIconset();
     if (!PendingOpen)
         return;
-    if (ChangedSinceAsked() && !MayLeave(Leaving::ForOpen)) {
+    if (ChangedSinceAsked() && !MayLeave(TemplateMode ? Leaving::ForTemplate : Leaving::ForOpen)) {
+        TemplateMode = false;
         GiveUp();
     } else {
         ForgetDropped();

@@ -12,8 +12,9 @@ namespace vypx {
 
 class frmNewIconset;
 
-/// The commands that begin and end a document: New, Open, Close. The windows that New and Open
-/// show don't block, so the document can change under them; it is then asked about once more.
+/// The commands that begin and end a document: New, Open, Load Template, Close. The windows that
+/// the first three show don't block, so the document can change under them; it is then asked about
+/// once more.
 class Documents : public QObject {
     Q_OBJECT
 
@@ -31,6 +32,7 @@ public:
 
     void New();
     void Open();
+    void LoadTemplate();
     void Close();
     /// Asks the question before a changed document is closed. True: it may be, or it is unchanged.
     bool MayCloseIconset();
@@ -45,10 +47,11 @@ signals:
 
 private:
     /// A command that leaves the open document.
-    enum class Leaving { ForNew, ForOpen };
+    enum class Leaving { ForNew, ForOpen, ForTemplate };
 
     bool MayLeave(Leaving command);
     bool ChangedSinceAsked() const;
+    void OpenFile(Leaving command);
     void GoOn();
     void ForgetDropped();
     void ShowNewIconset();

@@ -131,8 +131,10 @@ void Drops::OpenDropped(const DropQuestion& question)
                    .icon = QMessageBox::Warning,
                    .buttons = QMessageBox::Ok | QMessageBox::Cancel })
             == QMessageBox::Ok;
-    if (opens)
+    if (opens) {
+        TemplateMode = false; // which a depth window may stand open for
         m_doors.load();
+    }
     DroppedFile = false;
 }
 

@@ -9,11 +9,13 @@
 #include "forms/main/Drops.h"
 #include "forms/main/ExportCommands.h"
 #include "forms/main/FormKeys.h"
+#include "forms/main/Installing.h"
 #include "forms/main/Menus.h"
 #include "forms/main/PanelKeys.h"
 #include "forms/main/PictureCommands.h"
 #include "forms/main/Saving.h"
 #include "forms/main/Session.h"
+#include "forms/main/TemplateExporting.h"
 #include "forms/main/TransparencyCommands.h"
 #include "ui_Form1.h"
 
@@ -57,6 +59,8 @@ struct Form1::Parts {
     AddIconCommands addIcons;
     AppListCommands appList;
     Saving saving;
+    Installing installing;
+    TemplateExporting templates;
     PictureCommands pictures;
     TransparencyCommands transparency;
     ExportCommands exports;
@@ -87,6 +91,8 @@ struct Form1::Parts {
         , appList({ form, commands, notes, *ui.lblWorking, *ui.lblSearchingApp }, ask, search,
               catalogs, icons, loading, documents)
         , saving({ form, commands, status, notes }, ask, icons, settings, windows)
+        , installing({ form, commands, status, notes }, ask, saving)
+        , templates({ form, commands, notes }, ask, icons, windows)
         , pictures({ form, *ui.TreeView1, panels, commands, status, notes, *ui.lblWorking }, ask,
               busy, icons, settings, windows, views)
         , transparency({ form, panels, commands, status }, windows)

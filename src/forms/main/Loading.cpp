@@ -24,6 +24,12 @@ void Loading::LoadFile()
 {
     if (m_busy.IsBusy())
         return;
+    ChooseAndLoad();
+    TemplateMode = false;
+}
+
+void Loading::ChooseAndLoad()
+{
     for (ImagePanel* panel : m_view.panels)
         panel->ClearPicture();
     m_icons.DisableSlotCommands();

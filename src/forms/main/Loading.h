@@ -27,7 +27,9 @@ public:
 
     Loading(const View& view, Ask& ask, BusyGuard& busy, LoadWatcher& watcher, IconCommands& icons);
 
-    /// Asks for an iconset, or takes the one that is waiting, and opens it.
+    /// Asks for an iconset, in TemplateMode for a template, or takes the one that is waiting, and
+    /// opens it. TemplateMode ends with it, whatever comes of it: no other command is to inherit
+    /// it.
     void LoadFile();
 
 signals:
@@ -39,6 +41,7 @@ signals:
     void NothingLeft();
 
 private:
+    void ChooseAndLoad();
     QString ChooseIconset();
     void LeaveCancelledLoad();
     LoadReport Load(const LoadRequest& request);

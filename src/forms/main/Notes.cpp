@@ -15,15 +15,36 @@ Notes::Notes(QLabel& notSaved, QLabel& others)
 
 void Notes::SaveFailed(const QString& why)
 {
-    m_notSaved.setText(QObject::tr("The iconset was not saved. %1").arg(why));
-    m_notSaved.setVisible(true);
+    m_notSavedText = QObject::tr("The iconset was not saved. %1").arg(why);
     m_isDocumentNotSaved = true;
+    ShowFailures();
 }
 
 void Notes::SaveSucceeded()
 {
-    m_notSaved.setVisible(false);
+    m_notSavedText.clear();
     m_isDocumentNotSaved = false;
+    ShowFailures();
+}
+
+void Notes::ExportFailed(const QString& why)
+{
+    m_notExportedText = QObject::tr("The template was not written. %1").arg(why);
+    ShowFailures();
+}
+
+void Notes::ExportSucceeded()
+{
+    m_notExportedText.clear();
+    ShowFailures();
+}
+
+void Notes::ShowFailures()
+{
+    QStringList lines{ m_notSavedText, m_notExportedText };
+    lines.removeAll(QString());
+    m_notSaved.setText(lines.join('\n'));
+    m_notSaved.setVisible(!lines.isEmpty());
 }
 
 void Notes::Tell(Kind kind, const QString& text)
@@ -34,9 +55,12 @@ void Notes::Tell(Kind kind, const QString& text)
 
 void Notes::DocumentEnded()
 {
-    for (const Kind kind : { Kind::Load, Kind::Save, Kind::Picture, Kind::Rows, Kind::Name })
+    for (const Kind kind :
+        { Kind::Load, Kind::Save, Kind::Picture, Kind::Rows, Kind::Install, Kind::Name })
         m_texts.erase(kind);
     m_isDocumentNotSaved = false; // the note stays, as its file is still not written
+    m_notExportedText.clear();
+    ShowFailures();
     Show();
 }
 

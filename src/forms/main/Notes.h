@@ -6,8 +6,8 @@
 
 namespace vypx {
 
-/// The main form's place for notes, which interrupt nobody. A save that failed has a line of its
-/// own, which stays until a save succeeds; all others share a second one, below each other.
+/// The main form's place for notes, which interrupt nobody. What failed to be written has a line of its
+/// own: a save until one succeeds. All others share a second one, below each other.
 class Notes {
 public:
     /// What a note is about; a new one takes the place of the one before of its kind.
@@ -16,6 +16,7 @@ public:
         Save,    ///< of one that succeeded; goes with its document
         Picture, ///< of the last command for a picture; goes with its document
         Rows,    ///< of new icons and new owners; goes with its document
+        Install, ///< of an iconset that was queued; goes with its document and the next save
         Name,    ///< characters that a name can't hold; goes with its document
         Catalog, ///< goes with the next reading of the catalogs
     };
@@ -24,6 +25,9 @@ public:
 
     void SaveFailed(const QString& why);
     void SaveSucceeded();
+    /// The same of a template; the note goes with the document.
+    void ExportFailed(const QString& why);
+    void ExportSucceeded();
     /// The last save failed, and was of the document that is still open.
     bool IsDocumentNotSaved() const { return m_isDocumentNotSaved; }
 
@@ -34,10 +38,12 @@ public:
 
 private:
     void Show();
+    void ShowFailures();
 
     QLabel& m_notSaved;
     QLabel& m_others;
     std::map<Kind, QString> m_texts;
+    QString m_notSavedText, m_notExportedText;
     bool m_isDocumentNotSaved = false;
 };
 

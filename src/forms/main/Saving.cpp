@@ -15,6 +15,14 @@ constexpr const char* NoImages = "Can't save. The iconset doesn't contain any im
 
 } // namespace
 
+QString FolderToSaveIn(bool takesLast)
+{
+    if (takesLast && DirExists(LastDirIconsetSave))
+        return PathText(LastDirIconsetSave);
+    const std::string ofIconset = FolderOf(FileName);
+    return DirExists(ofIconset) ? PathText(ofIconset) : QString();
+}
+
 Saving::Saving(const View& view, Ask& ask, IconCommands& icons, SavedSettings& settings,
     const SettingsWindows& windows)
     : m_view(view)
@@ -32,15 +40,13 @@ void Saving::Message(std::string_view text)
     m_ask.Show(&m_view.form, { .text = FromLatin1(text) });
 }
 
-void Saving::SaveIconset()
+SaveEnd Saving::SaveIconset()
 {
     if (!PassesChecks())
-        return;
-    if (FileName.empty())
-        SaveNewIconset();
-    else
-        SaveToKnownName();
+        return SaveEnd::Refused;
+    const SaveEnd end = FileName.empty() ? SaveNewIconset() : SaveToKnownName();
     m_view.status.ShowTitle();
+    return end;
 }
 
 bool Saving::PassesChecks()
@@ -52,7 +58,7 @@ bool Saving::PassesChecks()
     return !why;
 }
 
-void Saving::SaveToKnownName()
+SaveEnd Saving::SaveToKnownName()
 {
     if (NamedFileExists(FileName) && WarnOverwrite) {
         const auto answer = m_ask.Show(&m_view.form,
@@ -61,37 +67,41 @@ void Saving::SaveToKnownName()
                 .icon = QMessageBox::Warning,
                 .buttons = QMessageBox::Yes | QMessageBox::No });
         if (answer != QMessageBox::Yes)
-            return;
+            return SaveEnd::Refused;
     }
     if (!HasNormalImages()) {
         Message(NoImages);
-        return;
+        return SaveEnd::Refused;
     }
     SavingAs = false;
-    if (Compile())
-        IconsetChanged = false;
+    if (!Compile())
+        return SaveEnd::Failed;
+    IconsetChanged = false;
+    return SaveEnd::Saved;
 }
 
 /// On purpose: unlike Save As, this takes the document for unchanged before it is written, and goes
 /// on without a name.
-void Saving::SaveNewIconset()
+SaveEnd Saving::SaveNewIconset()
 {
     if (!HasNormalImages()) {
         Message(NoImages);
-        return;
+        return SaveEnd::Refused;
     }
     SavingAs = true;
     const std::optional<std::string> path = ChooseTarget();
     if (!path)
-        return;
+        return SaveEnd::Failed;
     FileName = *path;
     if (FileName.empty())
         Message("Can't save. Filename not specified.");
     TakeTargetFolder();
     IconsetChanged = false;
     SavingAs = true;
-    if (Compile())
-        SavingAs = false;
+    if (!Compile())
+        return SaveEnd::Failed;
+    SavingAs = false;
+    return SaveEnd::Saved;
 }
 
 void Saving::SaveAs()
@@ -115,17 +125,13 @@ void Saving::SaveAs()
 /// Empty when the dialog was cancelled.
 std::optional<std::string> Saving::ChooseTarget()
 {
-    SaveQuestion question{
+    const SaveQuestion question{
         .title = tr("Save Iconset"),
-        .folder = {},
+        .folder = FolderToSaveIn(UseLastDirs),
         .filters = { "Vantry Iconset (*.prc *.pdb)" },
         // On purpose: the template's ending on this dialog too.
         .defaultEnding = "vpt",
     };
-    if (UseLastDirs && DirExists(LastDirIconsetSave))
-        question.folder = PathText(LastDirIconsetSave);
-    else if (DirExists(FolderOf(FileName)))
-        question.folder = PathText(FolderOf(FileName));
     const std::optional<QString> chosen = m_ask.SaveFile(&m_view.form, question);
     if (!chosen)
         return std::nullopt;
@@ -151,6 +157,7 @@ bool Saving::Compile()
         const std::string note = NoteOf(CompileIconset(target));
         LoadedAsTemplate = false; // whatever its ending, the file holds pictures now
         m_view.notes.SaveSucceeded();
+        m_view.notes.Tell(Notes::Kind::Install, {}); // which was about the file before
         m_view.notes.Tell(Notes::Kind::Save, FromLatin1(note));
         return true;
     } catch (const std::exception& failure) {

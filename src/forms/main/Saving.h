@@ -14,6 +14,17 @@
 
 namespace vypx {
 
+/// How a save command ended.
+enum class SaveEnd {
+    Saved,
+    Refused, ///< by a check or an answer; the file is as it was
+    Failed,  ///< without a box: its dialog was cancelled, or the file could not be written
+};
+
+/// Where a dialog for a file to save starts: in the folder of the last save where that is to be
+/// taken, else in that of the open iconset.
+QString FolderToSaveIn(bool takesLast);
+
 /// The save commands: they ask, choose the file and tell what came of it.
 class Saving : public QObject {
     Q_OBJECT
@@ -30,7 +41,7 @@ public:
         const SettingsWindows& windows);
 
     /// Checks that the document can be saved, and saves it under its name or a new one.
-    void SaveIconset();
+    SaveEnd SaveIconset();
     void SaveAs();
 
 signals:
@@ -40,8 +51,8 @@ signals:
 private:
     void Message(std::string_view text);
     bool PassesChecks();
-    void SaveToKnownName();
-    void SaveNewIconset();
+    SaveEnd SaveToKnownName();
+    SaveEnd SaveNewIconset();
     std::optional<std::string> ChooseTarget();
     void TakeTargetFolder();
     bool Compile();

@@ -16,6 +16,7 @@ public:
     QString OpenFile(QWidget*, const OpenQuestion&) override { return file; }
     std::optional<QString> SaveFile(QWidget*, const SaveQuestion&) override { return {}; }
     QString ChooseFolder(QWidget*, const FolderQuestion&) override { return {}; }
+    void Beep() override { }
 
     QString file;
 };

@@ -1,5 +1,6 @@
 #include "catalogs/PalmHeader.h"
 
+#include "companion/DatabaseHeader.h"
 #include "platform/Folders.h"
 #include "settings/Blanks.h"
 
@@ -9,19 +10,15 @@ namespace vypx {
 
 namespace {
 
-constexpr std::size_t NameLength = 32, TypeOffset = 60, CreatorOffset = 64, IdLength = 4;
+constexpr std::size_t TypeOffset = 60, CreatorOffset = 64, IdLength = 4;
 
 /// Brackets would end the name of a section.
 char WithoutBracket(char letter) { return letter == '[' ? '{' : letter == ']' ? '}' : letter; }
 
 std::string NameOf(ByteView field)
 {
-    std::string name;
-    for (const std::uint8_t byte : field.Span()) {
-        if (byte < 32 || byte >= 127)
-            break;
-        name += WithoutBracket(static_cast<char>(byte));
-    }
+    std::string name = NameInField(field);
+    std::transform(name.begin(), name.end(), name.begin(), WithoutBracket);
     // An ini file keeps no blanks at a name's beginning either.
     return std::string(WithoutBlanks(name));
 }
@@ -43,7 +40,7 @@ bool PalmHeader::HasUnwritableCreator() const
 PalmHeader ReadPalmHeader(ByteView file)
 {
     return {
-        .name = NameOf(file.Part(0, NameLength)),
+        .name = NameOf(file.Part(0, DatabaseNameSize)),
         .type = file.Text(TypeOffset, IdLength),
         .creator = file.Text(CreatorOffset, IdLength),
     };

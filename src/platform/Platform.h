@@ -3,6 +3,7 @@
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -58,11 +59,15 @@ std::filesystem::path FollowLinks(std::filesystem::path path, std::error_code& e
 /// those of the folder or the old file). At no time can more users read the new bytes than the
 /// file whose permissions they get.
 ///
+/// `goOn` is asked when all is written but the new name; after a false the old file stands and the
+/// failure is std::errc::operation_canceled.
+///
 /// Any number of processes may replace one file at once: each succeeds, and the file has the whole
 /// bytes of one of them, in the end those of the last. What a killed one left goes at the next
 /// call for that file.
 std::error_code ReplaceFile(
-    const std::string& path, std::span<const std::uint8_t> bytes, const std::string& like = {});
+    const std::string& path, std::span<const std::uint8_t> bytes, const std::string& like = {},
+    const std::function<bool()>& goOn = [] { return true; });
 
 /// A failed ReplaceFile in words for the user.
 struct Refusal {

@@ -114,7 +114,7 @@ struct PassingFile {
     /// Writes, syncs and closes it and gives it its target's name; it stays locked until then. The
     /// first failure is the one that is told.
     std::error_code Become(const std::filesystem::path& target, std::span<const std::uint8_t> bytes,
-        const struct stat* model)
+        const struct stat* model, const std::function<bool()>& goOn)
     {
         std::error_code error;
         if (!WriteAll(file, bytes))
@@ -128,6 +128,8 @@ struct PassingFile {
             error = LastError();
         if (::close(file) != 0 && !error)
             error = LastError();
+        if (!error && !goOn())
+            error = std::make_error_code(std::errc::operation_canceled);
         if (!error && std::rename(name.c_str(), target.c_str()) != 0)
             error = LastError();
         if (error)
@@ -159,8 +161,8 @@ std::optional<FileIdentity> IdentityOf(const std::string& path)
     };
 }
 
-std::error_code ReplaceFile(
-    const std::string& path, std::span<const std::uint8_t> bytes, const std::string& like)
+std::error_code ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes,
+    const std::string& like, const std::function<bool()>& goOn)
 {
     std::error_code error;
     const std::filesystem::path target = FollowLinks(path, error);
@@ -188,7 +190,7 @@ std::error_code ReplaceFile(
     // Until it has the model's rights, nobody else can read it.
     error = passing.Open(target, hasModel ? 0600 : 0666);
     if (!error)
-        error = passing.Become(target, bytes, hasModel ? &model : nullptr);
+        error = passing.Become(target, bytes, hasModel ? &model : nullptr, goOn);
     if (!error)
         SyncFolderOf(target);
     return error;

@@ -100,8 +100,8 @@ std::optional<FileIdentity> IdentityOf(const std::string& path)
     };
 }
 
-std::error_code ReplaceFile(
-    const std::string& path, std::span<const std::uint8_t> bytes, const std::string&)
+std::error_code ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes,
+    const std::string&, const std::function<bool()>& goOn)
 {
     std::error_code error, missing;
     std::filesystem::path target = NativePath(path);
@@ -121,7 +121,8 @@ std::error_code ReplaceFile(
         error = WritePassingFile(passing, bytes);
         const bool isWritten = !error;
         if (isWritten)
-            error = Rename(passing, target);
+            error = goOn() ? Rename(passing, target)
+                           : std::make_error_code(std::errc::operation_canceled);
         if (!error)
             return error;
         ::DeleteFileW(passing.c_str());

@@ -1,6 +1,5 @@
 #include "reader/ResourceList.h"
 
-#include "companion/PalmDatabase.h"
 #include "document/Document.h"
 
 namespace vypx {
@@ -11,14 +10,7 @@ ByteView FileByIndex() { return FileCashe; }
 
 std::string ReadDatabaseName()
 {
-    const ByteView field = FileByIndex().Part(DatabaseNameOffset + 1, DatabaseNameSize);
-    std::string name;
-    for (const std::uint8_t byte : field.Span()) {
-        if (!CanStandInName(byte))
-            break;
-        name += static_cast<char>(byte);
-    }
-    return name;
+    return NameInField(FileByIndex().Part(DatabaseNameOffset + 1, DatabaseNameSize));
 }
 
 int ReadResourceCount()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "companion/ByteView.h"
+#include "companion/DatabaseHeader.h"
 #include "companion/IconsetLimits.h"
 
 #include <cstdint>
@@ -27,7 +28,7 @@ namespace vypx {
 ///
 /// Attributes, version, dates, application info and sort info are ignored. A resource's size is
 /// not stored: it reaches to the next entry's data, the last one's to IconFileSize.
-inline constexpr std::size_t DatabaseNameOffset = 0, DatabaseNameSize = 32;
+inline constexpr std::size_t DatabaseNameOffset = 0;
 inline constexpr std::size_t DatabaseTypeOffset = 60, DatabaseCreatorOffset = 64;
 inline constexpr std::size_t ResourceCountOffset = 76;
 inline constexpr std::int32_t FirstEntryIndex = 79; ///< into FileCashe

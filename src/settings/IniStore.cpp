@@ -1,6 +1,7 @@
 #include "settings/IniStore.h"
 
 #include "platform/Platform.h"
+#include "platform/Turn.h"
 
 #include <chrono>
 #include <filesystem>
@@ -47,16 +48,10 @@ bool CanBeReplaced(const std::string& path)
     return !error && writable && platform::FolderIsWritable(platform::Utf8Path(file.parent_path()));
 }
 
-/// One writer at a time, or two programs that change different keys of one file would take back
-/// each other's. In a folder where nothing can be locked, and after a wait for a program that
-/// hangs, the edit goes on without.
-platform::FileLock LockEdits(const std::string& path)
+/// Two programs that change different keys of one file would take back each other's.
+std::string LockFileOf(const std::string& path)
 {
-    constexpr std::chrono::seconds Patience(5);
-    const std::filesystem::path folder = platform::NativePath(path).parent_path();
-    platform::FileLock lock;
-    lock.Lock(platform::Utf8Path(folder / "ini.lock"), Patience);
-    return lock;
+    return platform::Utf8Path(platform::NativePath(path).parent_path() / "ini.lock");
 }
 
 std::map<std::string, Kept>& AllKept()
@@ -101,7 +96,7 @@ bool EditIni(const std::string& path, const std::function<bool(IniText&)>& edit)
 {
     if (path.empty())
         return false;
-    const platform::FileLock lock = LockEdits(path);
+    const platform::Turn turn(LockFileOf(path), platform::Turn::LockFile::Stays);
     const Kept& kept = Look(path);
     std::error_code ignored;
     if (!kept.identity && std::filesystem::exists(platform::NativePath(path), ignored))

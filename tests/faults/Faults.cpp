@@ -1,6 +1,6 @@
-// Counts the opens, locks, writes, changes of rights, syncs, closes and renames of files whose path
-// holds a word, and makes the n-th of them fail or the process die there. Loaded by LD_PRELOAD;
-// told by the environment:
+// Counts the opens, locks, writes, changes of rights, syncs, closes and renames of files, and the
+// makings of folders, whose path holds a word, and makes the n-th of them fail or the process die
+// there. Loaded by LD_PRELOAD; told by the environment:
 //
 //   FAULT_PATH   the word
 //   FAULT_AT     number of the operation, from 1; 0: none
@@ -190,6 +190,12 @@ int fchmod(int file, mode_t mode) noexcept
 {
     const auto run = [&] { return Real<int(int, mode_t)>("fchmod")(file, mode); };
     return State().files.count(file) == 0 ? run() : Step(run);
+}
+
+int mkdir(const char* path, mode_t mode) noexcept
+{
+    const auto run = [&] { return Real<int(const char*, mode_t)>("mkdir")(path, mode); };
+    return State().Concerns(path) ? Step(run) : run();
 }
 
 int rename(const char* from, const char* to)

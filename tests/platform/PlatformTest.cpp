@@ -227,6 +227,24 @@ TEST(ReplaceFile, AFailureIsNamedAndLeavesTheOldFile)
     EXPECT_EQ(FilesIn(folder), 1u);
 }
 
+TEST(ReplaceFile, IsCalledOffBeforeTheNewFileHasItsName)
+{
+    const TempFolder folder;
+    WriteText(folder.File("a"), "old");
+    std::size_t files = 0;
+
+    const std::error_code error =
+        platform::ReplaceFile(folder.File("a"), TextBytes("new"), {}, [&] {
+            files = FilesIn(folder);
+            return false;
+        });
+
+    EXPECT_EQ(error, std::errc::operation_canceled);
+    EXPECT_EQ(files, 2u) << "asked when all but the name was done";
+    EXPECT_EQ(ReadText(folder.File("a")), "old");
+    EXPECT_EQ(FilesIn(folder), 1u);
+}
+
 TEST(ExplainRefusal, NamesAFolderThatIsMissing)
 {
     const TempFolder folder;

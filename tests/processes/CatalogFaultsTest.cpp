@@ -1,4 +1,5 @@
 #include "Child.h"
+#include "FaultAt.h"
 #include "support/Files.h"
 #include "support/PrcFiles.h"
 #include "support/TempFolder.h"
@@ -45,9 +46,7 @@ protected:
     int Run(int at) const
     {
         Child child({ VYPX_CATALOG_HELPER, std::get<0>(GetParam()), folder.Path() },
-            { "LD_PRELOAD=" VYPX_FAULTS, "ASAN_OPTIONS=verify_asan_link_order=0:detect_leaks=0",
-                "FAULT_PATH=.dat", "FAULT_KIND=" + std::get<1>(GetParam()),
-                "FAULT_AT=" + std::to_string(at), "FAULT_COUNT=" + folder.File("count") });
+            FaultAt(".dat", std::get<1>(GetParam()), at, folder.File("count")));
         return child.Wait();
     }
 
@@ -61,7 +60,7 @@ protected:
 TEST_P(CatalogFaults, LoseNothingAndAreTold)
 {
     const auto& [edit, kind] = GetParam();
-    const bool kills = kind == "before" || kind == "within" || kind == "after";
+    const bool kills = Kills(kind);
     const std::string old = EditsPalm() ? Palm : Apps;
     ASSERT_EQ(Run(0), 0);
     const std::string changed = Edited();

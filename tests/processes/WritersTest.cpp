@@ -1,4 +1,5 @@
 #include "Child.h"
+#include "FaultAt.h"
 #include "platform/Platform.h"
 #include "settings/Inifile.h"
 #include "support/Files.h"
@@ -87,12 +88,7 @@ TEST_F(Writers, APrivateFileIsPrivateWhileItIsWritten)
             for (int at = 1; at <= 9; ++at) {
                 WriteText(file, "old");
                 fs::permissions(file, fs::perms(rights));
-                Write('A', SizeA, 1,
-                    { "LD_PRELOAD=" VYPX_FAULTS,
-                        "ASAN_OPTIONS=verify_asan_link_order=0:detect_leaks=0",
-                        "FAULT_PATH=set.prc", std::string("FAULT_KIND=") + kind,
-                        "FAULT_AT=" + std::to_string(at) })
-                    ->Wait();
+                Write('A', SizeA, 1, FaultAt("set.prc", kind, at))->Wait();
                 for (const auto& entry : fs::directory_iterator(folder.Path())) {
                     const auto now = static_cast<unsigned>(entry.status().permissions());
                     EXPECT_EQ(now & ~rights, 0u) << entry.path() << kind << at;

@@ -1,6 +1,7 @@
 #include "companion/NearestColour.h"
 #include "support/CompileFixture.h"
 #include "support/Netpbm.h"
+#include "support/PalmPdb.h"
 #include "support/Unpacked.h"
 
 #include <gmock/gmock.h>
@@ -211,30 +212,25 @@ TEST_F(RoundTrip, NetpbmReadsEveryRecord)
 /// The whole file, read by Perl's Palm::PDB.
 TEST_F(RoundTrip, PalmPdbReadsEveryResource)
 {
-    if (std::system("perl -MPalm::PDB -MPalm::Raw -e 1 2>/dev/null") != 0)
-        GTEST_SKIP() << "libpalm-pdb-perl is not installed";
+    SKIP_WITHOUT_PALM_PDB();
     IconTable = { { "Alpha (Large Icon)", "tAIB3500", "tAIB3500.bmp", "NEW", 1, "APP" },
         { "Other", "Tbmp7", "NEW", "Tbmp7-d144.bmp", 1, "VY" } };
     AddPicture("tAIB3500.bmp", 31, 21);
     AddPicture("Tbmp7-d144.bmp", 63, 43);
     CompileIconset(TargetFromFlags());
 
-    const Bytes output =
-        OutputOf("perl -MPalm::PDB -MPalm::Raw -e '"
-                 "Palm::PDB::RegisterPRCHandlers(\"Palm::Raw\", [\"VNTR\", \"ICON\"]);"
-                 "my $pdb = Palm::PDB->new; $pdb->Load($ARGV[0]);"
-                 "print \"$pdb->{name} $pdb->{type} $pdb->{creator} \","
-                 " $pdb->{attributes}{ResDB} ? 1 : 0, \"\\n\";"
-                 "print \"$_->{type} $_->{id} \", length($_->{data}), \"\\n\""
-                 " for @{$pdb->{resources}};' '"
-            + FileName + "' 2>/dev/null");
+    const std::string printed = PrintedByPalmPdb(FileName,
+        "print \"$pdb->{name} $pdb->{type} $pdb->{creator} \","
+        " $pdb->{attributes}{ResDB} ? 1 : 0, \"\\n\";"
+        "print \"$_->{type} $_->{id} \", length($_->{data}), \"\\n\""
+        " for @{$pdb->{resources}};");
 
     std::string expected = "Set ICON VNTR 1\n";
     for (const Resource& resource : Saved())
         expected += resource.type + " " + std::to_string(resource.id) + " "
             + std::to_string(resource.data.size()) + "\n";
     EXPECT_THAT(SavedKeys(), ::testing::ElementsAre("tAIB3500", "Tbmp7", "tver1000", "iTbl1000"));
-    EXPECT_EQ(std::string(output.begin(), output.end()), expected);
+    EXPECT_EQ(printed, expected);
 }
 
 } // namespace

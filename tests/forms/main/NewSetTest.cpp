@@ -4,6 +4,7 @@
 
 #include "document/Slot.h"
 #include "support/Netpbm.h"
+#include "support/PalmPdb.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>
@@ -175,16 +176,13 @@ TEST_F(NewSet, IsReadByOthers)
     ImportAll();
     const std::string path = SavedAs("mine.prc");
 
-    const Bytes listed =
-        OutputOf("perl -MPalm::PDB -MPalm::Raw -e '"
-                 "Palm::PDB::RegisterPRCHandlers(\"Palm::Raw\", [\"VNTR\", \"ICON\"]);"
-                 "my $pdb = Palm::PDB->new; $pdb->Load($ARGV[0]); print \"$pdb->{name}\\n\";"
-                 "for (@{$pdb->{resources}}) { print \"$_->{type}$_->{id}\\n\";"
-                 " open F, \">$ARGV[1]/$_->{type}$_->{id}.rec\"; print F $_->{data}; close F }"
-                 "' '"
-            + path + "' '" + program.Path() + "' 2>/dev/null");
+    const std::string listed = PrintedByPalmPdb(path,
+        "print \"$pdb->{name}\\n\";"
+        "for (@{$pdb->{resources}}) { print \"$_->{type}$_->{id}\\n\";"
+        " open F, \">$ARGV[1]/$_->{type}$_->{id}.rec\"; print F $_->{data}; close F }",
+        program.Path());
 
-    EXPECT_EQ(std::string(listed.begin(), listed.end()),
+    EXPECT_EQ(listed,
         "Mine\ntAIB3500\ntAIB3503\ntAIB3504\ntAIB3507\ntAIB3508\ntAIB3511\ntAIB2002\ntAIB2003\n"
         "tver1000\niTbl1000\n");
     for (int icon = 0; icon < 8; ++icon) {

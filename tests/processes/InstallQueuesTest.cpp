@@ -17,10 +17,11 @@ using ::testing::ElementsAre;
 /// A queue of either way, and what it is to become when "set.prc" is queued.
 struct QueueCase {
     std::string name, way;
-    std::string queue; ///< path of the file in the home of the queues
-    std::optional<std::string>
-        before = {};  ///< empty: there is none, and palm-sync's folder neither
-    std::string word; ///< in the paths of all that is done to it
+    std::string queue;                 ///< path of its file from the home of both
+    std::optional<std::string> before; ///< empty: neither file nor palm-sync's "install"
+    std::string word;                  ///< in the paths of all that is done to it
+
+    friend void PrintTo(const QueueCase& queueCase, std::ostream* out) { *out << queueCase.name; }
 };
 
 std::string AsText(const Bytes& bytes) { return { bytes.begin(), bytes.end() }; }

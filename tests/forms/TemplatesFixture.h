@@ -1,16 +1,14 @@
 #pragma once
 
-#include "PicturesFixture.h"
+#include "DropsFixture.h"
 
 #include "document/IconStats.h"
-
-#include <QDialog>
-#include <QLineEdit>
+#include "writer/CompileIconset.h"
 
 namespace vypx::test {
 
 /// The program with an iconset open, `set.prc`, and a template to load, `t.vpt`.
-class TemplatesFixture : public PicturesFixture {
+class TemplatesFixture : public DropsFixture {
 protected:
     static constexpr const char* IconsetFilter = "Vantry Iconset (*.prc *.pdb)";
     static constexpr const char* LoadFilter = "VYPX Template File (*.vpt)";
@@ -25,6 +23,7 @@ protected:
             "[Gamma]\nType=appl\nCreator={GAMM}\n");
         AppTable.push_back({ "Gamma", "appl", "GAMM", "" });
         AutoCreateLowRes = WarnOverwrite = CreateBackup = false;
+        TemplatePath.clear();
         TheTemplate();
     }
 
@@ -76,7 +75,6 @@ protected:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
     QString LastFilter() { return ask.opened.back().filters.value(0); }
-    QString RootText() { return Nodes().Root() ? Nodes().Root()->text(0) : QString(); }
     static bool HasPictures()
     {
         for (const IconRow& row : IconTable)

@@ -26,25 +26,28 @@ protected:
         QMessageBox::StandardButton answer = QMessageBox::No)
     {
         m_asked = false;
-        bool done = false;
-        QTimer poll;
-        QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
-            QWidget* const top = QApplication::activeModalWidget();
-            if (auto* const box = qobject_cast<QMessageBox*>(top)) {
+        // One for each: a timer does not run within itself, and the question comes within the key.
+        QTimer forBox, forDialog;
+        QObject::connect(&forBox, &QTimer::timeout, &forBox, [&] {
+            if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
                 m_asked = true;
                 QTest::mouseClick(box->button(answer), Qt::LeftButton);
-            } else if (auto* const dialog = qobject_cast<QFileDialog*>(top); dialog && !done) {
-                done = true;
-                auto* const name = dialog->findChild<QLineEdit*>("fileNameEdit");
-                name->setText(typed);
-                if (act)
-                    act(*dialog);
-                QTest::keyClick(name, Qt::Key_Return);
-                if (m_asked && answer == QMessageBox::No)
-                    dialog->close();
             }
         });
-        poll.start(5);
+        QObject::connect(&forDialog, &QTimer::timeout, &forDialog, [&] {
+            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            if (!dialog)
+                return;
+            forDialog.stop();
+            auto* const name = dialog->findChild<QLineEdit*>("fileNameEdit");
+            name->setText(typed);
+            if (act)
+                act(*dialog);
+            QTest::keyClick(name, Qt::Key_Return);
+            dialog->close(); // where it still stands
+        });
+        forBox.start(5);
+        forDialog.start(5);
         return m_ask.SaveFile(nullptr,
             { .title = "Export",
                 .folder = QString::fromStdString(folder.Path()),

@@ -205,9 +205,10 @@ TEST_F(ExportingTemplates, AFailureIsTold)
     PicturesFixture::Click("Alpha (Large Icon)");
     EXPECT_EQ(Text("lbl_LGsize"), "2 x 1 pixels");
     Entry("mnuSave").trigger();
-    EXPECT_FALSE(NotSaved().isVisible());
+    EXPECT_TRUE(NotSaved().isVisible()) << "the template is not written yet";
     Open(PathOf("set.prc"));
     EXPECT_TRUE(HasPictures()) << "an iconset was saved";
+    EXPECT_FALSE(NotSaved().isVisible()) << "it was the other document's";
 }
 
 TEST_F(ExportingTemplates, ASuccessTakesTheNoteOfAFailedOneAway)

@@ -1,7 +1,5 @@
 #include "TemplatesFixture.h"
 
-#include "forms/settings/frmSelectCDepth.h"
-
 namespace vypx::test {
 
 namespace {
@@ -45,20 +43,22 @@ TEST_F(LoadTemplate, TellsWhatItWaitsFor)
 {
     Bytes file = Iconset{
         .name = "Temp",
-        .resources = { { "iTbl", 1000, IndexRecord("appl", "GAMM", 3600, 0) }, Picture(3600),
-            Picture(3601) }
+        .resources = { Picture(3600), Picture(3601),
+            { "iTbl", 1000, IndexRecord("appl", "GAMM", 3600, 0) } }
     }.File();
-    for (int i = 6; i < 10; ++i) // the first picture ends before it begins, which a box tells
-        std::swap(file[78 + 10 + i], file[78 + 20 + i]);
+    for (std::size_t i = 84; i < 88; ++i) // the first picture ends before it begins: a box tells
+        std::swap(file[i], file[i + 10]);
     QString working;
     ask.Answer(QMessageBox::Ok, [&] {
         if (IsShown("lblWorking"))
             working = Text("lblWorking");
     });
+    ask.Answer(QMessageBox::Ok);
 
     Load(Written(file, "slow.vpt"));
 
-    EXPECT_EQ(Messages(), QStringList("Error reading file."));
+    EXPECT_EQ(Messages(),
+        QStringList({ "Error reading file.", "Error Number 0. Problem reading file." }));
     EXPECT_EQ(working, "Getting Template, please wait....");
     EXPECT_FALSE(IsShown("lblWorking"));
     EXPECT_FALSE(HasPictures());
@@ -150,7 +150,7 @@ TEST_F(LoadTemplate, WithTheDepthPromptItGoesThroughThatWindow)
     Entry("mnuLoadTemplate").trigger();
     ASSERT_NE(DepthWindow(), nullptr);
     EXPECT_EQ(ask.opened.size(), 1u) << "no dialog yet";
-    QTest::mouseClick(&Find<QAbstractButton>("opt8Bit"), Qt::LeftButton);
+    Find<QAbstractButton>("opt8Bit").click();
     ask.Choose(TheTemplate());
 
     PressDone();

@@ -1,26 +1,11 @@
 #include "TemplatesFixture.h"
 
-#include "forms/settings/frmSelectCDepth.h"
-
-#include <QDropEvent>
-#include <QMimeData>
-
 namespace vypx::test {
 
 namespace {
 
 /// Each command opens what it is for, whatever command came before.
-class TemplateMeetings : public TemplatesFixture {
-protected:
-    void Drop(const QString& path)
-    {
-        QMimeData files;
-        files.setUrls({ QUrl::fromLocalFile(path) });
-        QDropEvent drop({ 2, 2 }, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(&Find<QWidget>("Form1"), &drop);
-        QCoreApplication::processEvents();
-    }
-};
+using TemplateMeetings = TemplatesFixture;
 
 TEST_F(TemplateMeetings, AGivenUpDepthWindowLeavesNoTemplateToOpen)
 {
@@ -147,11 +132,39 @@ TEST_F(TemplateMeetings, ADroppedIconsetIsOneWhileTheTemplatesWindowStands)
     PromptColorDepth = true;
     Entry("mnuLoadTemplate").trigger();
 
-    Drop(AnotherIconset());
+    Drop("Form1", { AnotherIconset() });
 
     ExpectAnotherIsOpen();
     EXPECT_TRUE(ask.shown.empty());
     EXPECT_EQ(ask.opened.size(), 1u);
+}
+
+TEST_F(TemplateMeetings, AfterADropTheTemplatesWindowLeadsToNoTemplate)
+{
+    PromptColorDepth = true;
+    Entry("mnuLoadTemplate").trigger();
+    Drop("Form1", { AnotherIconset() });
+    const bool leadsOn = DepthWindow() != nullptr;
+    if (leadsOn) {
+        ask.CancelDialog();
+        PressDone();
+    }
+
+    EXPECT_EQ(LastFilter(), IconsetFilter);
+    ExpectAnotherIsOpen();
+}
+
+TEST_F(TemplateMeetings, AHurriedCommandAmidALoadIsNotKeptForTheNext)
+{
+    Resource broken = Picture(3501);
+    PutU16(broken.data, 10, 0x4000);
+    ask.Answer(QMessageBox::Ok, [&] { Entry("mnuLoadTemplate").trigger(); });
+
+    Open(Written(Iconset{ .name = "Box", .resources = { broken } }.File(), "box.prc"));
+
+    EXPECT_EQ(ask.opened.size(), 2u) << "one each for the iconsets";
+    EXPECT_FALSE(TemplateMode);
+    ExpectOpenOpensAnIconset();
 }
 
 TEST_F(TemplateMeetings, ADroppedIconsetIsOneAfterACancelledTemplate)
@@ -159,7 +172,7 @@ TEST_F(TemplateMeetings, ADroppedIconsetIsOneAfterACancelledTemplate)
     ask.CancelDialog();
     Entry("mnuLoadTemplate").trigger();
 
-    Drop(AnotherIconset());
+    Drop("Form1", { AnotherIconset() });
 
     ExpectAnotherIsOpen();
 }
@@ -243,7 +256,7 @@ TEST_F(TemplateMeetings, TheDialogsWindowMayOutliveItsTemplate)
 
 TEST_F(TemplateMeetings, AFileThatWaitsForAnImportIsNoTemplate)
 {
-    Drop(Written(Bytes(10, 'x'), "notes.txt"));
+    Drop("Form1", { Written(Bytes(10, 'x'), "notes.txt") });
     ASSERT_TRUE(DroppedFile);
 
     Load(TheTemplate());

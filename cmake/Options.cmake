@@ -4,6 +4,7 @@ option(VYPX_TESTS "Build the tests" ON)
 option(VYPX_BENCHMARKS "Build the benchmarks" ON)
 option(VYPX_SANITIZE "AddressSanitizer and UndefinedBehaviorSanitizer, both fatal" OFF)
 option(VYPX_FUZZ "Build the libFuzzer targets (clang)" OFF)
+option(VYPX_INSTAIDE "Build the helper that calls InstAide.dll, and nothing else" OFF)
 option(VYPX_COVERAGE "Count executed lines" OFF)
 
 set(CMAKE_CXX_STANDARD 20)

@@ -7,6 +7,7 @@ build_packages=(
 )
 test_packages=(
     clang clang-format libclang-rt-14-dev netpbm libpalm-pdb-perl g++-mingw-w64-x86-64-posix
+    g++-mingw-w64-i686-posix
     imagemagick webp xvfb openbox fonts-dejavu-core x11-utils xdotool xclip
 )
 screen_packages=(xvfb openbox fonts-dejavu-core imagemagick x11-utils xdotool)

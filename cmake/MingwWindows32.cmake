@@ -1,0 +1,3 @@
+# Toolchain: the helper of 32 bits for Windows.
+set(VYPX_MINGW i686)
+include(${CMAKE_CURRENT_LIST_DIR}/MingwWindows.cmake)

@@ -6,8 +6,8 @@
 
 namespace vypx {
 
-/// The main form's place for notes, which interrupt nobody. What failed to be written has a line of its
-/// own: a save until one succeeds. All others share a second one, below each other.
+/// The main form's place for notes, which interrupt nobody. What failed to be written has a line of
+/// its own: a save until one succeeds. All others share a second one, below each other.
 class Notes {
 public:
     /// What a note is about; a new one takes the place of the one before of its kind.

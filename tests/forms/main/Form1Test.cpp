@@ -128,17 +128,6 @@ TEST_F(MainForm, IsReadableOnADarkDesktop)
     QApplication::setPalette(QPalette());
 }
 
-TEST_F(MainForm, CommandsNotBuiltYetStayDisabledWhateverAStepSays)
-{
-    Open(Written(Iconset{ .resources = { Picture(3500) } }.File()));
-
-    ASSERT_TRUE(FileLoaded);
-    for (const QString name : { "mnuLoadTemplate", "mnuExportTemplate", "mnuSaveandInstall" })
-        EXPECT_FALSE(Entry(name).isEnabled()) << name.toStdString();
-    EXPECT_TRUE(Entry("mnuOpen").isEnabled());
-    EXPECT_TRUE(Entry("mnuExit").isEnabled());
-}
-
 TEST_F(MainForm, HelpersStayOutOfSight)
 {
     for (const QString name : { "listPRC", "ListBuffMain", "picbuff", "ImageBUF", "picbufCLowRes",

@@ -79,6 +79,7 @@ const std::vector<Key>& Keys()
         { "Program Directories", "Last Directory for Image Save", "", &LastDirImageSave },
         { "Hotsync Info", "Palm User ID", "", &PalmUserID },
         { "Hotsync Info", "Palm Desktop Folder", "", &PalmDesktopFolder },
+        { "Hotsync Info", "Palm Sync Folder", "", &PalmSyncFolder },
     };
     return keys;
 }

@@ -27,7 +27,7 @@ void SetDefaultSettings()
     MainWinHeight = 9800;
     UseLastDirs = true;
     for (std::string* text : { &LastDirIconsetLoad, &LastDirIconsetSave, &LastDirImageLoad,
-             &LastDirImageSave, &PalmUserID, &PalmDesktopFolder })
+             &LastDirImageSave, &PalmUserID, &PalmDesktopFolder, &PalmSyncFolder })
         text->clear();
 }
 

@@ -52,6 +52,7 @@ TEST_F(SettingsFileTest, AFirstRunMarksTheFileAndReadsDefaults)
     EXPECT_EQ(PreviewWinY, 100);
     EXPECT_EQ(PalmUserID, "");
     EXPECT_EQ(PalmDesktopFolder, "");
+    EXPECT_EQ(PalmSyncFolder, "");
 }
 
 TEST_F(SettingsFileTest, TheFirstSaveWritesEveryKeyInItsOrder)
@@ -84,7 +85,7 @@ TEST_F(SettingsFileTest, TheFirstSaveWritesEveryKeyInItsOrder)
         "[Program Directories]\nUse Last Directories=True\n"
         "Last Directory for Iconset Load=\nLast Directory for Iconset Save=\n"
         "Last Directory for Image Load=\nLast Directory for Image Save=\n"
-        "[Hotsync Info]\nPalm User ID=\nPalm Desktop Folder=\n");
+        "[Hotsync Info]\nPalm User ID=\nPalm Desktop Folder=\nPalm Sync Folder=\n");
 }
 
 TEST_F(SettingsFileTest, WhatIsSavedIsReadBack)
@@ -97,6 +98,7 @@ TEST_F(SettingsFileTest, WhatIsSavedIsReadBack)
     LastDirIconsetLoad = "/home/caf\xC3\xA9";
     PalmUserID = "User";
     PalmDesktopFolder = "/home/caf\xC3\xA9/Palm Desktop";
+    PalmSyncFolder = "/home/caf\xC3\xA9/palm";
     R = 1;
     G = 2;
     B = 3;
@@ -114,6 +116,7 @@ TEST_F(SettingsFileTest, WhatIsSavedIsReadBack)
     EXPECT_EQ(LastDirIconsetLoad, "/home/caf\xC3\xA9");
     EXPECT_EQ(PalmUserID, "User");
     EXPECT_EQ(PalmDesktopFolder, "/home/caf\xC3\xA9/Palm Desktop");
+    EXPECT_EQ(PalmSyncFolder, "/home/caf\xC3\xA9/palm");
     EXPECT_EQ(Rsave * 100 + Gsave * 10 + Bsave, 123);
     EXPECT_EQ(MainWinWidth, 15000);
 }

@@ -178,26 +178,9 @@ TEST_F(InstAideWay, OnPurposeReadsTheLow16BitsOfAResultAsSigned)
     EXPECT_EQ(told(0x00008000), -32768);
 }
 
-/// A way that gives whatever it is told to.
-class StandInWay : public InstallWay {
-public:
-    explicit StandInWay(std::int16_t result)
-        : m_result(result)
-    {
-    }
-
-    bool UsesUser() const override { return true; }
-    std::int16_t Install(std::string&, std::string&) override { return m_result; }
-    std::string Description() const override { return "a stand-in"; }
-    std::string WhatNext(const std::string&, const std::string&) const override { return ""; }
-
-private:
-    std::int16_t m_result;
-};
-
-TEST(InstallResults, EachOf16BitsHasItsWords)
+TEST_F(InstAideWay, EachOf16BitsHasItsWords)
 {
-    const std::pair<int, std::string_view> rows[] = {
+    const std::pair<std::uint32_t, std::string_view> rows[] = {
         { 0x0000, "" },
         { 0xFE00, "Error! An iconset with this filename is already waiting to be hotsynced." },
         { 0xFDD6,
@@ -205,15 +188,15 @@ TEST(InstallResults, EachOf16BitsHasItsWords)
             "Please check the Palm User ID in the Program Options screen." },
         { 0xFDFF, "Error! The install tool was unable to locate the file." },
     };
-    std::string user = "Anna", file = "/a.prc";
-    for (int code = 0; code <= 0xFFFF; ++code) {
+    const auto way = library.Way();
+    for (std::uint32_t code = 0; code <= 0xFFFF; ++code) {
         std::string_view words =
             "Error! Unknown error while trying to send the iconset to the Palm Install tool.";
         for (const auto& [special, text] : rows)
             if (code == special)
                 words = text;
-        StandInWay way(static_cast<std::int16_t>(code));
-        ASSERT_EQ(InstallMessage(way.Install(user, file)), words) << code;
+        library.result = 0xABCD0000 | code;
+        ASSERT_EQ(InstallMessage(way->Install(user, file)), words) << code;
     }
 }
 

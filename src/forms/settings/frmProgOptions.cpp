@@ -4,6 +4,7 @@
 #include "forms/common/Look.h"
 #include "forms/common/Text.h"
 #include "forms/settings/DepthControls.h"
+#include "forms/settings/InstallWayText.h"
 #include "forms/settings/UserStore.h"
 #include "settings/Inifile.h"
 #include "settings/Settings.h"
@@ -19,14 +20,17 @@ namespace {
 
 constexpr int OpenAt = 300; // twips from the left and the top
 
+std::string FolderIn(const QLineEdit& edit) { return edit.text().trimmed().toStdString(); }
+
 /// What the column of the longest plain text lacks to show it in one line.
 int ForWholeLines(const QWidget& options)
 {
     int lacking = 0;
     for (const QLabel* label : options.findChildren<QLabel*>())
-        lacking = std::max(lacking,
-            label->fontMetrics().horizontalAdvance(label->text()) + 4
-                - label->parentWidget()->layout()->sizeHint().width());
+        if (label->sizePolicy().horizontalPolicy() != QSizePolicy::Ignored)
+            lacking = std::max(lacking,
+                label->fontMetrics().horizontalAdvance(label->text()) + 4
+                    - label->parentWidget()->layout()->sizeHint().width());
     return lacking + 20; // the frame's margins
 }
 
@@ -61,14 +65,17 @@ frmProgOptions::frmProgOptions(Ask& ask, QWidget* parent)
     move(PixelsFromTwips(OpenAt), PixelsFromTwips(OpenAt));
     for (QLineEdit* edit : { m_ui->txtPalmUserID, m_ui->txtVstring })
         edit->setValidator(Latin1Validator(*edit));
+    for (QWidget* control : std::initializer_list<QWidget*>{
+             m_ui->lbl_txtPalmSyncFolder, m_ui->txtPalmSyncFolder, m_ui->cmdBrowsePalmSync })
+        control->setVisible(HasPalmSync);
+    m_ui->lblInstallWay->setText(QString(3, '\n')); // room for four lines
     ShowDepthWarning(*m_ui, true); // there is room for it, whether it is needed now or not
     resize(SizeOnScreen(*this, *m_ui->allOptions, *m_ui->scrollOptions));
     ShowSettings();
     ConnectBoxes();
     ConnectDepths();
     ConnectResolutions();
-    connect(m_ui->cmdBrowsePalmDesktop, &QPushButton::clicked, this,
-        &frmProgOptions::cmdBrowsePalmDesktop_Click);
+    ConnectFolders();
     connect(
         m_ui->cmdDoneOptions, &QPushButton::clicked, this, &frmProgOptions::cmdDoneOptions_Click);
 }
@@ -78,7 +85,9 @@ frmProgOptions::~frmProgOptions() = default;
 void frmProgOptions::ShowSettings()
 {
     m_ui->txtPalmUserID->setText(FromLatin1(PalmUserID));
-    m_ui->txtPalmDesktopFolder->setText(PathText(PalmDesktopFolder));
+    for (const Folder& folder : Folders())
+        folder.edit.setText(PathText(folder.setting));
+    ShowInstallWay();
     m_ui->txtVstring->setText(FromLatin1(VersionString));
     m_ui->chkRemeberDirs->setChecked(UseLastDirs);
     m_ui->chkCreateLowRes->setChecked(AutoCreateLowRes);
@@ -165,23 +174,70 @@ void frmProgOptions::ConnectResolutions()
     setsResolution(m_ui->optLowResOnly, false, true);
 }
 
-void frmProgOptions::cmdBrowsePalmDesktop_Click()
+std::array<frmProgOptions::Folder, 2> frmProgOptions::Folders() const
 {
-    QLineEdit& edit = *m_ui->txtPalmDesktopFolder;
-    const QString chosen = m_ask.ChooseFolder(
-        this, { .title = tr("Palm Desktop Folder"), .folder = edit.text().trimmed() });
-    if (!chosen.isEmpty())
-        edit.setText(chosen);
+    return { {
+        { *m_ui->txtPalmDesktopFolder, *m_ui->cmdBrowsePalmDesktop, PalmDesktopFolder,
+            QT_TR_NOOP("Palm Desktop") },
+        { *m_ui->txtPalmSyncFolder, *m_ui->cmdBrowsePalmSync, PalmSyncFolder,
+            QT_TR_NOOP("palm-sync") },
+    } };
 }
 
-/// False: the settings file can't hold it.
-bool frmProgOptions::TakeFolder()
+void frmProgOptions::ConnectFolders()
 {
-    const std::string folder = m_ui->txtPalmDesktopFolder->text().trimmed().toStdString();
-    const bool fits = FitsKey(folder);
-    if (fits)
-        PalmDesktopFolder = folder;
-    return fits;
+    for (const Folder& folder : Folders())
+        connect(&folder.browse, &QPushButton::clicked, this, [this, folder] { Browse(folder); });
+    connect(m_ui->txtPalmSyncFolder, &QLineEdit::textChanged, this, [this] { ShowInstallWay(); });
+}
+
+void frmProgOptions::Browse(const Folder& folder)
+{
+    const QString chosen = m_ask.ChooseFolder(this,
+        { .title = tr("%1 Folder").arg(tr(folder.name)), .folder = folder.edit.text().trimmed() });
+    if (!chosen.isEmpty())
+        folder.edit.setText(chosen);
+}
+
+void frmProgOptions::ShowInstallWay()
+{
+    const QString way = InstallWayText(FolderIn(*m_ui->txtPalmSyncFolder));
+    m_ui->lblInstallWay->setText(way);
+    m_ui->lblInstallWay->setToolTip(TipText(way)); // for a name that has no room in a line
+    m_ui->txtPalmSyncFolder->setAccessibleDescription(way);
+}
+
+/// Folders may have been made or gone while the user was elsewhere.
+bool frmProgOptions::event(QEvent* event)
+{
+    if (event->type() == QEvent::WindowActivate)
+        ShowInstallWay();
+    return QDialog::event(event);
+}
+
+/// False: the settings file can't hold one of them, which the user is told.
+bool frmProgOptions::FoldersFit()
+{
+    for (const Folder& folder : Folders()) {
+        if (FitsKey(FolderIn(folder.edit)))
+            continue;
+        folder.edit.setFocus();
+        m_ask.Show(this,
+            { .text = tr("The path of the %1 folder is too long to be kept: the settings hold %2 "
+                         "bytes of it at most. Please choose another folder.")
+                          .arg(tr(folder.name))
+                          .arg(MaxValueLength),
+                .icon = QMessageBox::Information });
+        return false;
+    }
+    return true;
+}
+
+void frmProgOptions::TakeFolders()
+{
+    for (const Folder& folder : Folders())
+        if (const std::string path = FolderIn(folder.edit); FitsKey(path))
+            folder.setting = path;
 }
 
 void frmProgOptions::TakeTexts()
@@ -204,15 +260,9 @@ void frmProgOptions::CloseAnyway()
 
 void frmProgOptions::reject()
 {
-    if (!TakeFolder() && !m_closesAnyway) {
-        m_ui->txtPalmDesktopFolder->setFocus();
-        m_ask.Show(this,
-            { .text = tr("The path of the Palm Desktop folder is too long to be kept: the settings "
-                         "hold %1 bytes of it at most. Please choose another folder.")
-                          .arg(MaxValueLength),
-                .icon = QMessageBox::Information });
+    if (!m_closesAnyway && !FoldersFit())
         return;
-    }
+    TakeFolders();
     TakeTexts();
     QDialog::reject();
 }

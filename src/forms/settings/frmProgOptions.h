@@ -3,9 +3,12 @@
 #include "forms/common/Ask.h"
 
 #include <QDialog>
+#include <array>
 #include <memory>
+#include <string>
 
-class QAbstractButton;
+class QLineEdit;
+class QPushButton;
 
 namespace Ui {
 class frmProgOptions;
@@ -40,14 +43,29 @@ signals:
     /// The settings are to be saved.
     void Done();
 
+protected:
+    bool event(QEvent* event) override;
+
 private:
+    /// One of the folders that the settings keep.
+    struct Folder {
+        QLineEdit& edit;
+        QPushButton& browse;
+        std::string& setting;
+        const char* name; ///< whose folder it is
+    };
+    std::array<Folder, 2> Folders() const;
+
     void ShowSettings();
+    void ShowInstallWay();
     void ConnectBoxes();
     void ConnectDepths();
     void ConnectResolutions();
     void ShowWarning();
-    void cmdBrowsePalmDesktop_Click();
-    bool TakeFolder();
+    void ConnectFolders();
+    void Browse(const Folder& folder);
+    bool FoldersFit();
+    void TakeFolders();
     void TakeTexts();
     void cmdDoneOptions_Click();
 

@@ -8,6 +8,8 @@ namespace vypx {
 
 /// Folder of the program and of its files, without a separator at its end.
 inline std::string AppFolder;
+/// Where the program itself stands, which need not be writable; else the same.
+inline std::string ProgramFolder;
 /// Separator and name of the working folder in AppFolder: "temp" for the first running copy,
 /// "temp1" and so on for further ones (RunningCopies).
 inline std::string TempSuffix;

@@ -33,8 +33,8 @@ struct InstallPlaces {
     std::string jpilotFolder;   ///< J-Pilot's own, ".jpilot" in its home; empty: there is no home
 };
 
-/// As the settings and the system have them: AppFolder, PalmSyncFolder, and J-Pilot's folder by its
-/// own rule ($JPILOT_HOME, else the user's home).
+/// As the settings and the system have them: ProgramFolder, PalmSyncFolder, and J-Pilot's folder by
+/// its own rule ($JPILOT_HOME, else the user's home).
 InstallPlaces PlacesForInstall();
 
 /// The first way that is set up: on Windows the Palm Install Tool's library where it is there;

@@ -13,7 +13,7 @@ namespace vypx {
 
 InstallPlaces PlacesForInstall()
 {
-    InstallPlaces places{ .programFolder = AppFolder, .palmSyncFolder = PalmSyncFolder };
+    InstallPlaces places{ .programFolder = ProgramFolder, .palmSyncFolder = PalmSyncFolder };
     if (const std::string home = platform::JPilotHome(); !home.empty())
         places.jpilotFolder = platform::Utf8Path(platform::NativePath(home) / ".jpilot");
     return places;

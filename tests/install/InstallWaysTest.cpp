@@ -68,11 +68,11 @@ TEST_F(Ways, TheLibraryOfThePalmInstallToolIsNoWayHere)
 TEST(PlacesForInstall, AreThoseOfSettingsAndSystem)
 {
     const Variable own("JPILOT_HOME", nullptr), home("HOME", "/home/ada");
-    AppFolder = "/opt/pixelworks";
+    ProgramFolder = "/opt/pixelworks";
     PalmSyncFolder = "/home/ada/palm";
 
     const InstallPlaces places = PlacesForInstall();
-    AppFolder.clear();
+    ProgramFolder.clear();
     PalmSyncFolder.clear();
 
     EXPECT_EQ(places.programFolder, "/opt/pixelworks");

@@ -34,7 +34,8 @@ Session::Session(const View& view, BusyGuard& busy, SavedSettings& settings,
 
 void Session::StartUp(const QString& programFolder, const QString& userFolder)
 {
-    AppFolder = ResolveAppFolder(programFolder.toStdString(), userFolder.toStdString());
+    ProgramFolder = programFolder.toStdString();
+    AppFolder = ResolveAppFolder(ProgramFolder, userFolder.toStdString());
     RememberPreviewColor = false;
     TransparentUse = true;
     m_settings.Load();

@@ -53,9 +53,11 @@ std::optional<std::string_view> WhyNotExported()
     return std::nullopt;
 }
 
+bool IsOpenFile(const std::string& path) { return !FileName.empty() && IsSameFile(path, FileName); }
+
 bool WouldReplaceOpenIconset(const std::string& path)
 {
-    return !FileName.empty() && !LoadedAsTemplate && IsSameFile(path, FileName);
+    return !LoadedAsTemplate && IsOpenFile(path);
 }
 
 SaveReport ExportTemplate(const std::string& path, ColorDepth depth)

@@ -14,8 +14,12 @@ namespace vypx {
 /// reads; by the counters of the last count. Empty: nothing does.
 std::optional<std::string_view> WhyNotExported();
 
-/// Whether a template at that path (UTF-8) would take the place of the open document's own file,
-/// under whatever name, while that file is an iconset. One that was loaded as a template, and that
+/// Whether that path (UTF-8) leads to the open document's own file, under whatever name; of one
+/// that has gone, to its place. False for a document without a file.
+bool IsOpenFile(const std::string& path);
+
+/// Whether a template at that path (UTF-8) would take the place of the open document's own file
+/// while that is an iconset. One that was loaded as a template, and that
 /// nothing was saved into since, may be written over by a template.
 bool WouldReplaceOpenIconset(const std::string& path);
 

@@ -95,7 +95,9 @@ public:
         QLineEdit* const edit = NameEdit();
         if (const QString ending = LackingEnding();
             edit && !edit->text().isEmpty() && !ending.isEmpty())
-            edit->setText(edit->text() + ending);
+            // Quotes part several names; what stands beside them is none.
+            edit->setText(
+                (edit->text().contains('"') ? selectedFiles().value(0) : edit->text()) + ending);
         QFileDialog::accept();
     }
 

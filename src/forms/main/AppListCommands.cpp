@@ -178,10 +178,9 @@ void AppListCommands::cmdApplyAndReload_Click()
         return;
     }
     if (FileLoaded) {
-        const bool before = std::exchange(TemplateMode, LoadedAsTemplate);
+        TemplateMode = LoadedAsTemplate;
         SkipOpenDialog = true;
         m_loading.LoadFile();
-        TemplateMode = before; // a depth window that stands open may still lead to a template
     }
     CloseWindows();
 }

@@ -264,9 +264,11 @@ void Documents::DocumentBegan()
 void Documents::DocumentOpened()
 {
     DocumentBegan();
+    // What was to take the place of the document before.
+    m_settings.CloseDepthWindow();
     if (m_newIconset)
-        m_newIconset->close(); // it was asked for in the place of another document
-    m_icons.OfferNothing();    // until an icon of it is clicked
+        m_newIconset->close();
+    m_icons.OfferNothing(); // until an icon of it is clicked
     m_view.commands.Enable({ Command::PanelLG, Command::PanelSM }, true);
     m_icons.ShowTree();
     m_view.commands.Enable(When::Document, true);

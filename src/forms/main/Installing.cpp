@@ -7,6 +7,8 @@
 #include "install/InstallWay.h"
 #include "settings/Settings.h"
 
+#include <QGuiApplication>
+
 namespace vypx {
 
 namespace {
@@ -16,9 +18,18 @@ constexpr std::string_view NoUser =
     "No Palm User ID has been set.\n"
     "Please add your Palm User ID in the Program Option Screen under the Setup menu.";
 
+class WaitCursor {
+public:
+    WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+};
+
 /// Queues the saved iconset. On purpose: the way may rewrite the user's name and the path.
 std::int16_t Queue(InstallWay& way)
 {
+    const WaitCursor waiting; // another program may have its turn
     try {
         return way.Install(PalmUserID, FileName);
     } catch (const std::exception&) {
@@ -49,13 +60,14 @@ void Installing::mnuSaveandInstall_Click()
         Message(NoUser);
         return;
     }
-    if (m_saving.SaveIconset() == SaveEnd::Failed || !NamedFileExists(FileName))
+    const SaveEnd end = m_saving.SaveIconset();
+    if (end == SaveEnd::Failed || !FileLoaded || !NamedFileExists(FileName))
         return;
     const std::int16_t result = Queue(*way);
     ShowForm();
     if (result == InstallResult::Queued) {
         m_ask.Beep();
-        TellQueued(way->WhatNext(PalmUserID, FileName));
+        TellQueued(end, way->WhatNext(PalmUserID, FileName));
     } else {
         Message(InstallMessage(result));
     }
@@ -73,11 +85,13 @@ void Installing::ShowForm()
     m_view.form.repaint();
 }
 
-void Installing::TellQueued(const std::string& whatNext)
+void Installing::TellQueued(SaveEnd end, const std::string& whatNext)
 {
     QString text = tr("%1 is queued.").arg(PathText(LastComponent(FileName)));
-    if (IconsetChanged)
-        text += " " + tr("It is the file as it stands on disk, without your latest changes.");
+    if (end == SaveEnd::Refused)
+        text += " " + tr("Nothing was saved now: it is the file as it stands on disk.");
+    if (LoadedAsTemplate)
+        text += " " + tr("It is a template: its icons are empty.");
     m_view.notes.Tell(Notes::Kind::Install, text + " " + QString::fromStdString(whatNext));
 }
 

@@ -29,7 +29,7 @@ private:
     void mnuSaveandInstall_Click();
     void Message(std::string_view text);
     void ShowForm();
-    void TellQueued(const std::string& whatNext);
+    void TellQueued(SaveEnd end, const std::string& whatNext);
 
     View m_view;
     Ask& m_ask;

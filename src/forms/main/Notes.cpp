@@ -55,8 +55,8 @@ void Notes::Tell(Kind kind, const QString& text)
 
 void Notes::DocumentEnded()
 {
-    for (const Kind kind :
-        { Kind::Load, Kind::Save, Kind::Picture, Kind::Rows, Kind::Install, Kind::Name })
+    for (const Kind kind : { Kind::Load, Kind::Save, Kind::Template, Kind::Picture, Kind::Rows,
+             Kind::Install, Kind::Name })
         m_texts.erase(kind);
     m_isDocumentNotSaved = false; // the note stays, as its file is still not written
     m_notExportedText.clear();

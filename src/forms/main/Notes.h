@@ -12,13 +12,14 @@ class Notes {
 public:
     /// What a note is about; a new one takes the place of the one before of its kind.
     enum class Kind {
-        Load,    ///< goes with its document
-        Save,    ///< of one that succeeded; goes with its document
-        Picture, ///< of the last command for a picture; goes with its document
-        Rows,    ///< of new icons and new owners; goes with its document
-        Install, ///< of an iconset that was queued; goes with its document and the next save
-        Name,    ///< characters that a name can't hold; goes with its document
-        Catalog, ///< goes with the next reading of the catalogs
+        Load,     ///< goes with its document
+        Save,     ///< of one that succeeded; goes with its document
+        Template, ///< of one that was written; goes with its document
+        Picture,  ///< of the last command for a picture; goes with its document
+        Rows,     ///< of new icons and new owners; goes with its document
+        Install,  ///< of an iconset that was queued; goes with its document and the next save
+        Name,     ///< characters that a name can't hold; goes with its document
+        Catalog,  ///< goes with the next reading of the catalogs
     };
 
     Notes(QLabel& notSaved, QLabel& others);

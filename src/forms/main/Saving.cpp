@@ -6,6 +6,7 @@
 #include "settings/Settings.h"
 #include "writer/CompileIconset.h"
 #include "writer/SaveChecks.h"
+#include "writer/TemplateExport.h"
 
 namespace vypx {
 
@@ -92,7 +93,7 @@ SaveEnd Saving::SaveNewIconset()
     const std::optional<std::string> path = ChooseTarget();
     if (!path)
         return SaveEnd::Failed;
-    FileName = *path;
+    NameFile(*path);
     if (FileName.empty())
         Message("Can't save. Filename not specified.");
     TakeTargetFolder();
@@ -112,7 +113,7 @@ void Saving::SaveAs()
     const std::optional<std::string> path = ChooseTarget();
     if (!path)
         return;
-    FileName = *path;
+    NameFile(*path);
     TakeTargetFolder();
     SavingAs = true;
     if (!Compile())
@@ -136,6 +137,14 @@ std::optional<std::string> Saving::ChooseTarget()
     if (!chosen)
         return std::nullopt;
     return chosen->toStdString();
+}
+
+/// What was loaded as a template was so from its own file: another one may hold pictures already,
+/// also where the save fails.
+void Saving::NameFile(const std::string& path)
+{
+    LoadedAsTemplate = LoadedAsTemplate && IsOpenFile(path);
+    FileName = path;
 }
 
 void Saving::TakeTargetFolder()

@@ -54,6 +54,7 @@ private:
     SaveEnd SaveToKnownName();
     SaveEnd SaveNewIconset();
     std::optional<std::string> ChooseTarget();
+    void NameFile(const std::string& path);
     void TakeTargetFolder();
     bool Compile();
 

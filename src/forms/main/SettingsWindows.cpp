@@ -73,6 +73,12 @@ void SettingsWindows::AskForDepth()
 
 bool SettingsWindows::AsksForDepth() const { return m_depthWindow && m_depthWindow->isVisible(); }
 
+void SettingsWindows::CloseDepthWindow()
+{
+    if (m_depthWindow)
+        m_depthWindow->close();
+}
+
 void SettingsWindows::HoldDepthWindow(bool on)
 {
     if (m_depthWindow)
@@ -101,8 +107,7 @@ void SettingsWindows::ShowDepthLock()
 
 void SettingsWindows::CloseAll()
 {
-    if (m_depthWindow)
-        m_depthWindow->close();
+    CloseDepthWindow();
     if (m_options)
         m_options->CloseAnyway();
 }

@@ -28,6 +28,7 @@ public:
     /// Asks for depth and resolution of a document that is to be opened or made.
     void AskForDepth();
     bool AsksForDepth() const;
+    void CloseDepthWindow();
     /// The window for that, where it stands, takes no input for a while.
     void HoldDepthWindow(bool on);
 

@@ -56,12 +56,13 @@ std::optional<std::string> TemplateExporting::ChooseTarget()
 /// A failure shows no box but a note that stays until an export succeeds or the document ends.
 void TemplateExporting::Export(const std::string& path)
 {
-    m_view.notes.Tell(Notes::Kind::Save, {}); // of an earlier one
+    m_view.notes.Tell(Notes::Kind::Template, {}); // of an earlier one
     try {
         const SaveReport report = ExportTemplate(path, m_windows.DepthOfDocument());
         m_view.notes.ExportSucceeded();
         const QString told = tr("The template was written to %1.").arg(PathText(path));
-        m_view.notes.Tell(Notes::Kind::Save, (told + " " + FromLatin1(NoteOf(report))).trimmed());
+        m_view.notes.Tell(
+            Notes::Kind::Template, (told + " " + FromLatin1(NoteOf(report))).trimmed());
     } catch (const std::exception& failure) {
         m_view.notes.ExportFailed(QString::fromStdString(failure.what()));
     }

@@ -3,6 +3,7 @@
 #include "forms/common/Text.h"
 #include "install/InstallWay.h"
 #include "platform/Platform.h"
+#include "settings/Settings.h"
 
 #include <QCoreApplication>
 
@@ -36,8 +37,10 @@ QString InstallWayText(const std::string& palmSyncFolder)
     InstallPlaces places = PlacesForInstall();
     places.palmSyncFolder = palmSyncFolder;
     const std::unique_ptr<InstallWay> way = ChooseInstallWay(places);
-    const QString told =
-        way ? Words("Save and Install uses %1.").arg(PathText(way->Description())) : NoWay(places);
+    const QString uses = palmSyncFolder == PalmSyncFolder
+        ? Words("Save and Install uses %1.")
+        : Words("Save and Install will use %1 once this window is closed.");
+    const QString told = way ? uses.arg(PathText(way->Description())) : NoWay(places);
     if (HasPalmSync && IsMissing(palmSyncFolder))
         return Words("There is no such palm-sync folder.") + ' ' + told;
     return told;

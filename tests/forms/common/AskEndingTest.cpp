@@ -78,6 +78,20 @@ TEST_F(OwnEnding, IsAddedUnlessTheNameEndsInItInAnyCase)
     }
 }
 
+TEST_F(OwnEnding, IsAddedToANameInQuotesToo)
+{
+    WriteText(folder.File("old.prc"), "an iconset");
+    const std::pair<const char*, const char*> names[] = { { "\"foo.prc\"", "foo.prc.vpt" },
+        { "\"old.prc\"", "old.prc.vpt" }, { "\"set.vpt\"", "set.vpt" } };
+    for (const auto& [typed, given] : names) {
+        const std::optional<QString> chosen = Save(typed);
+
+        ASSERT_TRUE(chosen) << typed;
+        EXPECT_EQ(chosen->toStdString(), folder.File(given)) << typed;
+        EXPECT_FALSE(Asked()) << typed;
+    }
+}
+
 TEST_F(OwnEnding, TheDialogShowsTheNameWithIt)
 {
     QStringList notes;

@@ -222,6 +222,19 @@ TEST_F(ExportingTemplates, ASuccessTakesTheNoteOfAFailedOneAway)
 }
 
 /// A save that failed is still not done when a template was written.
+TEST_F(ExportingTemplates, WhatASaveHadToTellIsToldOn)
+{
+    IconTable.push_back({ "Delta (Large Icon)", "Tbmp3600", "tAIB3500.bmp", "NEW", 1, "APP" });
+    Entry("mnuSave").trigger();
+    const QString told = Note();
+    ASSERT_TRUE(told.contains("orphan"));
+
+    Export(PathOf("out.vpt"));
+
+    EXPECT_TRUE(Note().startsWith(told)) << Note().toStdString();
+    EXPECT_TRUE(Note().contains("out.vpt"));
+}
+
 TEST_F(ExportingTemplates, TheNoteOfAFailedSaveStays)
 {
     ask.SaveTo(PathOf("no/such/set.prc"));

@@ -96,7 +96,7 @@ TEST_F(Installing, PalmSyncGetsACopyOfWhatWasSaved)
     EXPECT_TRUE(Note().startsWith("set.prc is queued.")) << Note().toStdString();
     EXPECT_TRUE(Note().contains(QString::fromStdString(program.File("palm/Ada/install"))));
     EXPECT_TRUE(Note().contains("HotSync"));
-    EXPECT_FALSE(Note().contains("without your latest changes"));
+    EXPECT_FALSE(Note().contains("Nothing was saved"));
 }
 
 TEST_F(Installing, OnceMoreItReplacesItsOwnCopy)
@@ -153,7 +153,7 @@ TEST_F(Installing, ANoToOverwritingQueuesTheOldFile)
     EXPECT_EQ(Queued(), before);
     EXPECT_EQ(ask.beeps, 1);
     EXPECT_TRUE(IconsetChanged);
-    EXPECT_TRUE(Note().contains("without your latest changes")) << Note().toStdString();
+    EXPECT_TRUE(Note().contains("it is the file as it stands on disk")) << Note().toStdString();
 }
 
 TEST_F(Installing, ASaveThatTheChecksRefuseQueuesTheOldFile)
@@ -255,6 +255,53 @@ TEST_F(Installing, AnotherIconsetOfThatNameThatWaitsStays)
     EXPECT_EQ(Queued(), other);
     EXPECT_NE(SetBytes(), before) << "the iconset is saved all the same";
     EXPECT_FALSE(IconsetChanged);
+}
+
+TEST_F(Installing, AnEmptyTemplateIsToldToBeOne)
+{
+    SetUpPalmSync();
+    fs::copy_file(program.File("set.prc"), program.File("set.vpt"));
+    ask.Choose(QString::fromStdString(program.File("set.vpt")));
+    Entry("mnuLoadTemplate").trigger();
+    ask.Answer(QMessageBox::Ok);
+
+    Install();
+
+    EXPECT_EQ(Messages(), QStringList{ "Error! Iconset doesn't contain any images." });
+    EXPECT_EQ(ReadBytes(program.File("palm/Ada/install/set.vpt.prc")), before);
+    EXPECT_TRUE(Note().contains("It is a template")) << Note().toStdString();
+}
+
+TEST_F(Installing, AFileThatWasRefusedIsNotSent)
+{
+    SetUpPalmSync();
+    const QString alien = Written(Bytes(100, 1), "alien.prc");
+    ask.Answer(QMessageBox::Ok); // it is no iconset
+    Open(alien);
+    ASSERT_FALSE(FileLoaded);
+    ask.Answer(QMessageBox::Ok);
+
+    Install();
+
+    EXPECT_EQ(Messages().back(), "No file loaded.");
+    EXPECT_FALSE(fs::exists(program.File("palm/Ada/install")));
+    EXPECT_EQ(ask.beeps, 0);
+}
+
+TEST_F(Installing, ANameThatIsStillBeingTypedIsSavedFirst)
+{
+    SetUpPalmSync();
+    Nodes().setCurrentItem(Nodes().Root());
+    Press("cmdChangeDataBaseName");
+    auto* const editor = Nodes().findChild<QLineEdit*>();
+    ASSERT_TRUE(editor);
+    editor->setText("Typed");
+
+    Install();
+
+    EXPECT_EQ(DatabaseName, "Typed");
+    const Bytes queued = Queued();
+    EXPECT_EQ(std::string(queued.begin(), queued.begin() + 5), "Typed");
 }
 
 TEST_F(Installing, AnyOtherFailureIsUnknown)

@@ -182,6 +182,23 @@ TEST_F(Reload, ATemplateThatCouldNotBeSavedIsStillOne)
     EXPECT_FALSE(HasPicture());
 }
 
+TEST_F(Reload, TheFileOfASaveAsThatFailedIsNoTemplate)
+{
+    LoadTemplate();
+    ImportPicture();
+    std::filesystem::remove(WorkPath(IconTable.at(0).LowResFile));
+    std::filesystem::copy_file(program.File("set.vpt"), program.File("other.prc"));
+    ask.SaveTo(QString::fromStdString(program.File("other.prc")));
+    Entry("mnuSaveAs").trigger();
+    ASSERT_TRUE(Find<QLabel>("lblNotSaved").isVisible());
+    ask.Answer(Ok);
+
+    Press("cmdApplyAndReload");
+
+    EXPECT_EQ(FileName, program.File("other.prc"));
+    EXPECT_TRUE(HasPicture()) << "that file is an iconset";
+}
+
 TEST_F(Reload, AnIconsetAfterATemplateIsNone)
 {
     LoadTemplate();

@@ -154,6 +154,31 @@ TEST_F(TemplateMeetings, AfterADropTheTemplatesWindowLeadsToNoTemplate)
     ExpectAnotherIsOpen();
 }
 
+TEST_F(TemplateMeetings, ADroppedIconsetClosesTheWindowThatWasToLeadToATemplate)
+{
+    PromptColorDepth = true;
+    Entry("mnuLoadTemplate").trigger();
+    ASSERT_TRUE(DepthWindow());
+
+    Drop("TreeView1", AnotherIconset());
+
+    ExpectAnotherIsOpen();
+    EXPECT_FALSE(DepthWindow()) << "nobody is asked for an iconset in its place";
+}
+
+TEST_F(TemplateMeetings, APictureInATemplatesSlotIsUndoneToAnEmptyOne)
+{
+    Load(TheTemplate());
+    PicturesFixture::Click("Gamma (Large Icon)");
+    ImportBlack("cmdImportSM", 32, 22);
+    ASSERT_TRUE(HasPictures());
+
+    Press("cmdUndoSM");
+
+    EXPECT_FALSE(HasPictures()) << "the template's own pixel is no picture of the user's";
+    EXPECT_FALSE(CanUse("cmdSaveSM"));
+}
+
 TEST_F(TemplateMeetings, AHurriedCommandAmidALoadIsNotKeptForTheNext)
 {
     Resource broken = Picture(3501);

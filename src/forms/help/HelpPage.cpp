@@ -22,6 +22,8 @@ HelpPage::HelpPage(QWidget* parent)
     : QTextBrowser(parent)
 {
     setOpenExternalLinks(true);
+    // Or the room for pictures would change with their height.
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
 }
 
 void HelpPage::Open(const QString& page)

@@ -147,7 +147,10 @@ void frmHelp::ShowInContents(const QString& page)
     if (current && WithoutAnchor(current->data(0, PageRole).toString()) == page)
         return;
     const QSignalBlocker quiet(tree);
-    tree.setCurrentItem(EntryOf(*tree.invisibleRootItem(), page));
+    QTreeWidgetItem* const entry = EntryOf(*tree.invisibleRootItem(), page);
+    tree.setCurrentItem(entry);
+    if (entry)
+        tree.scrollToItem(entry); // opens the group that it stands in
 }
 
 void frmHelp::BringUp(QWidget* modal)

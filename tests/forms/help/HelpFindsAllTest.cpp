@@ -42,7 +42,7 @@ QStringList Literals(QString source)
     static const QRegularExpression literals(
         R"re("(?:[^"\\\n]|\\.)*"(?:\s*"(?:[^"\\\n]|\\.)*")*)re");
     static const QRegularExpression seam(R"re((?<!\\)"\s*")re");
-    source.remove(comment).remove(raw).remove(including);
+    source.remove("'\"'").remove(comment).remove(raw).remove(including);
     QStringList texts;
     for (auto found = literals.globalMatch(source); found.hasNext();) {
         QString text = found.next().captured();

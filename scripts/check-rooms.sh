@@ -42,7 +42,8 @@ declare -A upstairs=(
     [settings]="settings common"
     [catalogs]="catalogs common"
     [sides]="sides common"
-    [main]="main catalogs imaging settings sides common"
+    [help]="help common"
+    [main]="main catalogs help imaging settings sides common"
 )
 while IFS=: read -r file line text; do
     room=${file#forms/}

@@ -3,12 +3,13 @@
 build_packages=(
     g++ cmake ninja-build qt6-base-dev libcli11-dev nlohmann-json3-dev
     libgtest-dev libgmock-dev libbenchmark-dev librapidcheck-dev
-    qt6-image-formats-plugins
+    qt6-image-formats-plugins fp-utils python3
 )
 test_packages=(
     clang clang-format libclang-rt-14-dev netpbm libpalm-pdb-perl g++-mingw-w64-x86-64-posix
     g++-mingw-w64-i686-posix
     imagemagick webp xvfb openbox fonts-dejavu-core x11-utils xdotool xclip
+    tidy
 )
 screen_packages=(xvfb openbox fonts-dejavu-core imagemagick x11-utils xdotool)
 

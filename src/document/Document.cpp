@@ -1,5 +1,6 @@
 #include "document/Document.h"
 
+#include "document/HelpContext.h"
 #include "document/IconStats.h"
 #include "document/PictureState.h"
 #include "document/SettingsFile.h"
@@ -49,6 +50,7 @@ void ResetDocument()
     LGhasTransparent = SMhasTransparent = false;
     MaskR_LG = MaskG_LG = MaskB_LG = MaskR_SM = MaskG_SM = MaskB_SM = 0;
     TransparentUse = true;
+    HelpContext = HelpOfIconset;
     R = G = 0;
     B = 255;
     ResetPictureState();

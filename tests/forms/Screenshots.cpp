@@ -24,6 +24,7 @@
 #include <QScrollBar>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
 #include <filesystem>
 #include <iostream>
 
@@ -276,6 +277,23 @@ void TakeDrop(const QString& folder, MDIForm1& frame)
     window.findChild<QPushButton*>("cmdCancel")->click();
 }
 
+/// The help over the main form: its contents, and what a search finds.
+void TakeHelp(const QString& folder, MDIForm1& frame)
+{
+    frame.findChild<QAction*>("mnuManual")->trigger();
+    const auto windows = QApplication::topLevelWidgets();
+    QWidget* const help = *std::find_if(windows.begin(), windows.end(),
+        [](const QWidget* window) { return window->objectName() == "frmHelp"; });
+    help->move(60, 80);
+    Take(folder, "help-contents");
+    QTest::keyClick(help, Qt::Key_F, Qt::ControlModifier);
+    auto& words = *help->findChild<QLineEdit*>("txtSearch");
+    QTest::keyClicks(&words, "fringe");
+    QTest::keyClick(&words, Qt::Key_Return);
+    Take(folder, "help-search");
+    help->close();
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -360,6 +378,7 @@ int main(int argc, char** argv)
     bar("VScrollRed")->setValue(0);
     bar("VScrollBlue")->setValue(255);
 
+    TakeHelp(folder, frame);
     TakeAddIcon(folder, frame);
     IconsetChanged = false;
     TakeDrop(folder, frame);

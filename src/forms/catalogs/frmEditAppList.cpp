@@ -72,6 +72,7 @@ void frmEditAppList::Connect()
     clicks(m_ui->cmdSearchIcon, &frmEditAppList::cmdSearchIcon_Click);
     clicks(m_ui->cmdStopSearch, &frmEditAppList::StopAsked);
     clicks(m_ui->cmdApplyAndReload, &frmEditAppList::ReloadAsked);
+    clicks(m_ui->cmdHelp, &frmEditAppList::HelpAsked);
     clicks(m_ui->cmdAppEditDone, &frmEditAppList::accept);
     for (const QRadioButton* page : { m_ui->opt_Apps, m_ui->opt_PalmSys })
         connect(page, &QRadioButton::toggled, this, &frmEditAppList::opt_Click);

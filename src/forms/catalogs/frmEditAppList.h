@@ -55,6 +55,7 @@ signals:
     void StopAsked();
     void ManualAsked();
     void ReloadAsked();
+    void HelpAsked();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -54,6 +54,7 @@ void AppListCommands::OpenEditor()
     connect(&editor, &frmEditAppList::StopAsked, this, [this] { m_search.Stop(); });
     connect(&editor, &frmEditAppList::ManualAsked, this, &AppListCommands::cmdManual_Click);
     connect(&editor, &frmEditAppList::ReloadAsked, this, &AppListCommands::cmdApplyAndReload_Click);
+    connect(&editor, &frmEditAppList::HelpAsked, this, &AppListCommands::HelpAsked);
     connect(&editor, &QDialog::finished, this, [this] {
         if (m_manual)
             m_manual->close();

@@ -46,6 +46,10 @@ public:
     /// Of both windows. The one that edits the list stops a search first.
     void CloseWindows();
 
+signals:
+    /// The help for the window that edits the list is wanted.
+    void HelpAsked();
+
 private:
     bool IsOpen() const;
     void OpenEditor();

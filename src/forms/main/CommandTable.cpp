@@ -34,7 +34,7 @@ std::vector<CommandRow> Rows()
         { RemoveHighRes, "mnuRemoveHR", "Remove All High Res Images", none, Built, When::Document },
         { Options, "mnuOptions", "&Program Options", none, Built, When::Always },
         { Tips, "mnuTips", "&Tip of the Day", none, NotBuiltYet, When::Always },
-        { Manual, "mnuManual", "&Show VY Pixelworks Help", none, NotBuiltYet, When::Always },
+        { Manual, "mnuManual", "&Show VY Pixelworks Help", none, Built, When::Always },
         { About, "mnuAbout", "About VY Pixelworks", none, NotBuiltYet, When::Always },
         { ArrangeWindows, "mnuArrangeWin", "&Arrange Windows", none, NotBuiltYet, When::Always },
         { AddIcon, "cmdAddIcon", "Add Icon", none, Built, When::Document },

@@ -1,6 +1,7 @@
 #include "forms/main/Documents.h"
 
 #include "document/Document.h"
+#include "document/HelpContext.h"
 #include "document/IconStats.h"
 #include "forms/common/DisabledWindow.h"
 #include "forms/common/Text.h"
@@ -42,6 +43,8 @@ bool Documents::MayLeave(Leaving command)
         command == Leaving::ForOpen ? StatHighRes != 0 || StatLowRes != 0 : FileLoaded;
     const bool asks = IconsetChanged && hasWhatCounts;
     auto answer = QMessageBox::No;
+    if (asks && command == Leaving::ForNew)
+        HelpContext = HelpOfIconset;
     if (asks)
         answer = m_ask.Show(&m_view.form,
             { .text = "The current iconset may have been changed.\n\nSave the current iconset?",
@@ -86,6 +89,7 @@ void Documents::LoadTemplate() { OpenFile(Leaving::ForTemplate); }
 
 void Documents::OpenFile(Leaving command)
 {
+    HelpContext = HelpOfIconset;
     ForgetDropped();
     m_view.commands.Enable(Command::ChangeDatabaseName, false);
     const bool wasPendingNew = std::exchange(PendingNew, false);

@@ -1,5 +1,6 @@
 #include "forms/main/Form1.h"
 
+#include "document/HelpContext.h"
 #include "document/Slot.h"
 #include "forms/common/Text.h"
 #include "forms/main/AddIconCommands.h"
@@ -9,6 +10,7 @@
 #include "forms/main/Drops.h"
 #include "forms/main/ExportCommands.h"
 #include "forms/main/FormKeys.h"
+#include "forms/main/HelpCommands.h"
 #include "forms/main/Installing.h"
 #include "forms/main/Menus.h"
 #include "forms/main/PanelKeys.h"
@@ -67,6 +69,7 @@ struct Form1::Parts {
     Drops drops;
     ClipboardCommands clipboard;
     Session session;
+    HelpCommands help;
     FormKeys keys;
     PanelKeys panelKeys;
 
@@ -105,6 +108,7 @@ struct Form1::Parts {
         , clipboard({ form, panels, commands }, ask, pictures, icons)
         , session({ frame, form, panels, commands, views, *ui.lblWorking, sides }, busy, settings,
               windows, documents, catalogs, search)
+        , help(form, commands)
         , keys(form, *ui.TreeView1, [this] { icons.RemoveSelected(); })
         , panelKeys(form, panels, commands)
     {
@@ -137,6 +141,8 @@ Form1::Form1(QWidget& frame, Ask& ask)
     connect(
         &parts.documents, &Documents::Replaced, &parts.addIcons, &AddIconCommands::DocumentChanged);
     connect(&parts.watcher, &LoadWatcher::FolderChosen, this, [&parts] { parts.settings.Save(); });
+    connect(&parts.appList, &AppListCommands::HelpAsked, this,
+        [&parts] { parts.help.ShowContext(HelpOfAppList); });
     connect(&parts.windows, &SettingsWindows::OptionsDone, this, [&parts] {
         if (!parts.session.HasEnded()) // an exit saves them itself
             parts.settings.Save();

@@ -61,7 +61,7 @@ TEST_F(EditAppList, BeginsWithTheApplicationsAndNewIcon)
     EXPECT_FALSE(IsSeen("frmPalmSys"));
     EXPECT_FALSE(IsSeen("lblSearching"));
     EXPECT_FALSE(IsSeen("cmdStopSearch"));
-    EXPECT_FALSE(IsOn("cmdHelp"));
+    EXPECT_TRUE(IsOn("cmdHelp"));
 }
 
 TEST_F(EditAppList, ReadsTheFileThatAnotherProgramHasChanged)

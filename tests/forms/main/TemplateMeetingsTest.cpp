@@ -160,7 +160,7 @@ TEST_F(TemplateMeetings, ADroppedIconsetClosesTheWindowThatWasToLeadToATemplate)
     Entry("mnuLoadTemplate").trigger();
     ASSERT_TRUE(DepthWindow());
 
-    Drop("TreeView1", AnotherIconset());
+    Drop("Form1", { AnotherIconset() });
 
     ExpectAnotherIsOpen();
     EXPECT_FALSE(DepthWindow()) << "nobody is asked for an iconset in its place";

@@ -4,6 +4,7 @@
 #include "forms/common/HeldKeys.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
@@ -92,12 +93,18 @@ public:
     /// With the name that will be written, so that the question about an existing file is about it.
     void accept() override
     {
+        const QString ending = LackingEnding();
         QLineEdit* const edit = NameEdit();
-        if (const QString ending = LackingEnding();
-            edit && !edit->text().isEmpty() && !ending.isEmpty())
+        if (edit && !edit->text().isEmpty() && !ending.isEmpty()) {
             // Quotes part several names; what stands beside them is none.
-            edit->setText(
-                (edit->text().contains('"') ? selectedFiles().value(0) : edit->text()) + ending);
+            const QString name =
+                edit->text().contains('"') ? selectedFiles().value(0) : edit->text();
+            // A file that is selected in the list, as a typed name that is there selects it, counts
+            // before the name.
+            if (const auto* const list = findChild<QAbstractItemView*>("listView"))
+                list->selectionModel()->clearSelection();
+            edit->setText(name + ending);
+        }
         QFileDialog::accept();
     }
 

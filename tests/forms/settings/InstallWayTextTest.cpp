@@ -34,7 +34,13 @@ protected:
         fs::create_directory(home.File(name));
         return QString::fromStdString(home.File(name));
     }
-    static QString Uses(const QString& way) { return "Save and Install uses " + way + "."; }
+    /// Where the folder is not the one that is set yet, as the window stands open.
+    QString Uses(const QString& way)
+    {
+        const bool isSet = Folder().text().trimmed().toStdString() == PalmSyncFolder;
+        return isSet ? "Save and Install uses " + way + "."
+                     : "Save and Install will use " + way + " once this window is closed.";
+    }
 
     TempFolder home;
 

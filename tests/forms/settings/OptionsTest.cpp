@@ -1,7 +1,7 @@
 #include "WindowFixture.h"
 
 #include "document/SettingsFile.h"
-#include "forms/settings/UserStore.h"
+#include "forms/common/UserStore.h"
 
 #include <QCheckBox>
 #include <QDialog>

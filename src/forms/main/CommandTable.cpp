@@ -36,7 +36,7 @@ std::vector<CommandRow> Rows()
         { Tips, "mnuTips", "&Tip of the Day", none, NotBuiltYet, When::Always },
         { Manual, "mnuManual", "&Show VY Pixelworks Help", none, NotBuiltYet, When::Always },
         { About, "mnuAbout", "About VY Pixelworks", none, NotBuiltYet, When::Always },
-        { ArrangeWindows, "mnuArrangeWin", "&Arrange Windows", none, NotBuiltYet, When::Always },
+        { ArrangeWindows, "mnuArrangeWin", "&Arrange Windows", none, Built, When::Always },
         { AddIcon, "cmdAddIcon", "Add Icon", none, Built, When::Document },
         { AssignApp, "cmdAssignApp", "Change / Share", none, Built, When::Icon },
         { RemoveIcon, "cmdRemoveIcon", "&Remove Selected", none, Built, When::Icon },

@@ -17,6 +17,7 @@
 #include "forms/main/Session.h"
 #include "forms/main/TemplateExporting.h"
 #include "forms/main/TransparencyCommands.h"
+#include "forms/main/WindowOrder.h"
 #include "ui_Form1.h"
 
 #include <QCloseEvent>
@@ -48,6 +49,7 @@ struct Form1::Parts {
     ViewEntries views;
     SideContents contents;
     SideWindows sides;
+    WindowOrder order;
     SavedSettings settings;
     BusyGuard busy;
     AppSearch search;
@@ -79,6 +81,7 @@ struct Form1::Parts {
         , views(panels, commands)
         , contents(*ui.TreeView1, panels)
         , sides(form, commands, contents)
+        , order(frame, form, commands, sides)
         , settings(frame, sides, ask)
         , search(form, commands, ask)
         , windows(form, commands, views, *ui.lblTargetCD, ask)
@@ -103,8 +106,8 @@ struct Form1::Parts {
                   .paste = [this] { pictures.Paste(SlotLG); },
                   .isSearching = [this] { return search.IsRunning(); } })
         , clipboard({ form, panels, commands }, ask, pictures, icons)
-        , session({ frame, form, panels, commands, views, *ui.lblWorking, sides }, busy, settings,
-              windows, documents, catalogs, search)
+        , session({ frame, form, panels, commands, views, *ui.lblWorking, sides, order }, busy,
+              settings, windows, documents, catalogs, search)
         , keys(form, *ui.TreeView1, [this] { icons.RemoveSelected(); })
         , panelKeys(form, panels, commands)
     {

@@ -42,7 +42,8 @@ declare -A upstairs=(
     [settings]="settings common"
     [catalogs]="catalogs common"
     [sides]="sides common"
-    [main]="main catalogs imaging settings sides common"
+    [greeting]="greeting common"
+    [main]="main greeting catalogs imaging settings sides common"
 )
 while IFS=: read -r file line text; do
     room=${file#forms/}

@@ -9,6 +9,7 @@
 #include "forms/main/Drops.h"
 #include "forms/main/ExportCommands.h"
 #include "forms/main/FormKeys.h"
+#include "forms/main/Greeting.h"
 #include "forms/main/Installing.h"
 #include "forms/main/Menus.h"
 #include "forms/main/PanelKeys.h"
@@ -69,6 +70,7 @@ struct Form1::Parts {
     Drops drops;
     ClipboardCommands clipboard;
     Session session;
+    Greeting greeting;
     FormKeys keys;
     PanelKeys panelKeys;
 
@@ -108,6 +110,7 @@ struct Form1::Parts {
         , clipboard({ form, panels, commands }, ask, pictures, icons)
         , session({ frame, form, panels, commands, views, *ui.lblWorking, sides, order }, busy,
               settings, windows, documents, catalogs, search)
+        , greeting(form, commands, ask, session, appList)
         , keys(form, *ui.TreeView1, [this] { icons.RemoveSelected(); })
         , panelKeys(form, panels, commands)
     {
@@ -140,6 +143,8 @@ Form1::Form1(QWidget& frame, Ask& ask)
     connect(
         &parts.documents, &Documents::Replaced, &parts.addIcons, &AddIconCommands::DocumentChanged);
     connect(&parts.watcher, &LoadWatcher::FolderChosen, this, [&parts] { parts.settings.Save(); });
+    connect(&parts.greeting, &Greeting::ShowTipsChosen, &parts.windows,
+        &SettingsWindows::ShowTipsOption);
     connect(&parts.windows, &SettingsWindows::OptionsDone, this, [&parts] {
         if (!parts.session.HasEnded()) // an exit saves them itself
             parts.settings.Save();
@@ -160,7 +165,7 @@ void Form1::StartUp(const QString& programFolder, const QString& userFolder)
 {
     m_parts->session.StartUp(programFolder, userFolder);
     m_ui->TreeView1->setFocus();
-    m_parts->appList.DoStartup();
+    m_parts->greeting.Start();
 }
 
 void Form1::ExitProgram() { m_parts->session.Exit(); }

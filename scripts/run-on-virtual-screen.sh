@@ -42,7 +42,7 @@ processes+=("$pid")
 ticks() { awk '{print $14 + $15}' "/proc/$pid/stat"; }
 
 # The program's window with that title; empty: there is none.
-window_of() { xdotool search --onlyvisible --pid "$pid" --name "^$1\$" 2>/dev/null | head -1 || true; }
+window_of() { xdotool search --all --onlyvisible --pid "$pid" --name "^$1\$" 2>/dev/null | head -1 || true; }
 
 wait_until_idle() {
     local quiet=0 before

@@ -43,7 +43,8 @@ declare -A upstairs=(
     [catalogs]="catalogs common"
     [sides]="sides common"
     [help]="help common"
-    [main]="main catalogs help imaging settings sides common"
+    [greeting]="greeting common"
+    [main]="main greeting catalogs help imaging settings sides common"
 )
 while IFS=: read -r file line text; do
     room=${file#forms/}

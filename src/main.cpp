@@ -1,4 +1,5 @@
 #include "forms/common/Ask.h"
+#include "forms/common/ProgramName.h"
 #include "forms/main/MDIForm1.h"
 
 #include <QApplication>
@@ -10,7 +11,7 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     QApplication::setApplicationName("vy-pixelworks");
     // No display name: Qt would put it behind the captions of windows.
-    QApplication::setApplicationVersion("2.0.0");
+    QApplication::setApplicationVersion(vypx::VersionNumber());
 
     vypx::ScreenAsk ask;
     try {

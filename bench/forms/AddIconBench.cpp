@@ -4,6 +4,7 @@
 // QT_QPA_PLATFORM=offscreen.
 
 #include "NoAsk.h"
+#include "QuietStart.h"
 #include "document/Catalogs.h"
 #include "document/Document.h"
 #include "forms/main/Form1.h"
@@ -33,7 +34,7 @@ struct Program {
     Program()
         : frame(ask)
     {
-        frame.Start(QString::fromStdString(folder.Path()), {});
+        StartQuietly(frame, folder);
         FileLoaded = true;
         Parent = DatabaseName = "Bench";
         Begin();

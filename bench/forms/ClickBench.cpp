@@ -2,6 +2,7 @@
 // fits, with 4000 rows in the tree. Without a screen: QT_QPA_PLATFORM=offscreen.
 
 #include "NoAsk.h"
+#include "QuietStart.h"
 #include "companion/BmpFile.h"
 #include "document/Catalogs.h"
 #include "document/Document.h"
@@ -26,7 +27,7 @@ struct Program {
     Program()
         : frame(ask)
     {
-        frame.Start(QString::fromStdString(folder.Path()), {});
+        StartQuietly(frame, folder);
         FileLoaded = true;
         Parent = DatabaseName = "Bench";
         Tree.SetRoot(Parent);

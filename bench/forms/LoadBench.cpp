@@ -2,6 +2,7 @@
 // of the tree. Without a screen: QT_QPA_PLATFORM=offscreen.
 
 #include "NoAsk.h"
+#include "QuietStart.h"
 #include "document/Document.h"
 #include "document/WorkingFolder.h"
 #include "forms/main/Form1.h"
@@ -54,7 +55,7 @@ struct Program {
     Program()
         : frame(ask)
     {
-        frame.Start(QString::fromStdString(folder.Path()), {});
+        StartQuietly(frame, folder);
         test::WriteBytes(Path(), BigIconset());
     }
     std::string Path() { return folder.File("big.prc"); }

@@ -4,6 +4,7 @@
 // screen: QT_QPA_PLATFORM=offscreen.
 
 #include "NoAsk.h"
+#include "QuietStart.h"
 #include "forms/main/MDIForm1.h"
 #include "support/Files.h"
 #include "support/PrcFiles.h"
@@ -74,7 +75,7 @@ struct Program {
                 + std::to_string(100 + i) + "}\n";
         test::WriteText(folder.File("AppList.dat"), apps);
         ask.folder = QString::fromStdString(folder.File("palm"));
-        frame.Start(QString::fromStdString(folder.Path()), {});
+        StartQuietly(frame, folder);
         frame.findChild<QPushButton*>("cmdEditAppList")->click();
     }
     void PutFile(const std::string& below, int number, int different)

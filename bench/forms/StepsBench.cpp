@@ -3,6 +3,7 @@
 // QT_QPA_PLATFORM=offscreen.
 
 #include "NoAsk.h"
+#include "QuietStart.h"
 #include "companion/BmpFile.h"
 #include "document/Document.h"
 #include "document/PictureState.h"
@@ -30,7 +31,7 @@ struct Program {
     Program()
         : frame(ask)
     {
-        frame.Start(QString::fromStdString(folder.Path()), {});
+        StartQuietly(frame, folder);
         FileLoaded = true;
         Parent = DatabaseName = "Bench";
         Tree.SetRoot(Parent);

@@ -200,6 +200,13 @@ bool IsPlaceOfAClosedWindow(const Key& key, const WindowsToSave& windows)
     return window && !window->isLoaded && std::holds_alternative<Number>(key.variable);
 }
 
+/// Of the sections of windows: a place or the main window's size.
+bool IsPlaceOfAWindow(const Key& key)
+{
+    const std::string_view section = key.section;
+    return section.find("Window") != section.npos && std::holds_alternative<Number>(key.variable);
+}
+
 } // namespace
 
 std::string SettingsFile(const std::string& folder) { return folder + BelowFolder("VYPX.ini"); }
@@ -230,6 +237,13 @@ std::vector<std::string> ReadSettings()
     if (VersionString.empty())
         VersionString = DefaultVersion;
     return bad;
+}
+
+bool HasWindowPlaces()
+{
+    const std::shared_ptr<const IniText> file = ReadIni(SettingsFile());
+    return std::any_of(Keys().begin(), Keys().end(),
+        [&](const Key& key) { return IsPlaceOfAWindow(key) && file->Value(key.section, key.key); });
 }
 
 bool SaveIni(const WindowsToSave& windows)

@@ -21,6 +21,10 @@ bool InitializeIni();
 /// are none or out of -32768 to 32767; their variables take the defaults.
 std::vector<std::string> ReadSettings();
 
+/// Whether the file says where any side window stands or how large the main one is. False at a
+/// first start.
+bool HasWindowPlaces();
+
 /// Where a side window stands when settings are saved.
 struct SideWindow {
     bool isLoaded = false;

@@ -88,6 +88,22 @@ TEST_F(SettingsFileTest, TheFirstSaveWritesEveryKeyInItsOrder)
         "[Hotsync Info]\nPalm User ID=\nPalm Desktop Folder=\nPalm Sync Folder=\n");
 }
 
+TEST_F(SettingsFileTest, OnlyAPlaceOrASizeTellsOfALaterStart)
+{
+    EXPECT_FALSE(HasWindowPlaces());
+    InitializeIni();
+    EXPECT_FALSE(HasWindowPlaces());
+    WriteFile("[IconStatWindow]\nVisible=True\n[Main Window Size]\n[Resolution]\nWidth=9\n");
+    EXPECT_FALSE(HasWindowPlaces());
+
+    for (const std::string key :
+        { "[IconStatWindow]\nX-Pos=0\n", "[Preview Option Window]\nY-Pos=100\n",
+            "[Shared Icons Window]\nX-Pos=\n", "[Main Window Size]\nHeight=9800\n" }) {
+        WriteFile(key);
+        EXPECT_TRUE(HasWindowPlaces()) << key;
+    }
+}
+
 TEST_F(SettingsFileTest, WhatIsSavedIsReadBack)
 {
     AutoCreateLowRes = UsePackbits = StartupSearch = true;

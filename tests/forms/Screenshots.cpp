@@ -22,6 +22,7 @@
 #include <QRadioButton>
 #include <QScreen>
 #include <QScrollBar>
+#include <QSettings>
 #include <QTest>
 #include <QTimer>
 #include <algorithm>
@@ -265,6 +266,20 @@ void TakeAddIcon(const QString& folder, MDIForm1& frame)
     AppTable.pop_back();
 }
 
+/// What greets the user, each window left by a key, and what the Help menu shows.
+void TakeGreeting(const QString& folder, MDIForm1& frame)
+{
+    const auto leave = [&](const char* name, Qt::Key key) {
+        auto& window = *frame.findChild<QDialog*>(name);
+        Take(folder, QString(name).mid(3).toLower());
+        QTest::keyClick(window.focusWidget(), key);
+    };
+    leave("frmSplash", Qt::Key_Space);
+    leave("frmTip", Qt::Key_Escape);
+    frame.findChild<QAction*>("mnuAbout")->trigger();
+    leave("frmAbout", Qt::Key_Return);
+}
+
 /// A picture that was dropped on the form.
 void TakeDrop(const QString& folder, MDIForm1& frame)
 {
@@ -300,6 +315,9 @@ int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
     QApplication::setCursorFlashTime(0);
+    const test::TempFolder user; // the user's own settings stay out of it
+    QSettings::setPath(
+        QSettings::NativeFormat, QSettings::UserScope, QString::fromStdString(user.Path()));
     if (argc != 2) {
         std::cerr << "usage: screenshots FOLDER\n";
         return 2;
@@ -309,6 +327,8 @@ int main(int argc, char** argv)
     for (const char* name : { "AppList.dat", "PalmApp.dat", "VY_Icons.dat" })
         std::filesystem::copy_file(
             test::TestData("iconsets/catalogs/") + name, programFolder.File(name));
+    test::WriteText(
+        programFolder.File("TIPOFDAY.TXT"), "Press F1 in any window to read about that window.\n");
     test::ScriptedAsk ask;
     // Beside the main form, where a user would have put it.
     test::WriteText(programFolder.File("VYPX.ini"),
@@ -319,6 +339,7 @@ int main(int argc, char** argv)
     MDIForm1 frame(ask);
     frame.Start(QString::fromStdString(programFolder.Path()), {});
     frame.move(20, 40);
+    TakeGreeting(folder, frame);
     Take(folder, "main-form-empty");
 
     frame.findChild<QAction*>("mnuNew")->trigger();

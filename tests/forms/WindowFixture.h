@@ -41,7 +41,14 @@ protected:
     void WriteSettings(const std::string& text) { WriteText(program.File("VYPX.ini"), text); }
     std::string Settings() const { return ReadText(program.File("VYPX.ini")); }
 
+    /// The program as at any later start, with nothing that greets but what the settings ask for.
     void Start()
+    {
+        AddUnlessSaid("[Splash Screen]\n", "Show splash screen at startup=False\n");
+        AddUnlessSaid("[Main Window Size]\n", "Width=14000\nHeight=9800\n");
+        StartAsItIs();
+    }
+    void StartAsItIs()
     {
         frame = std::make_unique<MDIForm1>(ask);
         frame->Start(QString::fromStdString(program.Path()), {});
@@ -111,6 +118,16 @@ protected:
     TempFolder program;
     ScriptedAsk ask;
     std::unique_ptr<MDIForm1> frame;
+
+private:
+    void AddUnlessSaid(const std::string& section, const std::string& lines)
+    {
+        const std::string file = program.File("VYPX.ini");
+        const std::string said = FileExists(file) ? ReadText(file) : "";
+        if (!DirExists(file) && said.find(section) == std::string::npos)
+            WriteText(
+                file, said + (said.empty() || said.ends_with('\n') ? "" : "\n") + section + lines);
+    }
 };
 
 /// A picture resource of one pixel.

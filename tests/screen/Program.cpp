@@ -1,4 +1,5 @@
-// screen_program FOLDER: the program in FOLDER on a real screen. Writes "ready" when it idles, then
+// screen_program FOLDER tip: the program in FOLDER on a real screen, with a tip at its start; with
+// another word without. Writes "ready" when it idles, then
 // answers each line of its standard input with one line:
 //
 //   open PATH      opens an iconset without a dialog
@@ -18,6 +19,7 @@
 
 #include "document/Document.h"
 #include "forms/common/Ask.h"
+#include "forms/common/UserStore.h"
 #include "forms/main/Form1.h"
 #include "forms/main/IconTreeView.h"
 #include "forms/main/MDIForm1.h"
@@ -197,10 +199,11 @@ private:
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
-    if (argc != 2)
+    if (argc != 3)
         return 2;
     const QString folder = QString::fromLocal8Bit(argv[1]);
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder + "/user");
+    SaveShowTipsAtStartup(QString(argv[2]) == "tip");
     ScreenAsk ask;
     MDIForm1 frame(ask);
     frame.Start(folder, {});

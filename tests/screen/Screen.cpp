@@ -1,5 +1,7 @@
 #include "screen/Screen.h"
 
+#include "support/Files.h"
+
 #include <chrono>
 #include <csignal>
 #include <filesystem>
@@ -70,12 +72,18 @@ void Screen::ReleasePointer() const { Run({ "xdotool", "mouseup", "1" }); }
 
 void Screen::Click() const { Run({ "xdotool", "click", "1" }); }
 
-ScreenFixture::ScreenFixture()
+void Screen::Key(const std::string& key) const { Run({ "xdotool", "key", key }); }
+
+ScreenFixture::ScreenFixture(Greets greets)
 {
+    const bool isGreeted = greets == Greets::SplashAndTip;
     std::signal(SIGPIPE, SIG_IGN); // a program that has died fails its test and not all of them
     for (const char* name : { "AppList.dat", "PalmApp.dat", "VY_Icons.dat" })
         std::filesystem::copy_file(std::string(VYPX_SHIPPED_DATA) + "/" + name, folder.File(name));
-    program = screen.Start({ VYPX_SCREEN_PROGRAM, folder.Path() });
+    WriteText(folder.File("VYPX.ini"),
+        std::string("[Splash Screen]\nShow splash screen at startup=")
+            + (isGreeted ? "True" : "False") + "\n[Main Window Size]\nWidth=14000\nHeight=9800\n");
+    program = screen.Start({ VYPX_SCREEN_PROGRAM, folder.Path(), isGreeted ? "tip" : "no tip" });
     EXPECT_EQ(program->ReadLine(), "ready");
 }
 

@@ -36,6 +36,8 @@ public:
     void ReleasePointer() const;
     /// Where the pointer is.
     void Click() const;
+    /// Presses and releases a key by its name for X.
+    void Key(const std::string& key) const;
 
 private:
     std::vector<std::string> OnScreen(std::vector<std::string> command) const;
@@ -49,7 +51,10 @@ private:
 /// asked of it and told to it line by line (Program.cpp).
 class ScreenFixture : public ::testing::Test {
 protected:
-    ScreenFixture();
+    /// What the program shows before its main window can be used.
+    enum class Greets { Nothing, SplashAndTip };
+
+    explicit ScreenFixture(Greets greets = Greets::Nothing);
 
     /// The answer to one command.
     std::string Ask(const std::string& command);

@@ -2,9 +2,12 @@
 
 #include <QMdiSubWindow>
 
+class QMenu;
+
 namespace vypx {
 
-/// A small window beside the main form, above it in the frame's area. Goes when it is closed.
+/// A small window beside the main form, above it in the frame's area. Goes when it is closed. The
+/// right button on its ground and the menu key show its menu.
 class SideForm : public QMdiSubWindow {
     Q_OBJECT
 
@@ -14,6 +17,8 @@ public:
 
 signals:
     void Closed();
+    /// The entry of the window's menu.
+    void ArrangeAsked();
 
 protected:
     explicit SideForm(Size size);
@@ -23,9 +28,13 @@ protected:
 
     void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+    QMenu* MakeMenu();
+
     Size m_size;
+    QMenu* m_menu; // of the window's ground
 };
 
 } // namespace vypx

@@ -21,8 +21,6 @@ struct CommandRow {
     const char* name;    ///< of the button, menu entry or panel
     const char* caption; ///< empty: the control has none, or its own
     QKeySequence keys;
-    bool
-        isBuilt; ///< false: its code is not written yet, and it stays disabled whatever a step says
     When when;
     bool isCheckable = false;
 };

@@ -26,7 +26,7 @@ Commands::Commands(QWidget& frame, QWidget& form)
 void Commands::Enable(Command command, bool on)
 {
     Control& control = m_controls[static_cast<std::size_t>(command)];
-    control.isWanted = on && RowOf(command).isBuilt;
+    control.isWanted = on;
     Apply(control);
 }
 

@@ -10,6 +10,7 @@
 #include "forms/main/Drops.h"
 #include "forms/main/ExportCommands.h"
 #include "forms/main/FormKeys.h"
+#include "forms/main/Greeting.h"
 #include "forms/main/HelpCommands.h"
 #include "forms/main/Installing.h"
 #include "forms/main/Menus.h"
@@ -19,6 +20,7 @@
 #include "forms/main/Session.h"
 #include "forms/main/TemplateExporting.h"
 #include "forms/main/TransparencyCommands.h"
+#include "forms/main/WindowOrder.h"
 #include "ui_Form1.h"
 
 #include <QCloseEvent>
@@ -50,6 +52,7 @@ struct Form1::Parts {
     ViewEntries views;
     SideContents contents;
     SideWindows sides;
+    WindowOrder order;
     SavedSettings settings;
     BusyGuard busy;
     AppSearch search;
@@ -70,6 +73,7 @@ struct Form1::Parts {
     ClipboardCommands clipboard;
     Session session;
     HelpCommands help;
+    Greeting greeting;
     FormKeys keys;
     PanelKeys panelKeys;
 
@@ -82,6 +86,7 @@ struct Form1::Parts {
         , views(panels, commands)
         , contents(*ui.TreeView1, panels)
         , sides(form, commands, contents)
+        , order(frame, form, commands, sides)
         , settings(frame, sides, ask)
         , search(form, commands, ask)
         , windows(form, commands, views, *ui.lblTargetCD, ask)
@@ -106,9 +111,10 @@ struct Form1::Parts {
                   .paste = [this] { pictures.Paste(SlotLG); },
                   .isSearching = [this] { return search.IsRunning(); } })
         , clipboard({ form, panels, commands }, ask, pictures, icons)
-        , session({ frame, form, panels, commands, views, *ui.lblWorking, sides }, busy, settings,
-              windows, documents, catalogs, search)
+        , session({ frame, form, panels, commands, views, *ui.lblWorking, sides, order }, busy,
+              settings, windows, documents, catalogs, search)
         , help(form, commands)
+        , greeting(form, commands, ask, session, appList)
         , keys(form, *ui.TreeView1, [this] { icons.RemoveSelected(); })
         , panelKeys(form, panels, commands)
     {
@@ -143,6 +149,9 @@ Form1::Form1(QWidget& frame, Ask& ask)
     connect(&parts.watcher, &LoadWatcher::FolderChosen, this, [&parts] { parts.settings.Save(); });
     connect(&parts.appList, &AppListCommands::HelpAsked, this,
         [&parts] { parts.help.ShowContext(HelpOfAppList); });
+    connect(&parts.greeting, &Greeting::HelpAsked, this, [&parts] { parts.help.ShowFor(nullptr); });
+    connect(&parts.greeting, &Greeting::ShowTipsChosen, &parts.windows,
+        &SettingsWindows::ShowTipsOption);
     connect(&parts.windows, &SettingsWindows::OptionsDone, this, [&parts] {
         if (!parts.session.HasEnded()) // an exit saves them itself
             parts.settings.Save();
@@ -163,7 +172,7 @@ void Form1::StartUp(const QString& programFolder, const QString& userFolder)
 {
     m_parts->session.StartUp(programFolder, userFolder);
     m_ui->TreeView1->setFocus();
-    m_parts->appList.DoStartup();
+    m_parts->greeting.Start();
 }
 
 void Form1::ExitProgram() { m_parts->session.Exit(); }

@@ -23,8 +23,9 @@ public:
     Form1(QWidget& frame, Ask& ask);
     ~Form1() override;
 
-    /// From the first step to the idle main window; to the end of the program where the user leaves
-    /// it amid the search of a start. Folders are the platform's own paths.
+    /// From the first step to the idle main window or to the splash, whose end goes on; to the end
+    /// of the program where the user leaves it amid the search of a start. Folders are the
+    /// platform's own paths.
     void StartUp(const QString& programFolder, const QString& userFolder);
     /// Leaves the program: at once, without a question about changes; during a load at its end.
     void ExitProgram();

@@ -84,6 +84,13 @@ IconTreeView::IconTreeView(QWidget* parent)
         [this](const QTreeWidgetItem* node) { emit NodeClick(node); });
 }
 
+/// Lines enough that the side windows fit beside the form that is so high.
+QSize IconTreeView::sizeHint() const
+{
+    constexpr int Lines = 22;
+    return { QTreeWidget::sizeHint().width(), fontMetrics().lineSpacing() * Lines };
+}
+
 QIcon IconTreeView::Image(int number) const
 {
     const auto index = static_cast<std::size_t>(number);

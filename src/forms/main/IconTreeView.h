@@ -38,6 +38,8 @@ public:
     /// Picture of a node, by its number; empty for a number that has none.
     QIcon Image(int number) const;
 
+    QSize sizeHint() const override;
+
 signals:
     /// A node was selected by mouse or keyboard, or clicked once more.
     void NodeClick(const QTreeWidgetItem* node);

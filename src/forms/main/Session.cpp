@@ -39,6 +39,7 @@ void Session::StartUp(const QString& programFolder, const QString& userFolder)
     RememberPreviewColor = false;
     TransparentUse = true;
     m_settings.Load();
+    const bool isFirst = !HasWindowPlaces();
     TakeWorkingFolder();
     ChoosePreviewColour();
     m_windows.ShowDepth();
@@ -49,8 +50,9 @@ void Session::StartUp(const QString& programFolder, const QString& userFolder)
     m_catalogs.ReadAll();
     ShowInFrame();
     m_view.sides.ShowByOption();
+    if (isFirst)
+        m_view.order.ArrangeWindows();
     m_view.views.ShowByOption();
-    m_view.commands.Enable({ Command::MenuPasteLG, Command::MenuPasteSM }, false);
 }
 
 void Session::TakeWorkingFolder()

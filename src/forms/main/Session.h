@@ -11,6 +11,7 @@
 #include "forms/main/SettingsWindows.h"
 #include "forms/main/SideWindows.h"
 #include "forms/main/ViewEntries.h"
+#include "forms/main/WindowOrder.h"
 
 #include <QLabel>
 #include <QWidget>
@@ -30,13 +31,14 @@ public:
         ViewEntries& views;
         QLabel& working;
         SideWindows& sides;
+        WindowOrder& order;
     };
 
     Session(const View& view, BusyGuard& busy, SavedSettings& settings, SettingsWindows& windows,
         Documents& documents, CatalogReading& catalogs, AppSearch& search);
 
-    /// From the first step to the main window, before a search. Folders are the platform's own
-    /// paths. Throws std::filesystem::filesystem_error when a working folder can't be made.
+    /// From the first step to the main window, before anything greets. Folders are the platform's
+    /// own paths. Throws std::filesystem::filesystem_error when a working folder can't be made.
     void StartUp(const QString& programFolder, const QString& userFolder);
 
     /// Leaves the program: at once, without a question about changes; during long work at its end.

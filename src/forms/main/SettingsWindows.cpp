@@ -99,6 +99,12 @@ void SettingsWindows::TakeBackChoices()
 
 void SettingsWindows::ShowDepth() { m_depthLabel.setText(FromLatin1(DefaultColorDepthWord())); }
 
+void SettingsWindows::ShowTipsOption()
+{
+    if (m_options)
+        m_options->ShowTipsOption();
+}
+
 void SettingsWindows::ShowDepthLock()
 {
     if (m_options)

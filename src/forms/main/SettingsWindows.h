@@ -40,6 +40,8 @@ public:
     /// Of the open document, while another one may be chosen for the next.
     ColorDepth DepthOfDocument() const { return m_choices.DepthOfDocument(); }
     void ShowDepth();
+    /// The user's choice whether tips are shown at a start has changed.
+    void ShowTipsOption();
     /// An iconset was opened or closed: the colour depth can only be changed without one.
     void ShowDepthLock();
     /// For the exit: nothing keeps them open.

@@ -17,6 +17,7 @@ struct SideWindows::Row {
     const bool& visible;
     const int &left, &top;
     std::optional<SideWindow> WindowsToSave::*place;
+    std::optional<int> SideWidths::*width;
     SideForm* (SideContents::*make)();
     void (SideContents::*prepare)();
 };
@@ -26,11 +27,12 @@ const std::vector<SideWindows::Row>& SideWindows::Rows()
 {
     static const std::vector<Row> rows{
         { Command::ShowShared, ShareWinVisible, ShareWinX, ShareWinY, &WindowsToSave::shares,
-            &SideContents::MakeShares, &SideContents::CountAnew },
+            &SideWidths::shares, &SideContents::MakeShares, &SideContents::CountAnew },
         { Command::ShowPreviewOptions, PreviewWinVisible, PreviewWinX, PreviewWinY,
-            &WindowsToSave::preview, &SideContents::MakePreview, &SideContents::TakeSavedColour },
+            &WindowsToSave::preview, &SideWidths::preview, &SideContents::MakePreview,
+            &SideContents::TakeSavedColour },
         { Command::ShowIconStats, StatWinVisible, StatWinX, StatWinY, &WindowsToSave::stats,
-            &SideContents::MakeStats, &SideContents::CountAnew },
+            &SideWidths::stats, &SideContents::MakeStats, &SideContents::CountAnew },
     };
     return rows;
 }
@@ -91,6 +93,7 @@ void SideWindows::Show(Side& side)
     SideForm& window = *(m_contents.*side.row.make)();
     side.window = &window;
     connect(&window, &SideForm::Closed, this, [this, &side] { WasClosed(side); });
+    connect(&window, &SideForm::ArrangeAsked, this, &SideWindows::ArrangeAsked);
     window.setWindowIcon(child.windowIcon());
     area.addSubWindow(&window);
     window.show();
@@ -108,6 +111,31 @@ void SideWindows::WasClosed(Side& side)
     const SideForm& window = *std::exchange(side.window, nullptr);
     side.stood = QRect(PlaceOf(window), window.size());
     m_commands.Entry(side.row.entry)->setChecked(false);
+}
+
+const SideWindows::Side& SideWindows::Of(Command entry) const
+{
+    return *std::find_if(m_sides.begin(), m_sides.end(),
+        [entry](const Side& side) { return side.row.entry == entry; });
+}
+
+std::vector<SideForm*> SideWindows::Column() const
+{
+    std::vector<SideForm*> column;
+    for (const Command entry :
+        { Command::ShowPreviewOptions, Command::ShowIconStats, Command::ShowShared })
+        if (SideForm* const window = Of(entry).window)
+            column.push_back(window);
+    return column;
+}
+
+SideWidths SideWindows::Widths() const
+{
+    SideWidths widths;
+    for (const Side& side : m_sides)
+        if (side.window)
+            widths.*side.row.width = side.window->width() * TwipsPerPixel;
+    return widths;
 }
 
 void SideWindows::TellPlaces(WindowsToSave& windows) const

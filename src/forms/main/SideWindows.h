@@ -3,6 +3,7 @@
 #include "document/SettingsFile.h"
 #include "forms/main/Commands.h"
 #include "forms/main/SideContents.h"
+#include "settings/Arrangement.h"
 
 #include <QObject>
 #include <QRect>
@@ -16,6 +17,8 @@ class SideForm;
 /// The small windows beside the main form in the frame's area: shown, hidden, where they stand;
 /// and the entries of the View menu that show and hide them.
 class SideWindows : public QObject {
+    Q_OBJECT
+
 public:
     /// `form` stands in a window of the area.
     SideWindows(QWidget& form, Commands& commands, SideContents& contents);
@@ -25,6 +28,15 @@ public:
 
     /// Where the windows stand, for the settings.
     void TellPlaces(WindowsToSave& windows) const;
+
+    /// Those on view, in the order in which they stand below each other when they are arranged.
+    std::vector<SideForm*> Column() const;
+    /// How wide those are.
+    SideWidths Widths() const;
+
+signals:
+    /// The menu of one of them asks for the windows to be arranged.
+    void ArrangeAsked();
 
 private:
     struct Row;
@@ -38,6 +50,7 @@ private:
     void Toggle(Side& side);
     void Show(Side& side);
     void WasClosed(Side& side);
+    const Side& Of(Command entry) const;
 
     QWidget& m_form;
     Commands& m_commands;

@@ -3,9 +3,9 @@
 #include "document/Document.h"
 #include "forms/common/Look.h"
 #include "forms/common/Text.h"
+#include "forms/common/UserStore.h"
 #include "forms/settings/DepthControls.h"
 #include "forms/settings/InstallWayText.h"
-#include "forms/settings/UserStore.h"
 #include "settings/Inifile.h"
 #include "settings/Settings.h"
 #include "ui_frmProgOptions.h"
@@ -95,7 +95,7 @@ void frmProgOptions::ShowSettings()
     m_ui->chkKeepUnknown->setChecked(KeepUnknown);
     m_ui->chkWarnOverwrite->setChecked(WarnOverwrite);
     m_ui->chkShowSplash->setChecked(ShowSplash);
-    m_ui->chkShowTips->setChecked(ShowTipsAtStartup());
+    ShowTipsOption();
     m_ui->chkStartupSearch->setChecked(StartupSearch);
     m_ui->chkRememberBackColor->setChecked(RememberPreviewColor);
     m_ui->chkPromptForCDepth->setChecked(PromptColorDepth);
@@ -103,6 +103,8 @@ void frmProgOptions::ShowSettings()
     ShowChoices();
     ShowDepthLock();
 }
+
+void frmProgOptions::ShowTipsOption() { m_ui->chkShowTips->setChecked(ShowTipsAtStartup()); }
 
 void frmProgOptions::ShowChoices()
 {

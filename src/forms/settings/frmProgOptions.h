@@ -29,6 +29,8 @@ public:
 
     /// An iconset was opened or closed: the colour depth can only be changed without one.
     void ShowDepthLock();
+    /// Whether tips are shown at a start was chosen elsewhere.
+    void ShowTipsOption();
     /// The depth or the resolution was chosen elsewhere.
     void ShowChoices();
 

@@ -121,6 +121,7 @@ class BusyWithARealBox : public Busy {
 protected:
     BusyWithARealBox()
     {
+        WriteSettings("[Splash Screen]\nShow splash screen at startup=False\n");
         frame = std::make_unique<MDIForm1>(screen);
         frame->Start(QString::fromStdString(program.Path()), {});
     }

@@ -65,16 +65,6 @@ TEST_F(CommandsTest, ADocumentEnablesWhatNeedsOneAndNothingElse)
     EXPECT_TRUE(commands.IsEnabled(Command::Open));
 }
 
-TEST_F(CommandsTest, WhatIsNotBuiltStaysDisabled)
-{
-    Commands commands(frame, form);
-
-    for (const CommandRow& row : CommandRows()) {
-        commands.Enable(row.command, true);
-        EXPECT_EQ(commands.IsEnabled(row.command), row.isBuilt) << row.name;
-    }
-}
-
 TEST_F(CommandsTest, AHeldCommandIsLetGoAsItWasAskedLast)
 {
     Commands commands(frame, form);

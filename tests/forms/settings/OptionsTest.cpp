@@ -1,7 +1,7 @@
 #include "WindowFixture.h"
 
 #include "document/SettingsFile.h"
-#include "forms/settings/UserStore.h"
+#include "forms/common/UserStore.h"
 
 #include <QCheckBox>
 #include <QDialog>
@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
+#include <QSettings>
 
 namespace vypx::test {
 
@@ -114,13 +115,14 @@ TEST_F(Options, EveryBoxSetsItsVariableAtOnce)
 
 TEST_F(Options, TheTipsBoxWritesTheUsersSettingAtOnce)
 {
+    QSettings("VY Pixelworks", "VY Pixelworks").clear();
     EXPECT_TRUE(ShowTipsAtStartup()) << "the default";
 
     Click("chkShowTips");
-    EXPECT_FALSE(ShowTipsAtStartup());
+    EXPECT_TRUE(ShowTipsAtStartup());
 
     Click("chkShowTips");
-    EXPECT_TRUE(ShowTipsAtStartup());
+    EXPECT_FALSE(ShowTipsAtStartup());
 }
 
 TEST_F(Options, TheResolutionShowsPanelsAndCheckMarks)

@@ -1,4 +1,4 @@
-#include "forms/settings/UserStore.h"
+#include "forms/common/UserStore.h"
 
 #include <QSettings>
 

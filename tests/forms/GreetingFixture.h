@@ -6,6 +6,7 @@
 #include "forms/common/UserStore.h"
 #include "support/PrcFiles.h"
 
+#include <QApplication>
 #include <QDialog>
 #include <QKeyEvent>
 #include <QPushButton>

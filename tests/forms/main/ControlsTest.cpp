@@ -14,6 +14,7 @@
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QSet>
+#include <QTabBar>
 #include <gmock/gmock.h>
 #include <map>
 
@@ -69,9 +70,13 @@ public:
                     OpenCrop(200, 200);
                     PressIn("frmCrop", "cmdChangeBackColor");
                 } },
-            { { "frmTip", "frmAbout", "frmSystemInfo", "frmSplash" },
+            { { "frmHelp" },
                 [this] {
                     Find<QDialog>("frmCrop").close();
+                    Entry("mnuManual").trigger();
+                } },
+            { { "frmTip", "frmAbout", "frmSystemInfo", "frmSplash" },
+                [this] {
                     Entry("mnuTips").trigger();
                     Entry("mnuAbout").trigger();
                     PressIn("frmAbout", "cmdSysInfo");
@@ -112,7 +117,8 @@ public:
     {
         const bool isPart = widget.objectName().isEmpty() || widget.objectName().startsWith("qt_")
             || qobject_cast<const QAbstractItemView*>(widget.parentWidget())
-            || qobject_cast<const QComboBox*>(widget.parentWidget());
+            || qobject_cast<const QComboBox*>(widget.parentWidget())
+            || qobject_cast<const QTabBar*>(widget.parentWidget());
         const bool isUsed = qobject_cast<const QAbstractButton*>(&widget)
             || qobject_cast<const QLineEdit*>(&widget)
             || qobject_cast<const QAbstractItemView*>(&widget)
@@ -144,8 +150,9 @@ public:
         const auto* const button = qobject_cast<const QAbstractButton*>(&control);
         if (!control.toolTip().isEmpty() || (button && !button->text().isEmpty()))
             return true;
-        if (control.objectName() == "TreeView1")
-            return true; // its nodes have tool tips of their own
+        // Nodes, links and tabs tell by themselves; a tool tip would stand before them.
+        if (QSet<QString>{ "TreeView1", "txtPage", "tabs" }.contains(control.objectName()))
+            return true;
         const QList<QLabel*> labels = control.window()->findChildren<QLabel*>();
         return std::any_of(labels.begin(), labels.end(),
             [&](const QLabel* label) { return label->buddy() == &control; });

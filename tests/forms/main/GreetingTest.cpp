@@ -90,6 +90,23 @@ TEST_F(Greeted, AKeyThatIsHeldEndsNeitherSplashNorTip)
     EXPECT_EQ(Tip(), nullptr);
 }
 
+TEST_F(Greeted, F1OnTheSplashEndsItAndThenOpensTheHelp)
+{
+    StartWith({ .splash = true });
+    const auto isHelpOpen = [] {
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        return std::any_of(windows.begin(), windows.end(), [](const QWidget* window) {
+            return window->objectName() == "frmHelp" && window->isVisible();
+        });
+    };
+
+    Press(Splash(), Qt::Key_F1);
+
+    EXPECT_EQ(Splash(), nullptr);
+    EXPECT_TRUE(CanUseMain());
+    EXPECT_TRUE(isHelpOpen());
+}
+
 TEST_F(Greeted, AnExitWhileTheSplashStandsSearchesNothingAndGivesNoTip)
 {
     StartWith({ .splash = true, .search = true, .tip = true });

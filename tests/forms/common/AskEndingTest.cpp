@@ -4,7 +4,6 @@
 #include "support/TempFolder.h"
 
 #include <QAbstractButton>
-#include <QAbstractItemView>
 #include <QApplication>
 #include <QFileDialog>
 #include <QLabel>
@@ -103,20 +102,6 @@ TEST_F(OwnEnding, TheDialogShowsTheNameWithIt)
 
     EXPECT_EQ(
         notes, QStringList({ "Will be written as my.set.vpt", "Will be written as SET.VPT" }));
-}
-
-TEST_F(OwnEnding, AFileThatIsSelectedInTheListIsNotTakenForTheName)
-{
-    WriteText(folder.File("my.set"), "another");
-    const auto select = [&](QFileDialog& dialog) {
-        auto& list = *dialog.findChild<QAbstractItemView*>("listView");
-        ASSERT_TRUE(QTest::qWaitFor([&] { return list.model()->rowCount(list.rootIndex()) == 1; }));
-        list.setFocus();
-        list.setCurrentIndex(list.model()->index(0, 0, list.rootIndex()));
-    };
-
-    EXPECT_EQ(Save("my.set", select), QString::fromStdString(folder.File("my.set.vpt")));
-    EXPECT_FALSE(Asked()) << "nothing is written over";
 }
 
 TEST_F(OwnEnding, TheDialogAsksAboutTheFileThatWillBeWritten)

@@ -40,6 +40,7 @@ public:
 QMessageBox::StandardButton ScreenAsk::Show(QWidget* parent, const Box& box)
 {
     QMessageBox shown(box.icon, box.title, QString(), box.buttons, parent);
+    shown.setEnabled(true); // though what it belongs to may not be
     shown.setTextFormat(Qt::PlainText);
     shown.setText(box.text);
     PassOverHeld passOver(shown);
@@ -54,6 +55,7 @@ std::optional<QString> Chosen(
     if (!filters.isEmpty())
         dialog.setNameFilters(filters);
     dialog.setDirectory(folder.isEmpty() || !QDir(folder).exists() ? QDir::currentPath() : folder);
+    dialog.setEnabled(true); // though what it belongs to may not be
     const bool accepted = dialog.exec() == QDialog::Accepted;
     // After a question of its own some window managers leave no window active.
     if (QWidget* const parent = dialog.parentWidget())

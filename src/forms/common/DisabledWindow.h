@@ -6,9 +6,9 @@
 namespace vypx {
 
 /// A window that takes no input as long as this stands, and with it all that it holds, windows
-/// whose parent it is among them. What is to be used meanwhile is made afterwards or enabled by
-/// itself. Several may hold one window: it is enabled when the last of them has gone. The focus
-/// goes back to where it was.
+/// whose parent it is among them. What is to be used meanwhile is enabled by itself, also when it
+/// is made afterwards. Several may hold one window: it is enabled when the last of them has gone.
+/// The focus goes back to where it was.
 class DisabledWindow {
 public:
     explicit DisabledWindow(QWidget& window);

@@ -57,7 +57,7 @@ frmAbout::~frmAbout() = default;
 void frmAbout::StartSysInfo()
 {
     const std::optional<std::string> tool = m_system.tool();
-    if (tool && m_system.run(FromLatin1(*tool)))
+    if (tool && !tool->empty() && m_system.run(PathText(*tool)))
         return;
     const QString information = m_system.information ? m_system.information() : QString();
     if (information.isEmpty())

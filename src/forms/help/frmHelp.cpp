@@ -153,9 +153,19 @@ void frmHelp::ShowInContents(const QString& page)
         tree.scrollToItem(entry); // opens the group that it stands in
 }
 
+bool frmHelp::IsOwn(const QWidget& window) const
+{
+    const QWidget* widget = &window;
+    while (widget && widget != this)
+        widget = widget->parentWidget();
+    return widget == this;
+}
+
 void frmHelp::BringUp(QWidget* modal)
 {
-    winId(); // makes the window that is asked for next
+    if (modal && IsOwn(*modal))
+        return; // its printer's dialog or one of that: it lies above the help already
+    winId();    // makes the window that is asked for next
     QWindow* const above = modal ? modal->window()->windowHandle() : nullptr;
     if (windowHandle()->transientParent() != above) {
         hide(); // whether a box blocks a window is settled when that is shown

@@ -37,6 +37,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool IsOwn(const QWidget& window) const;
     void Connect();
     void ConnectList(QLineEdit& edit, QListWidget& list);
     void Fill(QTreeWidgetItem& parent, const QList<HelpEntry>& entries);

@@ -52,11 +52,13 @@ void WindowOrder::ArrangeWindows()
     child.move(0, 0);
     if (!m_frame.isMaximized() && !m_frame.isFullScreen())
         FitFrame();
+    // Without scroll bars, which come and go while windows are moved.
+    const QRect view(QPoint(), area.maximumViewportSize());
     QPoint place(child.width(), 0);
     for (SideForm* side : m_sides.Column()) {
         if (side->windowState() & (Qt::WindowMinimized | Qt::WindowMaximized))
             side->showNormal();
-        side->move(IntoView(area.viewport()->rect(), QRect(place, side->size())));
+        side->move(IntoView(view, QRect(place, side->size())));
         place.ry() += side->height();
     }
 }

@@ -1,4 +1,5 @@
 #include "forms/common/Ask.h"
+#include "forms/common/DisabledWindow.h"
 
 #include "support/Files.h"
 #include "support/TempFolder.h"
@@ -111,6 +112,22 @@ TEST_F(OnScreen, ABoxAnswersWithTheButtonThatWasPressed)
                           .buttons = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel }),
             button);
     }
+}
+
+TEST_F(OnScreen, ABoxCanBeAnsweredThoughItsWindowIsDisabled)
+{
+    QWidget window;
+    window.show();
+    const DisabledWindow disabled(window);
+    bool isEnabled = false;
+    WhenUp<QMessageBox>([&](QMessageBox& box) {
+        isEnabled = box.button(QMessageBox::Yes)->isEnabled();
+        box.done(QMessageBox::Yes);
+    });
+
+    ask.Show(&window, { .text = "Really?", .buttons = QMessageBox::Yes | QMessageBox::No });
+
+    EXPECT_TRUE(isEnabled) << "or nobody could answer it";
 }
 
 TEST_F(OnScreen, AHeldEnterAnswersNoBox)

@@ -27,6 +27,7 @@ FrontForm::FrontForm(QWidget& form)
     HeldKeys::OfProgram(); // from now on, so that it knows what is held
     setEnabled(true);      // though what it belongs to is not
     setAttribute(Qt::WA_DeleteOnClose);
+    form.window()->installEventFilter(this);
 }
 
 void FrontForm::TakeControls()
@@ -59,9 +60,15 @@ void FrontForm::keyPressEvent(QKeyEvent* event)
         QDialog::keyPressEvent(event);
 }
 
-/// A button would be pressed by itself.
+/// A button would be pressed by itself. The keys are this window's, though a click made the one
+/// behind it active.
 bool FrontForm::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == parentWidget()->window()) {
+        if (event->type() == QEvent::WindowActivate && isVisible())
+            activateWindow();
+        return false;
+    }
     if (event->type() == QEvent::KeyPress && IsHeldPress(static_cast<QKeyEvent&>(*event)))
         return true;
     return QDialog::eventFilter(watched, event);

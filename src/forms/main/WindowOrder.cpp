@@ -23,6 +23,8 @@ QPoint Within(const QRect& area, const QRect& window)
         nearest(window.y(), window.height(), area.y(), area.height()) };
 }
 
+constexpr int TitleBar = 40; // pixels, at most as a rule
+
 /// Where a window is moved: nowhere, unless less than half of it would be in view either way.
 QPoint IntoView(const QRect& area, const QRect& window)
 {
@@ -70,7 +72,9 @@ void WindowOrder::FitFrame()
     const ArrangedFrame twips = ArrangeFrame(
         child.width() * TwipsPerPixel, child.sizeHint().height() * TwipsPerPixel, m_sides.Widths());
     const QRect screen = m_frame.screen()->availableGeometry();
-    const QSize borders = m_frame.frameSize() - m_frame.size();
+    // Some window managers put borders on a window only after it was shown: then room is left for
+    // them.
+    const QSize borders = (m_frame.frameSize() - m_frame.size()).expandedTo({ 0, TitleBar });
     const QSize size = QSize(PixelsFromTwips(twips.width), PixelsFromTwips(twips.height))
                            .boundedTo(screen.size() - borders);
     m_frame.resize(size);

@@ -107,6 +107,15 @@ TEST_F(Greeted, F1OnTheSplashEndsItAndThenOpensTheHelp)
     EXPECT_TRUE(isHelpOpen());
 }
 
+TEST_F(Greeted, AClickOnTheWindowBehindLeavesTheKeysToTheSplash)
+{
+    StartWith({ .splash = true });
+    frame->activateWindow();
+    QCoreApplication::processEvents();
+
+    EXPECT_EQ(QApplication::activeWindow(), Splash()) << "its words say that any key goes on";
+}
+
 TEST_F(Greeted, AnExitWhileTheSplashStandsSearchesNothingAndGivesNoTip)
 {
     StartWith({ .splash = true, .search = true, .tip = true });

@@ -1,5 +1,6 @@
 #include "document/Tips.h"
 
+#include "companion/Latin1.h"
 #include "platform/Platform.h"
 
 #include <algorithm>
@@ -53,21 +54,6 @@ bool IsUtf8(std::string_view text)
         at += lead.bytes;
     }
     return true;
-}
-
-std::string Utf8FromLatin1(std::string_view text)
-{
-    std::string utf8;
-    for (const char letter : text) {
-        const auto code = static_cast<unsigned char>(letter);
-        if (code < 0x80) {
-            utf8 += letter;
-        } else {
-            utf8 += static_cast<char>(0xC0 | code >> 6);
-            utf8 += static_cast<char>(0x80 | (code & 0x3F));
-        }
-    }
-    return utf8;
 }
 
 /// The beginning of a file, as far as it is read, in whole lines.

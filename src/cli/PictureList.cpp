@@ -1,5 +1,6 @@
 #include "cli/PictureList.h"
 
+#include "companion/Utf8.h"
 #include "platform/Platform.h"
 
 #include <algorithm>
@@ -12,43 +13,6 @@ namespace vypx {
 namespace {
 
 constexpr std::uintmax_t LargestList = std::uintmax_t{ 1 } << 30; // bytes
-
-/// How many bytes follow the first one of a character; empty: no character begins with it.
-std::optional<std::size_t> BytesThatFollow(std::uint8_t first)
-{
-    if (first < 0x80)
-        return 0;
-    if (first >= 0xC0 && first < 0xE0)
-        return 1;
-    if (first >= 0xE0 && first < 0xF0)
-        return 2;
-    if (first >= 0xF0 && first < 0xF8)
-        return 3;
-    return std::nullopt;
-}
-
-/// Whether a text is valid UTF-8: no character in more bytes than it needs, none beyond 0x10FFFF,
-/// no halves of UTF-16's pairs.
-bool IsUtf8(std::string_view text)
-{
-    constexpr std::array<std::uint32_t, 4> leastCode{ 0, 0x80, 0x800, 0x10000 };
-    for (std::size_t i = 0; i < text.size();) {
-        const auto first = static_cast<std::uint8_t>(text[i++]);
-        const std::optional<std::size_t> more = BytesThatFollow(first);
-        if (!more || *more > text.size() - i)
-            return false;
-        std::uint32_t code = *more == 0 ? first : first & (0x3Fu >> *more);
-        for (std::size_t end = i + *more; i < end; ++i) {
-            const auto byte = static_cast<std::uint8_t>(text[i]);
-            if ((byte & 0xC0) != 0x80)
-                return false;
-            code = code << 6 | (byte & 0x3Fu);
-        }
-        if (code < leastCode[*more] || code > 0x10FFFF || (code >= 0xD800 && code < 0xE000))
-            return false;
-    }
-    return true;
-}
 
 /// Takes what stands before `end` off the text, and `end` with it; the whole text if there is none.
 std::string_view TakeUntil(char end, std::string_view& text)

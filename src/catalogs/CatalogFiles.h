@@ -17,7 +17,7 @@
 /// fit 8192 characters; what is beyond is not seen.
 namespace vypx {
 
-/// Paths of the two that are written, in AppFolder.
+/// Their paths in AppFolder. The third is never written.
 std::string AppListFile();
 std::string PalmAppFile();
 std::string VYIconsFile();

@@ -75,14 +75,6 @@ protected:
     QDialog* Editor() { return Dialog("frmEditAppList"); }
     QDialog* Manual() { return Dialog("frmAddAppManual"); }
     template <typename T = QWidget>
-    T& In(QDialog* window, const QString& name)
-    {
-        T* const found = window ? window->findChild<T*>(name) : nullptr;
-        if (!found)
-            throw std::runtime_error("no such control: " + name.toStdString());
-        return *found;
-    }
-    template <typename T = QWidget>
     T& Part(const QString& name)
     {
         return In<T>(Editor(), name);

@@ -54,14 +54,6 @@ protected:
     QDialog* Splash() { return Window("frmSplash"); }
     QDialog* Tip() { return Window("frmTip"); }
     QDialog* About() { return Window("frmAbout"); }
-    template <typename T = QWidget>
-    T& In(QDialog* window, const QString& name)
-    {
-        T* const found = window ? window->findChild<T*>(name) : nullptr;
-        if (!found)
-            throw std::runtime_error("no such control: " + name.toStdString());
-        return *found;
-    }
 
     /// A press and a release of a key where the window has the focus.
     void Press(QDialog* window, Qt::Key key, Qt::KeyboardModifiers modifiers = {})

@@ -63,6 +63,14 @@ protected:
             throw std::runtime_error("no such control: " + name.toStdString());
         return *found;
     }
+    template <typename T = QWidget>
+    static T& In(QWidget* window, const QString& name)
+    {
+        T* const found = window ? window->findChild<T*>(name) : nullptr;
+        if (!found)
+            throw std::runtime_error("no such control: " + name.toStdString());
+        return *found;
+    }
     QAction& Entry(const QString& name) { return Find<QAction>(name); }
     /// Whether the button or menu entry of that name is enabled.
     bool CanUse(const QString& name)

@@ -50,7 +50,7 @@ frmTip::frmTip(const std::string& folder, Random random, QWidget& form)
     m_ui->cmdOK->setFocus();
 }
 
-frmTip::~frmTip() { TipOnDemand = false; }
+frmTip::~frmTip() = default;
 
 void frmTip::done(int result)
 {

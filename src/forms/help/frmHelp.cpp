@@ -170,12 +170,12 @@ void frmHelp::BringUp(QWidget* modal)
     if (windowHandle()->transientParent() != above) {
         hide(); // whether a box blocks a window is settled when that is shown
         windowHandle()->setTransientParent(above);
+        if (above)
+            connect(above, &QWindow::visibleChanged, this, [this, above](bool on) {
+                if (!on && windowHandle() && windowHandle()->transientParent() == above)
+                    windowHandle()->setTransientParent(nullptr);
+            });
     }
-    if (above)
-        connect(above, &QWindow::visibleChanged, this, [this, above](bool on) {
-            if (!on && windowHandle() && windowHandle()->transientParent() == above)
-                windowHandle()->setTransientParent(nullptr);
-        });
     if (isMinimized())
         showNormal();
     show();

@@ -188,6 +188,21 @@ TEST_F(HelpKey, InTheHelpItselfItTellsAboutTheHelp)
     EXPECT_EQ(Topic(), "help-window.html");
 }
 
+TEST_F(HelpKey, OverTheHelpsOwnPrinterItOpensThePageBelow)
+{
+    QTest::keyClick(&Nodes(), Qt::Key_F1);
+    WhenUp<QDialog>([](QDialog& printer) {
+        QTest::keyClick(&printer, Qt::Key_F1);
+        EXPECT_TRUE(Help()->isVisible());
+        EXPECT_NE(Help()->windowHandle()->transientParent(), printer.windowHandle())
+            << "each would stand above the other";
+    });
+
+    QTest::mouseClick(Help()->findChild<QPushButton*>("cmdPrint"), Qt::LeftButton);
+
+    EXPECT_EQ(Topic(), "help-window.html");
+}
+
 TEST_F(HelpKey, TheHelpButtonOfTheCatalogsOpensTheirTopic)
 {
     Press("cmdEditAppList");

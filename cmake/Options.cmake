@@ -48,7 +48,7 @@ endif()
 
 # Every target finds headers as "room/File.h" and obeys the same flags.
 function(vypx_target name)
-    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src ${VYPX_GENERATED})
     target_link_libraries(${name} PRIVATE vypx_flags)
 endfunction()
 

@@ -1,0 +1,25 @@
+# What the product is called and where it installs to: the one place for what the owner has to settle
+# before anything is published. Licence, domain and homepage have not been chosen; the texts below
+# stand in their place.
+set(VYPX_PRODUCT_NAME "VY Pixelworks")
+set(VYPX_PROGRAM_NAME vy-pixelworks)
+# Reverse DNS; also the D-Bus name and, with slashes, its object path.
+set(VYPX_APPLICATION_ID app.vypixelworks.Pixelworks)
+set(VYPX_DEVELOPER "VY Pixelworks developers")
+set(VYPX_MAINTAINER "VY Pixelworks developers <developers@vypixelworks.invalid>")
+set(VYPX_HOMEPAGE "https://vypixelworks.invalid/")
+set(VYPX_PROJECT_LICENCE LicenseRef-proprietary)
+set(VYPX_METADATA_LICENCE CC0-1.0)
+set(VYPX_ICONSET_MIME application/x-vantry-iconset)
+set(VYPX_TEMPLATE_MIME application/x-vantry-iconset-template)
+
+include(GNUInstallDirs)
+# Absolute folders of an installation; programs find their data and their module from where they stand.
+set(VYPX_INSTALLED_DATA ${CMAKE_INSTALL_FULL_DATADIR}/${VYPX_PROGRAM_NAME})
+set(VYPX_INSTALLED_MODULE ${CMAKE_INSTALL_FULL_LIBDIR}/${VYPX_PROGRAM_NAME})
+file(RELATIVE_PATH VYPX_DATA_FROM_PROGRAMS ${CMAKE_INSTALL_FULL_BINDIR} ${VYPX_INSTALLED_DATA})
+file(RELATIVE_PATH VYPX_MODULE_FROM_PROGRAMS ${CMAKE_INSTALL_FULL_BINDIR} ${VYPX_INSTALLED_MODULE})
+
+# What the code knows of it.
+set(VYPX_GENERATED ${PROJECT_BINARY_DIR}/generated)
+configure_file(${CMAKE_CURRENT_LIST_DIR}/Product.h.in ${VYPX_GENERATED}/document/Product.h @ONLY)

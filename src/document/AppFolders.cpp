@@ -1,12 +1,9 @@
 #include "document/AppFolders.h"
 
-#include "document/RunningCopies.h"
-#include "document/WorkingFolder.h"
+#include "document/Product.h"
 #include "platform/Platform.h"
 
 #include <filesystem>
-#include <fstream>
-#include <set>
 
 namespace vypx {
 
@@ -14,95 +11,61 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// What the program finds beside itself and the user may change.
-constexpr std::string_view ShippedData[] = {
-    "AppList.dat",
-    "PalmApp.dat",
-    "VY_Icons.dat",
-    "TIPOFDAY.TXT",
-    "VYPX.chm",
-    "samples",
-};
+/// What shows that a folder holds the shipped data.
+constexpr std::string_view SignOfData = "AppList.dat";
 
-/// Whole or not at all: a start that breaks off must not leave half a catalog. What can't be
-/// copied is missing then, as it would be in the program's folder.
-void CopyIfMissing(const fs::path& from, const fs::path& to)
+/// Where the data of an installed copy stand; empty for a copy that is none.
+std::string InstalledData(const std::string& programFolder)
 {
-    std::error_code ignored;
-    if (fs::exists(to, ignored))
-        return;
-    if (const auto bytes = platform::ReadWholeFile(platform::Utf8Path(from)))
-        static_cast<void>(platform::ReplaceFile(platform::Utf8Path(to), *bytes));
-}
-
-/// The shipped files that stand in the program's folder, as paths from there.
-std::set<std::string> ShippedFiles(const fs::path& from)
-{
-    std::set<std::string> files;
+    const fs::path programs = platform::NativePath(programFolder);
+    const fs::path data = programs / platform::NativePath(DataFromPrograms);
     std::error_code unknown;
-    for (const std::string_view name : ShippedData) {
-        if (fs::is_regular_file(from / name, unknown))
-            files.insert(std::string(name));
-        std::error_code end;
-        for (fs::recursive_directory_iterator
-                 entry(from / name, fs::directory_options::skip_permission_denied, end),
-             last;
-             !end && entry != last; entry.increment(end))
-            if (entry->is_regular_file(unknown))
-                files.insert(platform::Utf8Path(entry->path().lexically_relative(from)));
-    }
-    return files;
+    if (fs::exists(programs / SignOfData, unknown) || !fs::exists(data / SignOfData, unknown))
+        return {};
+    return platform::Utf8Path(data.lexically_normal());
 }
 
-std::set<std::string> LinesOf(const std::string& file)
+/// The folder itself, or the nearest one above it that there is.
+std::string NearestThatIs(fs::path folder)
 {
-    std::set<std::string> lines;
-    std::ifstream text(platform::NativePath(file), std::ios::binary);
-    for (std::string line; std::getline(text, line);)
-        lines.insert(line);
-    return lines;
+    std::error_code unknown;
+    while (!fs::exists(folder, unknown) && folder.has_relative_path())
+        folder = folder.parent_path();
+    return platform::Utf8Path(folder);
 }
 
-/// Gives the user's folder what it never had. Its file "shipped.txt" names what it has been given,
-/// so that what the user deletes does not come back, and what a newer version brings comes.
-void FillFolder(const fs::path& from, const fs::path& to)
+[[noreturn]] void RefuseUserFolder(
+    const char* why, const fs::path& folder, std::errc error = std::errc::permission_denied)
 {
-    const std::string list = platform::Utf8Path(to / "shipped.txt");
-    const std::set<std::string> before = LinesOf(list);
-    std::set<std::string> given = before;
-    for (const std::string& file : ShippedFiles(from)) {
-        if (before.contains(file))
-            continue;
-        const fs::path target = to / platform::NativePath(file);
-        std::error_code ignored;
-        fs::create_directories(target.parent_path(), ignored);
-        CopyIfMissing(from / platform::NativePath(file), target);
-        if (fs::exists(target, ignored))
-            given.insert(file);
-    }
-    if (given == before)
-        return;
-    std::string text;
-    for (const std::string& file : given)
-        text += file + '\n';
-    static_cast<void>(platform::ReplaceFile(
-        list, std::span(reinterpret_cast<const std::uint8_t*>(text.data()), text.size())));
+    throw fs::filesystem_error(why, folder, std::make_error_code(error));
+}
+
+void MakeUserFolder(const std::string& userFolder)
+{
+    const fs::path folder = platform::NativePath(userFolder);
+    if (userFolder.empty())
+        RefuseUserFolder(
+            "there is no folder for the user's data", folder, std::errc::no_such_file_or_directory);
+    if (platform::IsForeignToRoot(NearestThatIs(folder)))
+        RefuseUserFolder("root must not work in the folder of another user", folder);
+    fs::create_directories(folder);
 }
 
 } // namespace
 
-std::string ResolveAppFolder(const std::string& programFolder, const std::string& userFolder)
+AppFolders ResolveAppFolders(const std::string& programFolder, const std::string& userFolder)
 {
-    if (platform::FolderIsWritable(programFolder) || userFolder.empty())
-        return programFolder;
-    const fs::path folder = platform::NativePath(userFolder);
-    std::error_code error;
-    fs::create_directories(folder, error);
-    {
-        const CopiesGate gate(userFolder); // or a second copy could go on without the catalogs
-        FillFolder(platform::NativePath(programFolder), folder);
+    if (const std::string data = InstalledData(programFolder); !data.empty()) {
+        MakeUserFolder(userFolder);
+        return { .work = userFolder, .shipped = data };
     }
-    return platform::FolderIsWritable(userFolder) ? userFolder : programFolder;
+    if (platform::FolderIsWritable(programFolder) || userFolder.empty())
+        return { .work = programFolder, .shipped = {} };
+    std::error_code error;
+    fs::create_directories(platform::NativePath(userFolder), error);
+    if (!platform::FolderIsWritable(userFolder))
+        return { .work = programFolder, .shipped = {} };
+    return { .work = userFolder, .shipped = programFolder };
 }
 
 } // namespace vypx

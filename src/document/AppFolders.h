@@ -4,10 +4,26 @@
 
 namespace vypx {
 
-/// The folder that the program works in: the one that it stands in if files can be written there,
-/// else the user's own folder for its data, which is made and at every start given the shipped
-/// files that it never had. Both are paths without a separator at their end. Where neither can be
-/// written, it is the program's: the program starts, and each write tells its own failure.
-std::string ResolveAppFolder(const std::string& programFolder, const std::string& userFolder);
+/// Where a copy of the program works, and what it has to be given for that. Paths without a
+/// separator at their end.
+struct AppFolders {
+    std::string work;    ///< settings, catalogs, working folders
+    std::string shipped; ///< what stands there comes from here; empty: from the folder itself
+
+    friend bool operator==(const AppFolders&, const AppFolders&) = default;
+};
+
+/// The folders of the copy whose program stands in `programFolder`; `userFolder` is the user's own
+/// one for its data, which is made where it is needed.
+///
+/// An installed copy, whose data stand in DataFromPrograms and not beside the program, works in the
+/// user's folder, whoever the user is and whatever can be written. Where there is none, where it
+/// can't be made, and where root would make files in another user's, it does not work at all:
+/// throws std::filesystem::filesystem_error.
+///
+/// Any other copy works where the program stands if files can be written there, else in the user's
+/// folder. Where neither can be written, it is the program's: the program starts, and each write
+/// tells its own failure.
+AppFolders ResolveAppFolders(const std::string& programFolder, const std::string& userFolder);
 
 } // namespace vypx

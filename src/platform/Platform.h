@@ -38,6 +38,11 @@ struct FileIdentity {
 /// Empty when there is no such file.
 std::optional<FileIdentity> IdentityOf(const std::string& path);
 
+/// Whether the identity tells every later write from this state. A file's times advance in ticks of
+/// some milliseconds, so a second write within the tick of the first could leave the same size and
+/// times; a file that has rested for longer can't be written without another time.
+bool HasRested(const FileIdentity& file);
+
 /// A time of a Windows file, in units of 100 ns since the beginning of 1601, as nanoseconds since
 /// the beginning of 1970. What 64 bits can't hold (before 1677, after 2262) is cut to their ends.
 std::int64_t NanosecondsFromFileTime(std::uint64_t ticks);
@@ -78,6 +83,10 @@ Refusal ExplainRefusal(const std::string& path, std::error_code error);
 
 /// Whether files can be made in an existing folder, found out by making one.
 bool FolderIsWritable(const std::string& folder);
+
+/// Whether this process is the superuser's and an existing folder is not: what it makes there could
+/// lock the folder's owner out. Not on Windows.
+bool IsForeignToRoot(const std::string& folder);
 
 /// A lock on a file that lives as long as this object and never longer than the process: the
 /// system frees it after a crash as well. Other processes and other objects of this process are

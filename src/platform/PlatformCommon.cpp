@@ -61,6 +61,14 @@ std::optional<std::vector<std::uint8_t>> ReadWholeFile(
     return bytes;
 }
 
+bool HasRested(const FileIdentity& file)
+{
+    using namespace std::chrono;
+    constexpr nanoseconds Rest = milliseconds(20);
+    const nanoseconds now = system_clock::now().time_since_epoch();
+    return now - nanoseconds(file.changed) > Rest && now - nanoseconds(file.modified) > Rest;
+}
+
 Refusal ExplainRefusal(const std::string& path, std::error_code error)
 {
     if (error == std::errc::is_a_directory)

@@ -225,6 +225,12 @@ void FileLock::Unlock()
     m_handle = -1;
 }
 
+bool IsForeignToRoot(const std::string& folder)
+{
+    struct stat status { };
+    return ::geteuid() == 0 && ::stat(folder.c_str(), &status) == 0 && status.st_uid != 0;
+}
+
 std::uint64_t ProcessNumber() { return static_cast<std::uint64_t>(::getpid()); }
 
 } // namespace vypx::platform

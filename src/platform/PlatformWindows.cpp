@@ -158,6 +158,8 @@ void FileLock::Unlock()
     m_handle = -1;
 }
 
+bool IsForeignToRoot(const std::string&) { return false; }
+
 std::uint64_t ProcessNumber() { return ::GetCurrentProcessId(); }
 
 } // namespace vypx::platform

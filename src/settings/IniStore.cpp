@@ -3,7 +3,6 @@
 #include "platform/Platform.h"
 #include "platform/Turn.h"
 
-#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <map>
@@ -25,17 +24,6 @@ struct Kept {
 std::string_view AsText(const std::vector<std::uint8_t>& bytes)
 {
     return { reinterpret_cast<const char*>(bytes.data()), bytes.size() };
-}
-
-/// A file's times advance in ticks of some milliseconds. A second write within the tick of the
-/// first could leave the same size and times; a file that has rested for longer can't be written
-/// without another time.
-bool HasRested(const FileIdentity& file)
-{
-    using namespace std::chrono;
-    constexpr nanoseconds Rest = milliseconds(20);
-    const nanoseconds now = system_clock::now().time_since_epoch();
-    return now - nanoseconds(file.changed) > Rest && now - nanoseconds(file.modified) > Rest;
 }
 
 /// Whether a write would do, for a file that already reads as it should.
@@ -72,7 +60,7 @@ Kept& Look(const std::string& path)
     std::optional<std::vector<std::uint8_t>> bytes;
     if (identity)
         bytes = platform::ReadWholeFile(path, MaxIniSize);
-    kept.sure = bytes && HasRested(*identity);
+    kept.sure = bytes && platform::HasRested(*identity);
     kept.identity = bytes ? identity : std::nullopt;
     if (!bytes)
         bytes.emplace();

@@ -10,9 +10,6 @@ namespace vypx {
 
 namespace {
 
-/// Buffer of a list, in characters with the terminator.
-constexpr std::size_t ListBuffer = 8192;
-
 /// Names as a list for a buffer of ListBuffer characters: each ended by a NUL, and room for one
 /// NUL more. What does not fit is cut off, and the last name ended all the same.
 std::string NameList(const std::vector<std::string>& names, const std::string& defaultText)

@@ -13,6 +13,9 @@ namespace vypx {
 /// Longest value that a read gives back whole, in bytes.
 inline constexpr std::size_t MaxValueLength = 254;
 
+/// Buffer of a list of names, in characters: each name takes one more, and one is left for the end.
+inline constexpr std::size_t ListBuffer = 8192;
+
 /// Whether a value, such as a path in UTF-8, is not too long for that.
 inline bool FitsKey(std::string_view value) { return value.size() <= MaxValueLength; }
 

@@ -1,18 +1,20 @@
 #include "document/AppFolders.h"
-#include "document/RunningCopies.h"
+#include "document/Product.h"
 
 #include "support/CommonUser.h"
 #include "support/Files.h"
 #include "support/TempFolder.h"
 
-#include <chrono>
-#include <future>
 #include <gtest/gtest.h>
-#include <memory>
+#ifndef _WIN32
+#include <unistd.h>
+#endif
 
 namespace vypx::test {
 
 namespace {
+
+namespace fs = std::filesystem;
 
 /// A folder that nobody can write into, root included: it is not there.
 std::string Unwritable(const TempFolder& folder) { return folder.File("missing/program"); }
@@ -21,143 +23,119 @@ TEST(AppFolders, TheProgramsFolderIsUsedWhereItCanBeWritten)
 {
     const TempFolder program, user;
 
-    EXPECT_EQ(ResolveAppFolder(program.Path(), user.File("data")), program.Path());
-    EXPECT_FALSE(std::filesystem::exists(user.File("data")));
+    const AppFolders folders = ResolveAppFolders(program.Path(), user.File("data"));
+
+    EXPECT_EQ(folders, (AppFolders{ .work = program.Path(), .shipped = "" }));
+    EXPECT_FALSE(fs::exists(user.File("data")));
 }
 
-TEST(AppFolders, ElseTheUsersFolderIsMade)
+TEST(AppFolders, ElseTheUsersFolderIsMadeAndFilledFromTheProgramsOne)
 {
     const TempFolder folder;
 
+    const AppFolders folders = ResolveAppFolders(Unwritable(folder), folder.File("user/data"));
+
     EXPECT_EQ(
-        ResolveAppFolder(Unwritable(folder), folder.File("user/data")), folder.File("user/data"));
-
-    EXPECT_TRUE(std::filesystem::is_directory(folder.File("user/data")));
+        folders, (AppFolders{ .work = folder.File("user/data"), .shipped = Unwritable(folder) }));
+    EXPECT_TRUE(fs::is_directory(folder.File("user/data")));
 }
-
-#ifndef _WIN32
-
-TEST(AppFolders, TheUsersFolderIsFilledFileByFile)
-{
-    namespace fs = std::filesystem;
-    const TempFolder program, user;
-    WriteText(program.File("AppList.dat"), "[First]\n");
-    WriteText(program.File("PalmApp.dat"), "[Palm]\n");
-    fs::create_directories(program.File("samples/drawings"));
-    WriteText(program.File("samples/drawings/one.svg"), "<svg/>");
-    fs::create_directories(program.File("samples/closed"));
-    fs::permissions(program.File("samples/closed"), fs::perms::none);
-    fs::permissions(program.Path(), fs::perms(0555));
-    fs::permissions(user.Path(), fs::perms::all);
-    const std::string data = user.File("data");
-    {
-        const CommonUser common;
-
-        EXPECT_EQ(ResolveAppFolder(program.Path(), data), data);
-        EXPECT_EQ(ReadText(data + "/AppList.dat"), "[First]\n");
-        EXPECT_EQ(ReadText(data + "/samples/drawings/one.svg"), "<svg/>");
-
-        WriteText(data + "/AppList.dat", "[Mine]\n");
-        fs::remove(data + "/PalmApp.dat"); // as an interrupted first start leaves it
-        fs::remove(data + "/shipped.txt");
-        WriteText(data + "/PalmApp.dat.12-1.vypx-new", "[Pa");
-        EXPECT_EQ(ResolveAppFolder(program.Path(), data), data);
-        EXPECT_EQ(ReadText(data + "/AppList.dat"), "[Mine]\n");
-        EXPECT_EQ(ReadText(data + "/PalmApp.dat"), "[Palm]\n");
-        EXPECT_FALSE(fs::exists(data + "/PalmApp.dat.12-1.vypx-new"));
-    }
-    fs::permissions(program.File("samples/closed"), fs::perms::owner_all);
-    fs::permissions(program.Path(), fs::perms::owner_all);
-}
-
-TEST(AppFolders, AtEveryStartTheUsersFolderGetsWhatANewerVersionShips)
-{
-    namespace fs = std::filesystem;
-    const TempFolder program, user;
-    WriteText(program.File("AppList.dat"), "[First]\n");
-    WriteText(program.File("PalmApp.dat"), "[Palm]\n");
-    fs::permissions(user.Path(), fs::perms::all);
-    const std::string data = user.File("data");
-    const auto start = [&] {
-        fs::permissions(program.Path(), fs::perms(0555));
-        {
-            const CommonUser common;
-            EXPECT_EQ(ResolveAppFolder(program.Path(), data), data);
-        }
-        fs::permissions(program.Path(), fs::perms::owner_all);
-    };
-    start();
-    WriteText(data + "/VYPX.ini", "[Program]\n");
-    WriteText(data + "/AppList.dat", "[Mine]\n");
-    fs::remove(data + "/PalmApp.dat");
-
-    WriteText(program.File("AppList.dat"), "[Newer]\n");
-    WriteText(program.File("VY_Icons.dat"), "[Icons]\n");
-    fs::create_directories(program.File("samples/new"));
-    WriteText(program.File("samples/new/set.prc"), "set");
-    start();
-
-    EXPECT_EQ(ReadText(data + "/VY_Icons.dat"), "[Icons]\n");
-    EXPECT_EQ(ReadText(data + "/samples/new/set.prc"), "set");
-    EXPECT_EQ(ReadText(data + "/AppList.dat"), "[Mine]\n");
-    EXPECT_FALSE(fs::exists(data + "/PalmApp.dat")) << "what the user deletes stays deleted";
-}
-
-TEST(AppFolders, AFolderOfWhichNothingIsKnownGetsAllThatItLacks)
-{
-    namespace fs = std::filesystem;
-    const TempFolder program, user;
-    WriteText(program.File("AppList.dat"), "[Shipped]\n");
-    WriteText(program.File("PalmApp.dat"), "[Palm]\n");
-    WriteText(user.File("VYPX.ini"), "[Program]\n");
-    WriteText(user.File("AppList.dat"), "[Mine]\n");
-    fs::permissions(user.Path(), fs::perms::all);
-    fs::permissions(program.Path(), fs::perms(0555));
-    {
-        const CommonUser common;
-        EXPECT_EQ(ResolveAppFolder(program.Path(), user.Path()), user.Path());
-    }
-    fs::permissions(program.Path(), fs::perms::owner_all);
-
-    EXPECT_EQ(ReadText(user.File("AppList.dat")), "[Mine]\n");
-    EXPECT_EQ(ReadText(user.File("PalmApp.dat")), "[Palm]\n");
-}
-
-TEST(AppFolders, ACopyThatStartsMeanwhileWaitsUntilTheFolderIsFull)
-{
-    namespace fs = std::filesystem;
-    const TempFolder program, user;
-    WriteText(program.File("AppList.dat"), "[First]\n");
-    fs::permissions(program.Path(), fs::perms(0555));
-    fs::permissions(user.Path(), fs::perms::all);
-    const std::string data = user.File("data");
-    {
-        const CommonUser common;
-        fs::create_directory(data);
-        auto another = std::make_unique<CopiesGate>(data);
-        std::future<std::string> folder =
-            std::async(std::launch::async, [&] { return ResolveAppFolder(program.Path(), data); });
-
-        EXPECT_EQ(folder.wait_for(std::chrono::milliseconds(100)), std::future_status::timeout);
-        WriteText(data + "/AppList.dat", "[Filled by another]\n");
-        another.reset();
-
-        EXPECT_EQ(folder.get(), data);
-        EXPECT_EQ(ReadText(data + "/AppList.dat"), "[Filled by another]\n");
-    }
-    fs::permissions(program.Path(), fs::perms::owner_all);
-}
-
-#endif
 
 TEST(AppFolders, WhereNeitherCanBeWrittenItIsTheProgramsFolder)
 {
     const TempFolder folder;
     WriteText(folder.File("file"), "");
 
-    EXPECT_EQ(ResolveAppFolder(Unwritable(folder), folder.File("file/data")), Unwritable(folder));
-    EXPECT_EQ(ResolveAppFolder(Unwritable(folder), ""), Unwritable(folder));
+    for (const std::string& user : { folder.File("file/data"), std::string() })
+        EXPECT_EQ(ResolveAppFolders(Unwritable(folder), user),
+            (AppFolders{ .work = Unwritable(folder), .shipped = "" }))
+            << user;
 }
+
+#ifndef _WIN32 // where data stand beside the program in any layout
+
+/// An installation in a folder of its own, as this process's user, who may be root, can write it.
+class InstalledCopy : public ::testing::Test {
+protected:
+    InstalledCopy()
+    {
+        fs::create_directories(Programs());
+        fs::create_directories(Data());
+        WriteText(Data() + "/AppList.dat", "[Shipped]\n");
+    }
+
+    std::string Programs() const { return root.File("usr/bin"); }
+    std::string Data() const
+    {
+        return (fs::path(Programs()) / DataFromPrograms).lexically_normal().string();
+    }
+
+    TempFolder root, user;
+};
+
+TEST_F(InstalledCopy, WorksInTheUsersFolderThoughItsOwnCanBeWritten)
+{
+    const AppFolders folders = ResolveAppFolders(Programs(), user.File("a/data"));
+
+    EXPECT_EQ(folders, (AppFolders{ .work = user.File("a/data"), .shipped = Data() }));
+    EXPECT_TRUE(fs::is_directory(user.File("a/data")));
+    EXPECT_TRUE(fs::is_empty(Programs()));
+}
+
+TEST_F(InstalledCopy, IsNoneWhereDataStandBesideTheProgram)
+{
+    WriteText(Programs() + "/AppList.dat", "[Beside]\n");
+
+    EXPECT_EQ(ResolveAppFolders(Programs(), user.File("data")).work, Programs());
+}
+
+TEST_F(InstalledCopy, IsNoneWithoutData)
+{
+    fs::remove(Data() + "/AppList.dat");
+
+    EXPECT_EQ(ResolveAppFolders(Programs(), user.File("data")).work, Programs());
+}
+
+TEST_F(InstalledCopy, DoesNotStartWithoutAFolderOfTheUsers)
+{
+    WriteText(user.File("file"), "");
+
+    for (const std::string& folder : { user.File("file"), user.File("file/data"), std::string() })
+        EXPECT_THROW(ResolveAppFolders(Programs(), folder), fs::filesystem_error) << folder;
+}
+
+TEST_F(InstalledCopy, WorksBehindALinkInPlaceOfTheUsersFolder)
+{
+    fs::create_directory(user.File("elsewhere"));
+    fs::create_directory_symlink(user.File("elsewhere"), user.File("data"));
+
+    EXPECT_EQ(ResolveAppFolders(Programs(), user.File("data")).work, user.File("data"));
+}
+
+TEST_F(InstalledCopy, LeavesAUsersFolderThatCannotBeWrittenAsItIs)
+{
+    fs::create_directory(user.File("data"));
+    fs::permissions(user.File("data"), fs::perms(0555));
+    {
+        const CommonUser common;
+        EXPECT_EQ(ResolveAppFolders(Programs(), user.File("data")).work, user.File("data"))
+            << "not the program's, which others share";
+    }
+    fs::permissions(user.File("data"), fs::perms::owner_all);
+}
+
+TEST_F(InstalledCopy, StartedByRootMakesNothingInTheFolderOfAnotherUser)
+{
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "takes root";
+    constexpr uid_t Nobody = 65534;
+    ASSERT_EQ(::chown(user.Path().c_str(), Nobody, Nobody), 0);
+
+    EXPECT_THROW(ResolveAppFolders(Programs(), user.File(".local/data")), fs::filesystem_error);
+
+    EXPECT_TRUE(fs::is_empty(user.Path()));
+}
+
+#endif
 
 } // namespace
 } // namespace vypx::test

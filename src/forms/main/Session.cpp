@@ -1,5 +1,6 @@
 #include "forms/main/Session.h"
 
+#include "catalogs/ShippedCatalogs.h"
 #include "document/AppFolders.h"
 #include "document/Document.h"
 #include "document/SettingsFile.h"
@@ -35,7 +36,9 @@ Session::Session(const View& view, BusyGuard& busy, SavedSettings& settings,
 void Session::StartUp(const QString& programFolder, const QString& userFolder)
 {
     ProgramFolder = programFolder.toStdString();
-    AppFolder = ResolveAppFolder(ProgramFolder, userFolder.toStdString());
+    const AppFolders folders = ResolveAppFolders(ProgramFolder, userFolder.toStdString());
+    AppFolder = folders.work;
+    TakeShippedFiles(folders, UpdateShippedCatalog);
     RememberPreviewColor = false;
     TransparentUse = true;
     m_settings.Load();

@@ -1,0 +1,339 @@
+#include "catalogs/CatalogFiles.h"
+#include "document/Catalogs.h"
+#include "document/WorkingFolder.h"
+#include "settings/IniStore.h"
+
+#include "support/CommonUser.h"
+#include "support/ShippedFixture.h"
+
+#include <gmock/gmock.h>
+
+namespace vypx::test {
+
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::ElementsAre;
+using ::testing::EndsWith;
+using ::testing::StartsWith;
+
+class ShippedCatalogs : public Shipping {
+protected:
+    /// What a version ships, and a start of it.
+    void Bring(const std::string& catalog, std::string_view text) const
+    {
+        Ship(catalog, text);
+        StartLater();
+    }
+    /// The catalog of applications when the version that brings `added` meets the user's `own`.
+    std::string Merged(const std::string& own, const std::string& added) const
+    {
+        Bring("AppList.dat", "");
+        WriteOwn("AppList.dat", own);
+        Bring("AppList.dat", added);
+        return Own("AppList.dat");
+    }
+};
+
+TEST_F(ShippedCatalogs, GetTheEntriesOfANewVersionAtTheirEnd)
+{
+    Bring("PalmApp.dat", "; shipped\n\n" + Owner("Palm Clock", "CLCK"));
+    const std::string own =
+        "; mine\n" + Owner("Palm Mine", "MINE") + Owner("Palm Clock", "CLCK") + "; the end\n";
+    WriteOwn("PalmApp.dat", own);
+
+    Bring("PalmApp.dat",
+        "; shipped\n" + Owner("Palm New", "NEWA") + "; why\n" + Owner("Palm Clock", "CLCK")
+            + "[Palm Other]\nType=panl\nCreator={NEWB}\nNote=x\n");
+
+    EXPECT_EQ(Own("PalmApp.dat"),
+        own + "[Palm New]\nType=appl\nCreator={NEWA}\n"
+            + "[Palm Other]\nType=panl\nCreator={NEWB}\nNote=x\n");
+}
+
+TEST_F(ShippedCatalogs, DoNotGetBackWhatTheUserHasDeletedRenamedOrChanged)
+{
+    const std::string first = Owner("Deleted", "DELE") + Owner("Before", "RENA")
+        + Owner("Changed", "CHAN") + Owner("Kept", "KEPT");
+    Bring("AppList.dat", first);
+    const std::string own =
+        Owner("After", "RENA") + Owner("Changed", "OWNA") + Owner("Kept", "KEPT");
+    WriteOwn("AppList.dat", own);
+
+    Bring("AppList.dat", first + Owner("New", "NEWA"));
+
+    EXPECT_EQ(Own("AppList.dat"), own + Owner("New", "NEWA"));
+}
+
+TEST_F(ShippedCatalogs, DoNotGetADeletedEntryBackUnderAnotherNameOrWithAnotherCreator)
+{
+    Bring("AppList.dat", Owner("One", "ONEA") + Owner("Two", "TWOA"));
+    WriteOwn("AppList.dat", "");
+
+    Bring("AppList.dat", Owner("One renamed", "ONEA") + Owner("Two", "TWOB"));
+
+    EXPECT_EQ(Own("AppList.dat"), "");
+}
+
+TEST_F(ShippedCatalogs, DoNotGetAnEntryBackThatAVersionBetweenLeftOut)
+{
+    Bring("AppList.dat", Owner("One", "ONEA"));
+    WriteOwn("AppList.dat", "");
+    Bring("AppList.dat", Owner("Two", "TWOA"));
+
+    Bring("AppList.dat", Owner("One", "ONEA") + Owner("Two", "TWOA"));
+
+    EXPECT_EQ(Own("AppList.dat"), Owner("Two", "TWOA"));
+}
+
+TEST_F(ShippedCatalogs, KeepAnEntryThatANewVersionLeavesOut)
+{
+    Bring("AppList.dat", Owner("One", "ONEA"));
+
+    Bring("AppList.dat", Owner("Two", "TWOA"));
+
+    EXPECT_EQ(Own("AppList.dat"), Owner("One", "ONEA") + Owner("Two", "TWOA"));
+}
+
+TEST_F(ShippedCatalogs, GetNoSecondEntryOfAName)
+{
+    EXPECT_EQ(Merged(Owner("MINE", "ONEA"), Owner("mine", "TWOA") + Owner(" Mine ", "TREE")),
+        Owner("MINE", "ONEA"));
+}
+
+TEST_F(ShippedCatalogs, GetNoSecondEntryOfATypeAndCreator)
+{
+    EXPECT_EQ(Merged(Owner("Mine", "ONEA"), Owner("Other", "ONEA")), Owner("Mine", "ONEA"));
+}
+
+TEST_F(ShippedCatalogs, ReadACreatorWithoutBracesAsTheirReadersDo)
+{
+    const std::string own = "[Mine]\nCreator=ONEA\nType=appl\n[Short]\nType=appl\nCreator=AB\n";
+
+    EXPECT_EQ(Merged(own, Owner("Other", "ONEA") + Owner("Third", "AB  ")), own);
+}
+
+TEST_F(ShippedCatalogs, GetAnEntryOfAnotherTypeOrAnotherCaseOfTheCreator)
+{
+    const std::string panel = "[Panel]\nType=panl\nCreator={ONEA}\n";
+
+    EXPECT_EQ(Merged(Owner("Mine", "ONEA"), panel + Owner("Small", "oneA")),
+        Owner("Mine", "ONEA") + panel + Owner("Small", "oneA"));
+}
+
+TEST_F(ShippedCatalogs, GetNothingThatTheOtherCatalogTellsAlready)
+{
+    Ship("AppList.dat", "");
+    Bring("PalmApp.dat", "");
+    WriteOwn("AppList.dat", Owner("Palm by hand", "HAND"));
+
+    Bring("PalmApp.dat", Owner("Palm Hand", "HAND") + Owner("Palm Else", "ELSE"));
+
+    EXPECT_EQ(Own("PalmApp.dat"), Owner("Palm Else", "ELSE"))
+        << "or each start would tell of a duplicate";
+}
+
+TEST_F(ShippedCatalogs, OfTheLauncherCompareNamesAndIdsAsNumbers)
+{
+    Bring("VY_Icons.dat", LauncherItem("Start (Large Icon)", "2000"));
+    const std::string own =
+        LauncherItem("Start (Large Icon)", "2000") + "[Mine (Large Icon)]\nNumber= 02002 \n";
+    WriteOwn("VY_Icons.dat", own);
+
+    Bring("VY_Icons.dat",
+        LauncherItem("Start (Large Icon)", "2001") + LauncherItem("Other (Large Icon)", "2002")
+            + LauncherItem("mine (large icon)", "2003") + LauncherItem("New (Large Icon)", "2004")
+            + LauncherItem("New (Small Icon)", "+2004") + LauncherItem("No number", "x"));
+
+    EXPECT_EQ(Own("VY_Icons.dat"), own + LauncherItem("New (Large Icon)", "2004"));
+}
+
+TEST_F(ShippedCatalogs, PassOverEntriesThatTellNothing)
+{
+    EXPECT_EQ(Merged("",
+                  "Type=appl\nCreator={NONE}\n[]\nType=appl\nCreator={NONE}\n[Empty]\n"
+                  "[No creator]\nType=appl\nCreator=\n[No type]\nCreator={ONEA}\n"
+                  "[Five]\nType=appl\nCreator=ABCDE\n[broken\nType=appl\n"
+                      + Owner("Whole", "WHOL")),
+        Owner("Whole", "WHOL"));
+}
+
+TEST_F(ShippedCatalogs, OfRepeatedSectionsTakeTheFirst)
+{
+    const std::string own = Owner("Twice", "ONEA") + "; a\n" + Owner("Twice", "TWOA");
+
+    EXPECT_EQ(Merged(own, Owner("New", "NEWA") + Owner("New", "NEWB") + Owner("twice", "TREE")),
+        own + Owner("New", "NEWA"));
+}
+
+TEST_F(ShippedCatalogs, KeepLineEndsCommentsAndBytesOfAnyKind)
+{
+    const std::string own = "\xEF\xBB\xBF; mine \xFF\r\n\r\n[Caf\xE9]\r\nType = appl \r\n"
+                            "Creator= \"{ONEA}\"\r\nno key\r\n[\xC3\x84rger]\r\n;end";
+
+    EXPECT_EQ(Merged(own,
+                  Owner("caf\xE9", "TWOA") + Owner("Z\xFCrich", "TREE") + "[K\xC3\xB6ln]\n"
+                      + "Type=appl\nCreator={FOUR}\n"),
+        own + "\r\n[Z\xFCrich]\r\nType=appl\r\nCreator={TREE}\r\n"
+            + "[K\xC3\xB6ln]\r\nType=appl\r\nCreator={FOUR}\r\n");
+}
+
+TEST_F(ShippedCatalogs, KeepTheBlanksOfACreator)
+{
+    EXPECT_EQ(Merged("", Owner("Blank", "A  ") + Owner("Blanks", " B ")),
+        "[Blank]\nType=appl\nCreator={A  }\n[Blanks]\nType=appl\nCreator={ B }\n");
+}
+
+TEST_F(ShippedCatalogs, AreNotTouchedWhereNothingIsNew)
+{
+    Bring("AppList.dat", Owner("One", "ONEA"));
+    WriteOwn("AppList.dat", Owner("Mine", "MINE"));
+    const auto before = platform::IdentityOf(user.File("AppList.dat"));
+
+    Bring("AppList.dat", "; another comment\n" + Owner("One", "ONEA") + Owner("Else", "MINE"));
+
+    EXPECT_EQ(platform::IdentityOf(user.File("AppList.dat")), before);
+}
+
+TEST_F(ShippedCatalogs, LetAnEntryBeDeletedAfterItCame)
+{
+    Bring("AppList.dat", "");
+    Bring("AppList.dat", Owner("New", "NEWA"));
+    ASSERT_EQ(Own("AppList.dat"), Owner("New", "NEWA"));
+    WriteOwn("AppList.dat", "");
+    StartLater();
+    EXPECT_EQ(Own("AppList.dat"), "");
+
+    Bring("AppList.dat", Owner("New", "NEWA") + Owner("Newer", "NEWB"));
+
+    EXPECT_EQ(Own("AppList.dat"), Owner("Newer", "NEWB"));
+}
+
+TEST_F(ShippedCatalogs, GetOnlyWhatTheirReadersStillSee)
+{
+    // 8191 characters of names with one more for each are seen whole.
+    std::string own;
+    for (int i = 0; i < 81; ++i)
+        own += Owner(
+            std::string(97, 'a') + std::to_string(10 + i), "OWN" + std::string(1, char('0' + i)));
+    const std::string last(8191 - 81 * 100 - 1, 'z');
+    ASSERT_EQ(last.size(), 90u);
+
+    const std::string tooLong = Owner(last + "y", "NEWA"), fits = Owner(last, "NEWB");
+    EXPECT_EQ(Merged(own, tooLong + fits + Owner("x", "NEWC")), own + fits);
+
+    AppFolder = user.Path();
+    EXPECT_EQ(ReadAppIni([](std::string_view) {}), std::nullopt) << "all names are seen";
+    AppFolder.clear();
+    ResetCatalogs();
+
+    WriteOwn("AppList.dat", Owner("Short", "SHRT"));
+    Bring("AppList.dat", tooLong + fits + Owner("x", "NEWC") + "; changed\n");
+    EXPECT_EQ(Own("AppList.dat"), Owner("Short", "SHRT") + tooLong + Owner("x", "NEWC"))
+        << "what had no room comes when there is some";
+}
+
+TEST_F(ShippedCatalogs, ThatCannotBeReadStayAndAreTakenUpLater)
+{
+    Bring("AppList.dat", Owner("One", "ONEA"));
+    DeleteOwn("AppList.dat");
+    fs::create_directory(user.File("AppList.dat"));
+
+    Bring("AppList.dat", Owner("One", "ONEA") + Owner("New", "NEWA"));
+    EXPECT_TRUE(fs::is_empty(user.File("AppList.dat")));
+    DeleteOwn("AppList.dat");
+    WriteOwn("AppList.dat", Owner("Mine", "MINE"));
+    StartLater();
+
+    EXPECT_EQ(Own("AppList.dat"), Owner("Mine", "MINE") + Owner("New", "NEWA"));
+}
+
+TEST_F(ShippedCatalogs, BehindALinkAreChangedWhereTheyStand)
+{
+    Bring("AppList.dat", "");
+    const TempFolder elsewhere;
+    WriteText(elsewhere.File("apps"), Owner("Mine", "MINE"));
+    DeleteOwn("AppList.dat");
+    fs::create_symlink(elsewhere.File("apps"), user.File("AppList.dat"));
+
+    Bring("AppList.dat", Owner("New", "NEWA"));
+
+    EXPECT_EQ(ReadText(elsewhere.File("apps")), Owner("Mine", "MINE") + Owner("New", "NEWA"));
+    EXPECT_TRUE(fs::is_symlink(user.File("AppList.dat")));
+}
+
+#ifndef _WIN32
+
+TEST_F(ShippedCatalogs, ThatTheUserMadeReadOnlyStayUntilTheyAreNot)
+{
+    fs::permissions(user.Path(), fs::perms::all);
+    const CommonUser common;
+    const auto setWritable = [&](bool is) {
+        fs::permissions(user.File("AppList.dat"), fs::perms(is ? 0644 : 0444));
+    };
+    Start();
+    const auto bring = [&](const std::string& text) {
+        TakeShippedFiles({ .work = user.Path(), .shipped = shipped.Path() },
+            [&](const ShippedFile& file, std::set<std::string>& facts) {
+                ShippedFile other = file;
+                other.bytes.assign(text.begin(), text.end());
+                return UpdateShippedCatalog(other, facts);
+            });
+    };
+    ASSERT_FALSE(Has("AppList.dat"));
+    bring("");
+    WriteOwn("AppList.dat", Owner("Mine", "MINE"));
+    setWritable(false);
+    bring(Owner("New", "NEWA"));
+    EXPECT_EQ(Own("AppList.dat"), Owner("Mine", "MINE"));
+
+    setWritable(true);
+    bring(Owner("New", "NEWA"));
+    EXPECT_EQ(Own("AppList.dat"), Owner("Mine", "MINE") + Owner("New", "NEWA"));
+}
+
+#endif
+
+TEST_F(ShippedCatalogs, OfAnyBytesHarmNobody)
+{
+    std::string garbage("\0[\xFF]\x01=\n\n]=[\r", 13);
+    for (int i = 0; i < 12; ++i)
+        garbage += garbage;
+
+    EXPECT_EQ(Merged(Owner("Mine", "MINE"), garbage), Owner("Mine", "MINE"));
+    EXPECT_THAT(Merged(garbage, Owner("New", "NEWA")),
+        ::testing::AllOf(StartsWith(garbage), EndsWith(Owner("New", "NEWA"))));
+}
+
+TEST_F(ShippedCatalogs, ThatAreTooLargeAreNotReplaced)
+{
+    const auto size = static_cast<std::uintmax_t>(MaxIniSize);
+    Bring("AppList.dat", "");
+    fs::resize_file(user.File("AppList.dat"), size + 1);
+
+    Bring("AppList.dat", Owner("New", "NEWA"));
+    EXPECT_EQ(fs::file_size(user.File("AppList.dat")), size + 1);
+
+    fs::resize_file(user.File("AppList.dat"), size - 5);
+    StartLater();
+    EXPECT_EQ(fs::file_size(user.File("AppList.dat")), size - 5) << "it could not be read then";
+}
+
+TEST_F(ShippedCatalogs, ThatAProgramShipsComeToAUserWithoutADuplicate)
+{
+    const std::string data(VYPX_SHIPPED_DATA);
+    TakeShippedFiles({ .work = user.Path(), .shipped = data }, UpdateShippedCatalog);
+
+    std::vector<std::string> boxes;
+    AppFolder = user.Path();
+    ReadCatalogs([&](std::string_view text) { boxes.emplace_back(text); });
+    AppFolder.clear();
+    ResetCatalogs();
+
+    EXPECT_THAT(boxes, ElementsAre());
+    for (const char* name : { "AppList.dat", "PalmApp.dat", "VY_Icons.dat", "TIPOFDAY.TXT" })
+        EXPECT_EQ(Own(name), ReadText(data + '/' + name));
+}
+
+} // namespace
+} // namespace vypx::test

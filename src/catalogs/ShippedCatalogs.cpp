@@ -27,7 +27,7 @@ constexpr CatalogPlace CatalogPlaces[] = {
 };
 
 /// Empty for an entry without it.
-std::string OwnerOf(const IniText& text, const std::string& section)
+std::string StoredOwner(const IniText& text, const std::string& section)
 {
     const std::string type(text.Value(section, "Type").value_or(""));
     const std::string_view value = text.Value(section, "Creator").value_or("");
@@ -36,7 +36,7 @@ std::string OwnerOf(const IniText& text, const std::string& section)
 }
 
 /// The ID is the first key, whatever its name.
-std::string IdOf(const IniText& text, const std::string& section)
+std::string StoredId(const IniText& text, const std::string& section)
 {
     const std::vector<std::string> keys = text.KeyNames(section);
     const auto id = keys.empty()
@@ -47,7 +47,7 @@ std::string IdOf(const IniText& text, const std::string& section)
 
 std::string MeaningOf(CatalogForm form, const IniText& text, const std::string& section)
 {
-    return form == CatalogForm::Owners ? OwnerOf(text, section) : IdOf(text, section);
+    return form == CatalogForm::Owners ? StoredOwner(text, section) : StoredId(text, section);
 }
 
 /// Names, in lower case, and what they stand for.

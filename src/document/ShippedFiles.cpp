@@ -47,17 +47,19 @@ Shipment ShipmentIn(const std::string& shipped)
     return shipment;
 }
 
-std::string TextOf(const FileIdentity& file)
+std::string TextOfIdentity(const FileIdentity& file)
 {
     return std::to_string(file.volume) + ' ' + std::to_string(file.file) + ' '
         + std::to_string(file.size) + ' ' + std::to_string(file.modified) + ' '
         + std::to_string(file.changed);
 }
 
+/// A file whose name was not kept, as a start was ended there, may have been given or not.
 bool IsSeen(const ShippedState& state, const std::string& name, const FileIdentity& file)
 {
     const auto seen = state.seen.find(name);
-    return seen != state.seen.end() && seen->second == TextOf(file);
+    return seen != state.seen.end() && seen->second == TextOfIdentity(file)
+        && state.given.contains(name);
 }
 
 /// By its numbers, so that 2.10 comes behind 2.9. What is no version is older than any.
@@ -98,7 +100,7 @@ std::string ContentFact(const std::string& name, const std::vector<std::uint8_t>
     return "content " + std::to_string(hash) + ' ' + std::to_string(bytes.size()) + '\t' + name;
 }
 
-bool Write(const ShippedFile& file)
+bool WriteShipped(const ShippedFile& file)
 {
     std::error_code ignored;
     fs::create_directories(platform::NativePath(file.Target()).parent_path(), ignored);
@@ -117,7 +119,7 @@ bool UpdateFile(const ShippedFile& file, std::set<std::string>& facts)
         const std::string own = ContentFact(file.name, *bytes);
         if (own != shipped && !facts.contains(own))
             return true; // the user's own now
-        if (own != shipped && !Write(file))
+        if (own != shipped && !WriteShipped(file))
             return false;
     }
     facts.insert({ shipped, KnownFact(file.name) });
@@ -132,7 +134,7 @@ bool TakeFile(const ShippedFile& file, ShippedState& state, const UpdateCatalog&
         return false;
     if (!isThere && state.given.contains(file.name))
         return true; // the user deleted it
-    if (!isThere && !Write(file))
+    if (!isThere && !WriteShipped(file))
         return false;
     state.given.insert(file.name);
     const bool isCatalog =
@@ -172,7 +174,7 @@ void TakeShippedFiles(
         auto bytes = platform::ReadWholeFile(from);
         if (bytes && TakeFile({ name, std::move(*bytes), folders.work }, now, updateCatalog)
             && platform::HasRested(identity))
-            now.seen[name] = TextOf(identity);
+            now.seen[name] = TextOfIdentity(identity);
     }
     now.version = version;
     WriteShippedState(folders.work, *before, now);

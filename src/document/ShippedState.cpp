@@ -9,7 +9,7 @@ namespace vypx {
 
 namespace {
 
-constexpr std::string_view Version = "version ", Seen = "seen ";
+constexpr std::string_view VersionWord = "version ", SeenWord = "seen ";
 
 std::string NamesFile(const std::string& folder) { return folder + BelowFolder("shipped.txt"); }
 std::string StateFile(const std::string& folder)
@@ -46,9 +46,9 @@ std::set<std::string> StateLines(const ShippedState& state)
 {
     std::set<std::string> lines = state.facts;
     if (!state.version.empty())
-        lines.insert(std::string(Version) + state.version);
+        lines.insert(std::string(VersionWord) + state.version);
     for (const auto& [name, identity] : state.seen)
-        lines.insert(std::string(Seen) + identity + '\t' + name);
+        lines.insert(std::string(SeenWord) + identity + '\t' + name);
     return lines;
 }
 
@@ -63,12 +63,12 @@ std::optional<ShippedState> ReadShippedState(const std::string& folder)
     ShippedState state{ .given = std::move(*names), .facts = {}, .seen = {}, .version = {} };
     for (const std::string& line : *lines) {
         const std::size_t tab = line.find('\t');
-        if (line.starts_with(Version))
-            state.version = line.substr(Version.size());
-        else if (!line.starts_with(Seen))
+        if (line.starts_with(VersionWord))
+            state.version = line.substr(VersionWord.size());
+        else if (!line.starts_with(SeenWord))
             state.facts.insert(line);
         else if (tab != std::string::npos)
-            state.seen[line.substr(tab + 1)] = line.substr(Seen.size(), tab - Seen.size());
+            state.seen[line.substr(tab + 1)] = line.substr(SeenWord.size(), tab - SeenWord.size());
     }
     return state;
 }

@@ -1,6 +1,7 @@
 #include "catalogs/ShippedCatalogs.h"
 
 #include <algorithm>
+#include <gtest/gtest.h>
 #include <map>
 #include <rapidcheck/gtest.h>
 
@@ -9,83 +10,85 @@ namespace vypx::test {
 namespace {
 
 /// An entry as a test sees it: its name's letter decides its identity, whatever the case.
-struct Row {
+struct ShippedRow {
     char name = 'a';
     int owner = 0;
 };
 
 /// Few of each, so that they meet often.
-std::vector<Row> AnyRows()
+std::vector<ShippedRow> AnyShippedRows()
 {
-    const auto row = rc::gen::construct<Row>(
+    const auto row = rc::gen::construct<ShippedRow>(
         rc::gen::elementOf(std::string("abcdefABC")), rc::gen::inRange(0, 6));
-    return *rc::gen::container<std::vector<Row>>(row);
+    return *rc::gen::container<std::vector<ShippedRow>>(row);
 }
 
-std::string TextOf(const std::vector<Row>& rows)
+std::string TextOfRows(const std::vector<ShippedRow>& rows)
 {
     std::string text;
-    for (const Row& row : rows)
+    for (const ShippedRow& row : rows)
         text += std::string("[") + row.name + "]\nType=appl\nCreator={AAA"
             + std::to_string(row.owner) + "}\n";
     return text;
 }
 
-char Small(char letter) { return static_cast<char>(letter | 0x20); }
+char SmallLetter(char letter) { return static_cast<char>(letter | 0x20); }
 
 /// Of rows of one name only the first counts.
-std::vector<Row> Counting(const std::vector<Row>& rows)
+std::vector<ShippedRow> CountingRows(const std::vector<ShippedRow>& rows)
 {
-    std::vector<Row> counting;
-    for (const Row& row : rows)
-        if (std::none_of(counting.begin(), counting.end(),
-                [&](const Row& other) { return Small(other.name) == Small(row.name); }))
+    std::vector<ShippedRow> counting;
+    for (const ShippedRow& row : rows)
+        if (std::none_of(counting.begin(), counting.end(), [&](const ShippedRow& other) {
+                return SmallLetter(other.name) == SmallLetter(row.name);
+            }))
             counting.push_back(row);
     return counting;
 }
 
-bool Has(const std::vector<Row>& rows, const Row& row)
+bool TellsOf(const std::vector<ShippedRow>& rows, const ShippedRow& row)
 {
-    const auto counting = Counting(rows);
-    return std::any_of(counting.begin(), counting.end(), [&](const Row& other) {
-        return Small(other.name) == Small(row.name) || other.owner == row.owner;
+    const auto counting = CountingRows(rows);
+    return std::any_of(counting.begin(), counting.end(), [&](const ShippedRow& other) {
+        return SmallLetter(other.name) == SmallLetter(row.name) || other.owner == row.owner;
     });
 }
 
-std::set<std::string> Merge(
-    const std::vector<Row>& shipped, const std::set<std::string>& facts, IniText& user)
+std::set<std::string> MergeShipped(
+    const std::vector<ShippedRow>& shipped, const std::set<std::string>& facts, IniText& user)
 {
     return AddShippedEntries(
-        CatalogForm::Owners, "AppList.dat", IniText(TextOf(shipped)), {}, facts, user);
+        CatalogForm::Owners, "AppList.dat", IniText(TextOfRows(shipped)), {}, facts, user);
 }
 
 RC_GTEST_PROP(ShippedCatalogProperties, TheUsersEntriesStayAndNewOnesComeIfAllowed, ())
 {
-    const std::vector<Row> base = AnyRows(), shipped = AnyRows(), own = AnyRows();
+    const std::vector<ShippedRow> base = AnyShippedRows(), shipped = AnyShippedRows(),
+                                  own = AnyShippedRows();
     IniText scratch;
-    const std::set<std::string> facts = Merge(base, {}, scratch);
-    const std::string before = TextOf(own) + "; mine";
+    const std::set<std::string> facts = MergeShipped(base, {}, scratch);
+    const std::string before = TextOfRows(own) + "; mine";
     IniText user(before);
 
-    std::set<std::string> now = Merge(shipped, facts, user);
+    std::set<std::string> now = MergeShipped(shipped, facts, user);
 
-    std::vector<Row> there = Counting(own), added;
-    for (const Row& row : Counting(shipped)) {
-        if (Has(base, row) || Has(there, row))
+    std::vector<ShippedRow> there = CountingRows(own), added;
+    for (const ShippedRow& row : CountingRows(shipped)) {
+        if (TellsOf(base, row) || TellsOf(there, row))
             continue;
         added.push_back(row);
         there.push_back(row);
     }
-    RC_ASSERT(user.Bytes() == (added.empty() ? before : before + "\n" + TextOf(added)));
+    RC_ASSERT(user.Bytes() == (added.empty() ? before : before + "\n" + TextOfRows(added)));
 
     const std::string once = user.Bytes();
     now.insert(facts.begin(), facts.end());
-    Merge(shipped, now, user);
+    MergeShipped(shipped, now, user);
     RC_ASSERT(user.Bytes() == once);
-    Merge(shipped, facts, user); // what was learnt could not be kept
+    MergeShipped(shipped, facts, user); // what was learnt could not be kept
     RC_ASSERT(user.Bytes() == once);
     IniText emptied("");
-    Merge(shipped, now, emptied);
+    MergeShipped(shipped, now, emptied);
     RC_ASSERT(emptied.Bytes().empty());
 }
 

@@ -1,39 +1,10 @@
-#include "catalogs/CatalogFiles.h"
-#include "document/Catalogs.h"
-#include "document/WorkingFolder.h"
-#include "settings/IniStore.h"
-
-#include "support/CommonUser.h"
 #include "support/ShippedFixture.h"
-
-#include <gmock/gmock.h>
 
 namespace vypx::test {
 
 namespace {
 
-namespace fs = std::filesystem;
-using ::testing::ElementsAre;
-using ::testing::EndsWith;
-using ::testing::StartsWith;
-
-class ShippedCatalogs : public Shipping {
-protected:
-    /// What a version ships, and a start of it.
-    void Bring(const std::string& catalog, std::string_view text) const
-    {
-        Ship(catalog, text);
-        StartLater();
-    }
-    /// The catalog of applications when the version that brings `added` meets the user's `own`.
-    std::string Merged(const std::string& own, const std::string& added) const
-    {
-        Bring("AppList.dat", "");
-        WriteOwn("AppList.dat", own);
-        Bring("AppList.dat", added);
-        return Own("AppList.dat");
-    }
-};
+class ShippedCatalogs : public Shipping { };
 
 TEST_F(ShippedCatalogs, GetTheEntriesOfANewVersionAtTheirEnd)
 {
@@ -180,8 +151,8 @@ TEST_F(ShippedCatalogs, KeepLineEndsCommentsAndBytesOfAnyKind)
 
 TEST_F(ShippedCatalogs, KeepTheBlanksOfACreator)
 {
-    EXPECT_EQ(Merged("", Owner("Blank", "A  ") + Owner("Blanks", " B ")),
-        "[Blank]\nType=appl\nCreator={A  }\n[Blanks]\nType=appl\nCreator={ B }\n");
+    EXPECT_EQ(Merged("", Owner("Blank", "A   ") + Owner("Blanks", " B  ")),
+        "[Blank]\nType=appl\nCreator={A   }\n[Blanks]\nType=appl\nCreator={ B  }\n");
 }
 
 TEST_F(ShippedCatalogs, AreNotTouchedWhereNothingIsNew)
@@ -207,132 +178,6 @@ TEST_F(ShippedCatalogs, LetAnEntryBeDeletedAfterItCame)
     Bring("AppList.dat", Owner("New", "NEWA") + Owner("Newer", "NEWB"));
 
     EXPECT_EQ(Own("AppList.dat"), Owner("Newer", "NEWB"));
-}
-
-TEST_F(ShippedCatalogs, GetOnlyWhatTheirReadersStillSee)
-{
-    // 8191 characters of names with one more for each are seen whole.
-    std::string own;
-    for (int i = 0; i < 81; ++i)
-        own += Owner(
-            std::string(97, 'a') + std::to_string(10 + i), "OWN" + std::string(1, char('0' + i)));
-    const std::string last(8191 - 81 * 100 - 1, 'z');
-    ASSERT_EQ(last.size(), 90u);
-
-    const std::string tooLong = Owner(last + "y", "NEWA"), fits = Owner(last, "NEWB");
-    EXPECT_EQ(Merged(own, tooLong + fits + Owner("x", "NEWC")), own + fits);
-
-    AppFolder = user.Path();
-    EXPECT_EQ(ReadAppIni([](std::string_view) {}), std::nullopt) << "all names are seen";
-    AppFolder.clear();
-    ResetCatalogs();
-
-    WriteOwn("AppList.dat", Owner("Short", "SHRT"));
-    Bring("AppList.dat", tooLong + fits + Owner("x", "NEWC") + "; changed\n");
-    EXPECT_EQ(Own("AppList.dat"), Owner("Short", "SHRT") + tooLong + Owner("x", "NEWC"))
-        << "what had no room comes when there is some";
-}
-
-TEST_F(ShippedCatalogs, ThatCannotBeReadStayAndAreTakenUpLater)
-{
-    Bring("AppList.dat", Owner("One", "ONEA"));
-    DeleteOwn("AppList.dat");
-    fs::create_directory(user.File("AppList.dat"));
-
-    Bring("AppList.dat", Owner("One", "ONEA") + Owner("New", "NEWA"));
-    EXPECT_TRUE(fs::is_empty(user.File("AppList.dat")));
-    DeleteOwn("AppList.dat");
-    WriteOwn("AppList.dat", Owner("Mine", "MINE"));
-    StartLater();
-
-    EXPECT_EQ(Own("AppList.dat"), Owner("Mine", "MINE") + Owner("New", "NEWA"));
-}
-
-TEST_F(ShippedCatalogs, BehindALinkAreChangedWhereTheyStand)
-{
-    Bring("AppList.dat", "");
-    const TempFolder elsewhere;
-    WriteText(elsewhere.File("apps"), Owner("Mine", "MINE"));
-    DeleteOwn("AppList.dat");
-    fs::create_symlink(elsewhere.File("apps"), user.File("AppList.dat"));
-
-    Bring("AppList.dat", Owner("New", "NEWA"));
-
-    EXPECT_EQ(ReadText(elsewhere.File("apps")), Owner("Mine", "MINE") + Owner("New", "NEWA"));
-    EXPECT_TRUE(fs::is_symlink(user.File("AppList.dat")));
-}
-
-#ifndef _WIN32
-
-TEST_F(ShippedCatalogs, ThatTheUserMadeReadOnlyStayUntilTheyAreNot)
-{
-    fs::permissions(user.Path(), fs::perms::all);
-    const CommonUser common;
-    const auto setWritable = [&](bool is) {
-        fs::permissions(user.File("AppList.dat"), fs::perms(is ? 0644 : 0444));
-    };
-    Start();
-    const auto bring = [&](const std::string& text) {
-        TakeShippedFiles({ .work = user.Path(), .shipped = shipped.Path() },
-            [&](const ShippedFile& file, std::set<std::string>& facts) {
-                ShippedFile other = file;
-                other.bytes.assign(text.begin(), text.end());
-                return UpdateShippedCatalog(other, facts);
-            });
-    };
-    ASSERT_FALSE(Has("AppList.dat"));
-    bring("");
-    WriteOwn("AppList.dat", Owner("Mine", "MINE"));
-    setWritable(false);
-    bring(Owner("New", "NEWA"));
-    EXPECT_EQ(Own("AppList.dat"), Owner("Mine", "MINE"));
-
-    setWritable(true);
-    bring(Owner("New", "NEWA"));
-    EXPECT_EQ(Own("AppList.dat"), Owner("Mine", "MINE") + Owner("New", "NEWA"));
-}
-
-#endif
-
-TEST_F(ShippedCatalogs, OfAnyBytesHarmNobody)
-{
-    std::string garbage("\0[\xFF]\x01=\n\n]=[\r", 13);
-    for (int i = 0; i < 12; ++i)
-        garbage += garbage;
-
-    EXPECT_EQ(Merged(Owner("Mine", "MINE"), garbage), Owner("Mine", "MINE"));
-    EXPECT_THAT(Merged(garbage, Owner("New", "NEWA")),
-        ::testing::AllOf(StartsWith(garbage), EndsWith(Owner("New", "NEWA"))));
-}
-
-TEST_F(ShippedCatalogs, ThatAreTooLargeAreNotReplaced)
-{
-    const auto size = static_cast<std::uintmax_t>(MaxIniSize);
-    Bring("AppList.dat", "");
-    fs::resize_file(user.File("AppList.dat"), size + 1);
-
-    Bring("AppList.dat", Owner("New", "NEWA"));
-    EXPECT_EQ(fs::file_size(user.File("AppList.dat")), size + 1);
-
-    fs::resize_file(user.File("AppList.dat"), size - 5);
-    StartLater();
-    EXPECT_EQ(fs::file_size(user.File("AppList.dat")), size - 5) << "it could not be read then";
-}
-
-TEST_F(ShippedCatalogs, ThatAProgramShipsComeToAUserWithoutADuplicate)
-{
-    const std::string data(VYPX_SHIPPED_DATA);
-    TakeShippedFiles({ .work = user.Path(), .shipped = data }, UpdateShippedCatalog);
-
-    std::vector<std::string> boxes;
-    AppFolder = user.Path();
-    ReadCatalogs([&](std::string_view text) { boxes.emplace_back(text); });
-    AppFolder.clear();
-    ResetCatalogs();
-
-    EXPECT_THAT(boxes, ElementsAre());
-    for (const char* name : { "AppList.dat", "PalmApp.dat", "VY_Icons.dat", "TIPOFDAY.TXT" })
-        EXPECT_EQ(Own(name), ReadText(data + '/' + name));
 }
 
 } // namespace

@@ -34,6 +34,21 @@ protected:
             std::filesystem::path(shipped.File(name)).parent_path());
         WriteText(shipped.File(name), text);
     }
+    /// What a version ships, and a start of it.
+    void Bring(const std::string& catalog, std::string_view text) const
+    {
+        Ship(catalog, text);
+        StartLater();
+    }
+    /// The catalog of applications when the version that brings `added` meets the user's `own`.
+    std::string Merged(const std::string& own, const std::string& added) const
+    {
+        Bring("AppList.dat", "");
+        WriteOwn("AppList.dat", own);
+        Bring("AppList.dat", added);
+        return Own("AppList.dat");
+    }
+
     std::string Own(const std::string& name) const { return ReadText(user.File(name)); }
     void WriteOwn(const std::string& name, std::string_view text) const
     {

@@ -21,6 +21,27 @@ TEST_F(StartUp, MakesTheWorkingFolder)
     EXPECT_EQ(InstanceNumber, 0);
 }
 
+TEST_F(StartUp, AnInstalledCopyWorksInTheUsersFolderWithTheShippedCatalogs)
+{
+    const TempFolder root, user;
+    const std::string bin = root.File("bin");
+    const fs::path data = (fs::path(bin) / DataFromPrograms).lexically_normal();
+    fs::create_directories(bin);
+    fs::create_directories(data);
+    for (const char* name : { "AppList.dat", "PalmApp.dat", "VY_Icons.dat" })
+        fs::copy_file(fs::path(VYPX_SHIPPED_DATA) / name, data / name);
+    MDIForm1 installed(ask);
+
+    installed.Start(QString::fromStdString(bin), QString::fromStdString(user.File("data")));
+
+    EXPECT_EQ(ProgramFolder, bin);
+    EXPECT_EQ(AppFolder, user.File("data"));
+    EXPECT_EQ(WorkFolder(), user.File("data/temp"));
+    EXPECT_GT(PalmTable.size(), 1u);
+    EXPECT_TRUE(fs::is_empty(bin));
+    installed.close();
+}
+
 TEST_F(StartUp, KeepsAWorkingFolderThatIsThere)
 {
     MakeFolder(program.File("temp"));

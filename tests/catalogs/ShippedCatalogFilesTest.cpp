@@ -1,0 +1,144 @@
+#include "catalogs/CatalogFiles.h"
+#include "document/Catalogs.h"
+#include "document/WorkingFolder.h"
+#include "settings/IniStore.h"
+
+#include "support/CommonUser.h"
+#include "support/ShippedFixture.h"
+
+#include <gmock/gmock.h>
+
+namespace vypx::test {
+
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::EndsWith;
+using ::testing::IsEmpty;
+using ::testing::StartsWith;
+
+/// Catalogs that are large, odd, locked or elsewhere when a new version brings entries.
+class ShippedCatalogFiles : public Shipping { };
+
+TEST_F(ShippedCatalogFiles, GetOnlyWhatTheirReadersStillSee)
+{
+    // 8191 characters of names with one more for each are seen whole.
+    std::string own;
+    for (int i = 0; i < 81; ++i)
+        own += Owner(
+            std::string(97, 'a') + std::to_string(10 + i), "OWN" + std::string(1, char('0' + i)));
+    const std::string last(8191 - 81 * 100 - 1, 'z');
+    ASSERT_EQ(last.size(), 90u);
+
+    const std::string tooLong = Owner(last + "y", "NEWA"), fits = Owner(last, "NEWB");
+    EXPECT_EQ(Merged(own, tooLong + fits + Owner("x", "NEWC")), own + fits);
+
+    AppFolder = user.Path();
+    EXPECT_EQ(ReadAppIni([](std::string_view) {}), std::nullopt) << "all names are seen";
+    AppFolder.clear();
+    ResetCatalogs();
+
+    WriteOwn("AppList.dat", Owner("Short", "SHRT"));
+    Bring("AppList.dat", tooLong + fits + Owner("x", "NEWC") + "; changed\n");
+    EXPECT_EQ(Own("AppList.dat"), Owner("Short", "SHRT") + tooLong + Owner("x", "NEWC"))
+        << "what had no room comes when there is some";
+}
+
+TEST_F(ShippedCatalogFiles, ThatCannotBeReadStayAndAreTakenUpLater)
+{
+    Bring("AppList.dat", Owner("One", "ONEA"));
+    DeleteOwn("AppList.dat");
+    fs::create_directory(user.File("AppList.dat"));
+
+    Bring("AppList.dat", Owner("One", "ONEA") + Owner("New", "NEWA"));
+    EXPECT_TRUE(fs::is_empty(user.File("AppList.dat")));
+    DeleteOwn("AppList.dat");
+    WriteOwn("AppList.dat", Owner("Mine", "MINE"));
+    StartLater();
+
+    EXPECT_EQ(Own("AppList.dat"), Owner("Mine", "MINE") + Owner("New", "NEWA"));
+}
+
+TEST_F(ShippedCatalogFiles, BehindALinkAreChangedWhereTheyStand)
+{
+    Bring("AppList.dat", "");
+    const TempFolder elsewhere;
+    WriteText(elsewhere.File("apps"), Owner("Mine", "MINE"));
+    DeleteOwn("AppList.dat");
+    fs::create_symlink(elsewhere.File("apps"), user.File("AppList.dat"));
+
+    Bring("AppList.dat", Owner("New", "NEWA"));
+
+    EXPECT_EQ(ReadText(elsewhere.File("apps")), Owner("Mine", "MINE") + Owner("New", "NEWA"));
+    EXPECT_TRUE(fs::is_symlink(user.File("AppList.dat")));
+}
+
+#ifndef _WIN32
+
+TEST_F(ShippedCatalogFiles, ThatTheUserMadeReadOnlyStayUntilTheyAreNot)
+{
+    fs::permissions(user.Path(), fs::perms::all);
+    Ship("AppList.dat", "");
+    {
+        const CommonUser common;
+        Start();
+        WriteOwn("AppList.dat", Owner("Mine", "MINE"));
+        fs::permissions(user.File("AppList.dat"), fs::perms(0444));
+    }
+    Ship("AppList.dat", Owner("New", "NEWA"));
+    {
+        const CommonUser common;
+        StartLater();
+        EXPECT_EQ(Own("AppList.dat"), Owner("Mine", "MINE"));
+
+        fs::permissions(user.File("AppList.dat"), fs::perms(0644));
+        StartLater();
+        EXPECT_EQ(Own("AppList.dat"), Owner("Mine", "MINE") + Owner("New", "NEWA"));
+    }
+}
+
+#endif
+
+TEST_F(ShippedCatalogFiles, OfAnyBytesHarmNobody)
+{
+    std::string garbage("\0[\xFF]\x01=\n\n]=[\r", 13);
+    for (int i = 0; i < 12; ++i)
+        garbage += garbage;
+
+    EXPECT_EQ(Merged(Owner("Mine", "MINE"), garbage), Owner("Mine", "MINE"));
+    EXPECT_THAT(Merged(garbage, Owner("New", "NEWA")),
+        ::testing::AllOf(StartsWith(garbage), EndsWith(Owner("New", "NEWA"))));
+}
+
+TEST_F(ShippedCatalogFiles, ThatAreTooLargeAreNotReplaced)
+{
+    const auto size = static_cast<std::uintmax_t>(MaxIniSize);
+    Bring("AppList.dat", "");
+    fs::resize_file(user.File("AppList.dat"), size + 1);
+
+    Bring("AppList.dat", Owner("New", "NEWA"));
+    EXPECT_EQ(fs::file_size(user.File("AppList.dat")), size + 1);
+
+    fs::resize_file(user.File("AppList.dat"), size - 5);
+    StartLater();
+    EXPECT_EQ(fs::file_size(user.File("AppList.dat")), size - 5) << "it could not be read then";
+}
+
+TEST_F(ShippedCatalogFiles, ThatAProgramShipsComeToAUserWithoutADuplicate)
+{
+    const std::string data(VYPX_SHIPPED_DATA);
+    TakeShippedFiles({ .work = user.Path(), .shipped = data }, UpdateShippedCatalog);
+
+    std::vector<std::string> boxes;
+    AppFolder = user.Path();
+    ReadCatalogs([&](std::string_view text) { boxes.emplace_back(text); });
+    AppFolder.clear();
+    ResetCatalogs();
+
+    EXPECT_THAT(boxes, IsEmpty());
+    for (const char* name : { "AppList.dat", "PalmApp.dat", "VY_Icons.dat", "TIPOFDAY.TXT" })
+        EXPECT_EQ(Own(name), ReadText(data + '/' + name));
+}
+
+} // namespace
+} // namespace vypx::test

@@ -36,6 +36,15 @@ protected:
             FaultAt(User(), kind, at, root.File("count")));
         return child.Wait();
     }
+    void StartFourAtOnce() const
+    {
+        std::vector<std::unique_ptr<Child>> starts;
+        for (int i = 0; i < 4; ++i)
+            starts.push_back(std::make_unique<Child>(
+                std::vector<std::string>{ VYPX_SHIPPED_HELPER, root.File("shipped"), User() }));
+        for (const auto& start : starts)
+            EXPECT_EQ(start->Wait(), 0);
+    }
     int Operations() const { return std::stoi(ReadText(root.File("count"))); }
 
     void ShipNewVersion() const
@@ -87,12 +96,7 @@ TEST_F(UpdateStarts, OfManyAtOnceBringEverythingOnce)
     ShipNewVersion();
     for (int round = 0; round < 10 / VYPX_ROUNDS_DIVISOR; ++round) {
         RestoreUsersFolder();
-        std::vector<std::unique_ptr<Child>> starts;
-        for (int i = 0; i < 4; ++i)
-            starts.push_back(std::make_unique<Child>(
-                std::vector<std::string>{ VYPX_SHIPPED_HELPER, root.File("shipped"), User() }));
-        for (const auto& start : starts)
-            EXPECT_EQ(start->Wait(), 0);
+        StartFourAtOnce();
 
         EXPECT_EQ(Now(), Updated());
     }
@@ -104,12 +108,7 @@ TEST_F(UpdateStarts, OfManyAtOnceFillANewFolder)
     for (int round = 0; round < 10 / VYPX_ROUNDS_DIVISOR; ++round) {
         fs::remove_all(User());
         fs::create_directory(User());
-        std::vector<std::unique_ptr<Child>> starts;
-        for (int i = 0; i < 4; ++i)
-            starts.push_back(std::make_unique<Child>(
-                std::vector<std::string>{ VYPX_SHIPPED_HELPER, root.File("shipped"), User() }));
-        for (const auto& start : starts)
-            EXPECT_EQ(start->Wait(), 0);
+        StartFourAtOnce();
 
         EXPECT_EQ(Now(),
             (Contents{ { "AppList.dat", NewApp }, { "PalmApp.dat", std::string(OldPalm) + NewPalm },

@@ -1,4 +1,5 @@
 #include "WindowFixture.h"
+#include "document/Product.h"
 #include "document/RunCount.h"
 #include "document/RunningCopies.h"
 #include "support/CommonUser.h"
@@ -23,7 +24,9 @@ TEST_F(StartUp, MakesTheWorkingFolder)
 
 TEST_F(StartUp, AnInstalledCopyWorksInTheUsersFolderWithTheShippedCatalogs)
 {
+    namespace fs = std::filesystem;
     const TempFolder root, user;
+    WriteText(user.File("VYPX.ini"), "[Splash Screen]\nShow splash screen at startup=False\n");
     const std::string bin = root.File("bin");
     const fs::path data = (fs::path(bin) / DataFromPrograms).lexically_normal();
     fs::create_directories(bin);
@@ -32,11 +35,11 @@ TEST_F(StartUp, AnInstalledCopyWorksInTheUsersFolderWithTheShippedCatalogs)
         fs::copy_file(fs::path(VYPX_SHIPPED_DATA) / name, data / name);
     MDIForm1 installed(ask);
 
-    installed.Start(QString::fromStdString(bin), QString::fromStdString(user.File("data")));
+    installed.Start(QString::fromStdString(bin), QString::fromStdString(user.Path()));
 
     EXPECT_EQ(ProgramFolder, bin);
-    EXPECT_EQ(AppFolder, user.File("data"));
-    EXPECT_EQ(WorkFolder(), user.File("data/temp"));
+    EXPECT_EQ(AppFolder, user.Path());
+    EXPECT_EQ(WorkFolder(), user.File("temp"));
     EXPECT_GT(PalmTable.size(), 1u);
     EXPECT_TRUE(fs::is_empty(bin));
     installed.close();

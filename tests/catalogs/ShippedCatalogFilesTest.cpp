@@ -59,6 +59,8 @@ TEST_F(ShippedCatalogFiles, ThatCannotBeReadStayAndAreTakenUpLater)
     EXPECT_EQ(Own("AppList.dat"), Owner("Mine", "MINE") + Owner("New", "NEWA"));
 }
 
+#ifndef _WIN32
+
 TEST_F(ShippedCatalogFiles, BehindALinkAreChangedWhereTheyStand)
 {
     Bring("AppList.dat", "");
@@ -72,8 +74,6 @@ TEST_F(ShippedCatalogFiles, BehindALinkAreChangedWhereTheyStand)
     EXPECT_EQ(ReadText(elsewhere.File("apps")), Owner("Mine", "MINE") + Owner("New", "NEWA"));
     EXPECT_TRUE(fs::is_symlink(user.File("AppList.dat")));
 }
-
-#ifndef _WIN32
 
 TEST_F(ShippedCatalogFiles, ThatTheUserMadeReadOnlyStayUntilTheyAreNot)
 {
@@ -106,7 +106,8 @@ TEST_F(ShippedCatalogFiles, OfAnyBytesHarmNobody)
         garbage += garbage;
 
     EXPECT_EQ(Merged(Owner("Mine", "MINE"), garbage), Owner("Mine", "MINE"));
-    EXPECT_THAT(Merged(garbage, Owner("New", "NEWA")),
+    Merged(garbage, Owner("New", "NEWA"));
+    EXPECT_THAT(ReadText(user.File("AppList.dat")),
         ::testing::AllOf(StartsWith(garbage), EndsWith(Owner("New", "NEWA"))));
 }
 

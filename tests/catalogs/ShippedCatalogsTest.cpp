@@ -142,9 +142,11 @@ TEST_F(ShippedCatalogs, KeepLineEndsCommentsAndBytesOfAnyKind)
     const std::string own = "\xEF\xBB\xBF; mine \xFF\r\n\r\n[Caf\xE9]\r\nType = appl \r\n"
                             "Creator= \"{ONEA}\"\r\nno key\r\n[\xC3\x84rger]\r\n;end";
 
-    EXPECT_EQ(Merged(own,
-                  Owner("caf\xE9", "TWOA") + Owner("Z\xFCrich", "TREE") + "[K\xC3\xB6ln]\n"
-                      + "Type=appl\nCreator={FOUR}\n"),
+    Merged(own,
+        Owner("caf\xE9", "TWOA") + Owner("Z\xFCrich", "TREE")
+            + "[K\xC3\xB6ln]\nType=appl\nCreator={FOUR}\n");
+
+    EXPECT_EQ(ReadText(user.File("AppList.dat")),
         own + "\r\n[Z\xFCrich]\r\nType=appl\r\nCreator={TREE}\r\n"
             + "[K\xC3\xB6ln]\r\nType=appl\r\nCreator={FOUR}\r\n");
 }

@@ -257,6 +257,8 @@ TEST_F(ShippedFiles, SurviveAnythingInTheFileOfWhatWasGiven)
     }
 }
 
+#ifndef _WIN32
+
 TEST_F(ShippedFiles, InPlaceOfWhichAFolderOrALinkStandsAreNotForced)
 {
     Ship("TIPOFDAY.TXT", "old\n");
@@ -279,6 +281,8 @@ TEST_F(ShippedFiles, InPlaceOfWhichAFolderOrALinkStandsAreNotForced)
     StartLater();
     EXPECT_EQ(Own("TIPOFDAY.TXT"), "new\n") << "what could not be done is done as soon as it can";
 }
+
+#endif
 
 TEST_F(ShippedFiles, AreWaitedForWhileAnotherCopyGivesThem)
 {

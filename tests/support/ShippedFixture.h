@@ -49,7 +49,14 @@ protected:
         return Own("AppList.dat");
     }
 
-    std::string Own(const std::string& name) const { return ReadText(user.File(name)); }
+    /// A file of the user's. A new line of one without any ends as the system's do.
+    std::string Own(const std::string& name) const
+    {
+        std::string text = ReadText(user.File(name));
+        if (platform::PathSeparator == '\\')
+            std::erase(text, '\r');
+        return text;
+    }
     void WriteOwn(const std::string& name, std::string_view text) const
     {
         WriteText(user.File(name), text);

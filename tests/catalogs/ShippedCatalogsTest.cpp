@@ -4,9 +4,9 @@ namespace vypx::test {
 
 namespace {
 
-class ShippedCatalogs : public Shipping { };
+class CatalogsOfANewVersion : public Shipping { };
 
-TEST_F(ShippedCatalogs, GetTheEntriesOfANewVersionAtTheirEnd)
+TEST_F(CatalogsOfANewVersion, GetTheEntriesOfANewVersionAtTheirEnd)
 {
     Bring("PalmApp.dat", "; shipped\n\n" + Owner("Palm Clock", "CLCK"));
     const std::string own =
@@ -22,7 +22,7 @@ TEST_F(ShippedCatalogs, GetTheEntriesOfANewVersionAtTheirEnd)
             + "[Palm Other]\nType=panl\nCreator={NEWB}\nNote=x\n");
 }
 
-TEST_F(ShippedCatalogs, DoNotGetBackWhatTheUserHasDeletedRenamedOrChanged)
+TEST_F(CatalogsOfANewVersion, DoNotGetBackWhatTheUserHasDeletedRenamedOrChanged)
 {
     const std::string first = Owner("Deleted", "DELE") + Owner("Before", "RENA")
         + Owner("Changed", "CHAN") + Owner("Kept", "KEPT");
@@ -36,7 +36,7 @@ TEST_F(ShippedCatalogs, DoNotGetBackWhatTheUserHasDeletedRenamedOrChanged)
     EXPECT_EQ(Own("AppList.dat"), own + Owner("New", "NEWA"));
 }
 
-TEST_F(ShippedCatalogs, DoNotGetADeletedEntryBackUnderAnotherNameOrWithAnotherCreator)
+TEST_F(CatalogsOfANewVersion, DoNotGetADeletedEntryBackUnderAnotherNameOrWithAnotherCreator)
 {
     Bring("AppList.dat", Owner("One", "ONEA") + Owner("Two", "TWOA"));
     WriteOwn("AppList.dat", "");
@@ -46,7 +46,7 @@ TEST_F(ShippedCatalogs, DoNotGetADeletedEntryBackUnderAnotherNameOrWithAnotherCr
     EXPECT_EQ(Own("AppList.dat"), "");
 }
 
-TEST_F(ShippedCatalogs, DoNotGetAnEntryBackThatAVersionBetweenLeftOut)
+TEST_F(CatalogsOfANewVersion, DoNotGetAnEntryBackThatAVersionBetweenLeftOut)
 {
     Bring("AppList.dat", Owner("One", "ONEA"));
     WriteOwn("AppList.dat", "");
@@ -57,7 +57,7 @@ TEST_F(ShippedCatalogs, DoNotGetAnEntryBackThatAVersionBetweenLeftOut)
     EXPECT_EQ(Own("AppList.dat"), Owner("Two", "TWOA"));
 }
 
-TEST_F(ShippedCatalogs, KeepAnEntryThatANewVersionLeavesOut)
+TEST_F(CatalogsOfANewVersion, KeepAnEntryThatANewVersionLeavesOut)
 {
     Bring("AppList.dat", Owner("One", "ONEA"));
 
@@ -66,25 +66,25 @@ TEST_F(ShippedCatalogs, KeepAnEntryThatANewVersionLeavesOut)
     EXPECT_EQ(Own("AppList.dat"), Owner("One", "ONEA") + Owner("Two", "TWOA"));
 }
 
-TEST_F(ShippedCatalogs, GetNoSecondEntryOfAName)
+TEST_F(CatalogsOfANewVersion, GetNoSecondEntryOfAName)
 {
     EXPECT_EQ(Merged(Owner("MINE", "ONEA"), Owner("mine", "TWOA") + Owner(" Mine ", "TREE")),
         Owner("MINE", "ONEA"));
 }
 
-TEST_F(ShippedCatalogs, GetNoSecondEntryOfATypeAndCreator)
+TEST_F(CatalogsOfANewVersion, GetNoSecondEntryOfATypeAndCreator)
 {
     EXPECT_EQ(Merged(Owner("Mine", "ONEA"), Owner("Other", "ONEA")), Owner("Mine", "ONEA"));
 }
 
-TEST_F(ShippedCatalogs, ReadACreatorWithoutBracesAsTheirReadersDo)
+TEST_F(CatalogsOfANewVersion, ReadACreatorWithoutBracesAsTheirReadersDo)
 {
     const std::string own = "[Mine]\nCreator=ONEA\nType=appl\n[Short]\nType=appl\nCreator=AB\n";
 
     EXPECT_EQ(Merged(own, Owner("Other", "ONEA") + Owner("Third", "AB  ")), own);
 }
 
-TEST_F(ShippedCatalogs, GetAnEntryOfAnotherTypeOrAnotherCaseOfTheCreator)
+TEST_F(CatalogsOfANewVersion, GetAnEntryOfAnotherTypeOrAnotherCaseOfTheCreator)
 {
     const std::string panel = "[Panel]\nType=panl\nCreator={ONEA}\n";
 
@@ -92,7 +92,7 @@ TEST_F(ShippedCatalogs, GetAnEntryOfAnotherTypeOrAnotherCaseOfTheCreator)
         Owner("Mine", "ONEA") + panel + Owner("Small", "oneA"));
 }
 
-TEST_F(ShippedCatalogs, GetNothingThatTheOtherCatalogTellsAlready)
+TEST_F(CatalogsOfANewVersion, GetNothingThatTheOtherCatalogTellsAlready)
 {
     Ship("AppList.dat", "");
     Bring("PalmApp.dat", "");
@@ -104,7 +104,7 @@ TEST_F(ShippedCatalogs, GetNothingThatTheOtherCatalogTellsAlready)
         << "or each start would tell of a duplicate";
 }
 
-TEST_F(ShippedCatalogs, OfTheLauncherCompareNamesAndIdsAsNumbers)
+TEST_F(CatalogsOfANewVersion, OfTheLauncherCompareNamesAndIdsAsNumbers)
 {
     Bring("VY_Icons.dat", LauncherItem("Start (Large Icon)", "2000"));
     const std::string own =
@@ -119,7 +119,7 @@ TEST_F(ShippedCatalogs, OfTheLauncherCompareNamesAndIdsAsNumbers)
     EXPECT_EQ(Own("VY_Icons.dat"), own + LauncherItem("New (Large Icon)", "2004"));
 }
 
-TEST_F(ShippedCatalogs, PassOverEntriesThatTellNothing)
+TEST_F(CatalogsOfANewVersion, PassOverEntriesThatTellNothing)
 {
     EXPECT_EQ(Merged("",
                   "Type=appl\nCreator={NONE}\n[]\nType=appl\nCreator={NONE}\n[Empty]\n"
@@ -129,7 +129,7 @@ TEST_F(ShippedCatalogs, PassOverEntriesThatTellNothing)
         Owner("Whole", "WHOL"));
 }
 
-TEST_F(ShippedCatalogs, OfRepeatedSectionsTakeTheFirst)
+TEST_F(CatalogsOfANewVersion, OfRepeatedSectionsTakeTheFirst)
 {
     const std::string own = Owner("Twice", "ONEA") + "; a\n" + Owner("Twice", "TWOA");
 
@@ -137,7 +137,7 @@ TEST_F(ShippedCatalogs, OfRepeatedSectionsTakeTheFirst)
         own + Owner("New", "NEWA"));
 }
 
-TEST_F(ShippedCatalogs, KeepLineEndsCommentsAndBytesOfAnyKind)
+TEST_F(CatalogsOfANewVersion, KeepLineEndsCommentsAndBytesOfAnyKind)
 {
     const std::string own = "\xEF\xBB\xBF; mine \xFF\r\n\r\n[Caf\xE9]\r\nType = appl \r\n"
                             "Creator= \"{ONEA}\"\r\nno key\r\n[\xC3\x84rger]\r\n;end";
@@ -151,13 +151,13 @@ TEST_F(ShippedCatalogs, KeepLineEndsCommentsAndBytesOfAnyKind)
             + "[K\xC3\xB6ln]\r\nType=appl\r\nCreator={FOUR}\r\n");
 }
 
-TEST_F(ShippedCatalogs, KeepTheBlanksOfACreator)
+TEST_F(CatalogsOfANewVersion, KeepTheBlanksOfACreator)
 {
     EXPECT_EQ(Merged("", Owner("Blank", "A   ") + Owner("Blanks", " B  ")),
         "[Blank]\nType=appl\nCreator={A   }\n[Blanks]\nType=appl\nCreator={ B  }\n");
 }
 
-TEST_F(ShippedCatalogs, AreNotTouchedWhereNothingIsNew)
+TEST_F(CatalogsOfANewVersion, AreNotTouchedWhereNothingIsNew)
 {
     Bring("AppList.dat", Owner("One", "ONEA"));
     WriteOwn("AppList.dat", Owner("Mine", "MINE"));
@@ -168,7 +168,7 @@ TEST_F(ShippedCatalogs, AreNotTouchedWhereNothingIsNew)
     EXPECT_EQ(platform::IdentityOf(user.File("AppList.dat")), before);
 }
 
-TEST_F(ShippedCatalogs, LetAnEntryBeDeletedAfterItCame)
+TEST_F(CatalogsOfANewVersion, LetAnEntryBeDeletedAfterItCame)
 {
     Bring("AppList.dat", "");
     Bring("AppList.dat", Owner("New", "NEWA"));

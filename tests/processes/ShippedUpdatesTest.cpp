@@ -168,7 +168,7 @@ TEST_P(UpdateFaults, AtTheFirstStartAreMadeGoodByTheNext)
 }
 
 INSTANTIATE_TEST_SUITE_P(Kinds, UpdateFaults,
-    ::testing::Values("space", "io", "short", "before", "within", "after"),
+    ::testing::Values("space", "short", "before", "within", "after"),
     [](const auto& kind) { return kind.param; });
 
 } // namespace

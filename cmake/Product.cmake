@@ -17,13 +17,7 @@ include(GNUInstallDirs)
 # Absolute folders of an installation; programs find their data and their module from where they stand.
 set(VYPX_INSTALLED_DATA ${CMAKE_INSTALL_FULL_DATADIR}/${VYPX_PROGRAM_NAME})
 set(VYPX_INSTALLED_MODULE ${CMAKE_INSTALL_FULL_LIBDIR}/${VYPX_PROGRAM_NAME})
-if(WIN32)
-    set(VYPX_DATA_FROM_PROGRAMS ".") # beside them
-elseif(APPLE)
-    set(VYPX_DATA_FROM_PROGRAMS ../Resources) # of the bundle, whose programs stand in MacOS
-else()
-    file(RELATIVE_PATH VYPX_DATA_FROM_PROGRAMS ${CMAKE_INSTALL_FULL_BINDIR} ${VYPX_INSTALLED_DATA})
-endif()
+file(RELATIVE_PATH VYPX_DATA_FROM_PROGRAMS ${CMAKE_INSTALL_FULL_BINDIR} ${VYPX_INSTALLED_DATA})
 file(RELATIVE_PATH VYPX_MODULE_FROM_PROGRAMS ${CMAKE_INSTALL_FULL_BINDIR} ${VYPX_INSTALLED_MODULE})
 
 # What the code knows of it.

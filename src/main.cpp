@@ -1,4 +1,5 @@
 #include "forms/common/Ask.h"
+#include "forms/common/FolderFailureText.h"
 #include "forms/common/ProgramName.h"
 #include "forms/main/MDIForm1.h"
 
@@ -21,10 +22,8 @@ int main(int argc, char** argv)
         // It may have been left amid the search of its start.
         return frame.isHidden() ? 0 : QApplication::exec();
     } catch (const std::filesystem::filesystem_error& error) {
-        ask.Show(nullptr,
-            { .text = QString("VY Pixelworks can't make its working folder.\n\n%1")
-                          .arg(QString::fromLocal8Bit(error.what())),
-                .icon = QMessageBox::Critical });
+        ask.Show(
+            nullptr, { .text = vypx::FolderFailureText(error), .icon = QMessageBox::Critical });
         return 1;
     }
 }

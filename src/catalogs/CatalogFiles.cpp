@@ -28,7 +28,7 @@ struct OwnerFile {
 };
 
 const OwnerFile AppFile{
-    .file = "AppList.dat",
+    .file = AppListName,
     .table = AppTable,
     .lastColumn = 3,
     .missing = "Error! Can't find Applist.dat.",
@@ -37,15 +37,13 @@ const OwnerFile AppFile{
 };
 
 const OwnerFile PalmFile{
-    .file = "PalmApp.dat",
+    .file = PalmAppName,
     .table = PalmTable,
     .lastColumn = 2,
     .missing = "Error! Can't find PalmApp.dat.",
     .corrupt = "Error! Corrupt Creator ID entry found in PalmApp.dat for ",
     .failed = "Error reading PalmApp.Dat file!!!",
 };
-
-constexpr std::string_view LauncherFile = "VY_Icons.dat";
 
 std::string& CellOf(CatalogRow& row, std::size_t column, std::size_t lastColumn)
 {
@@ -219,7 +217,7 @@ private:
 
 std::string AppListFile() { return AppFolder + BelowFolder(AppFile.file); }
 std::string PalmAppFile() { return AppFolder + BelowFolder(PalmFile.file); }
-std::string VYIconsFile() { return AppFolder + BelowFolder(LauncherFile); }
+std::string VYIconsFile() { return AppFolder + BelowFolder(VYIconsName); }
 
 std::string NoteOf(const CutCatalog& catalog)
 {
@@ -242,7 +240,7 @@ std::optional<CutCatalog> ReadPalmAppIni(const ShowMessage& show)
 
 std::optional<CutCatalog> ReadVYIconsIni(const ShowMessage& show)
 {
-    return ReadSections(LauncherFile, VYTable, "Error! Can't find VY_Icons.dat.",
+    return ReadSections(VYIconsName, VYTable, "Error! Can't find VY_Icons.dat.",
         "Error reading VY_Icons.dat file!!!!", show,
         [](LauncherRow& row, cInifile& ini) { ReadLauncherItem(row, ini); });
 }

@@ -2,13 +2,16 @@
 
 #include "catalogs/CatalogEntries.h"
 #include "companion/Numbers.h"
+#include "document/Catalogs.h"
 #include "document/WorkingFolder.h"
 #include "settings/IniStore.h"
 #include "settings/Inifile.h"
 #include "settings/LetterCase.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <memory>
+#include <vector>
 
 namespace vypx {
 
@@ -21,17 +24,22 @@ struct CatalogPlace {
     std::string_view other;
 };
 constexpr CatalogPlace CatalogPlaces[] = {
-    { "AppList.dat", CatalogForm::Owners, "PalmApp.dat" },
-    { "PalmApp.dat", CatalogForm::Owners, "AppList.dat" },
-    { "VY_Icons.dat", CatalogForm::Launcher, "" },
+    { AppListName, CatalogForm::Owners, PalmAppName },
+    { PalmAppName, CatalogForm::Owners, AppListName },
+    { VYIconsName, CatalogForm::Launcher, "" },
 };
 
 /// Empty for an entry without it.
+std::string CreatorOfSection(const IniText& text, const std::string& section)
+{
+    const auto value = text.Value(section, "Creator");
+    return value ? CreatorOfValue(*value) : std::string();
+}
+
 std::string StoredOwner(const IniText& text, const std::string& section)
 {
     const std::string type(text.Value(section, "Type").value_or(""));
-    const std::string_view value = text.Value(section, "Creator").value_or("");
-    const std::string creator = value.empty() ? std::string() : CreatorOfValue(value);
+    const std::string creator = CreatorOfSection(text, section);
     return type.empty() || creator.empty() ? std::string() : type + ' ' + creator;
 }
 
@@ -50,20 +58,37 @@ std::string MeaningOf(CatalogForm form, const IniText& text, const std::string& 
     return form == CatalogForm::Owners ? StoredOwner(text, section) : StoredId(text, section);
 }
 
-/// Names, in lower case, and what they stand for.
-struct Told {
-    std::set<std::string> names, meanings;
+/// Sections in order, of those of one name the first: the others are not read.
+std::vector<std::string> CountingSections(const IniText& text)
+{
+    std::vector<std::string> sections = text.SectionNames();
+    std::set<std::string> names{ "" };
+    std::erase_if(sections,
+        [&](const std::string& section) { return !names.insert(LowerCase(section)).second; });
+    return sections;
+}
 
+/// What catalogs tell of: names, in lower case, and what they stand for.
+struct Told {
+    std::set<std::string> names, meanings, creators;
+
+    void AddEntry(CatalogForm form, const IniText& text, const std::string& section)
+    {
+        names.insert(LowerCase(section));
+        meanings.insert(MeaningOf(form, text, section));
+        if (form == CatalogForm::Owners)
+            creators.insert(CreatorOfSection(text, section));
+    }
     void Add(CatalogForm form, const IniText& text)
     {
-        for (const std::string& section : text.SectionNames()) {
-            names.insert(LowerCase(section));
-            meanings.insert(MeaningOf(form, text, section));
-        }
+        for (const std::string& section : CountingSections(text))
+            AddEntry(form, text, section);
     }
-    bool HasEither(const std::string& name, const std::string& meaning) const
+    bool HasAny(CatalogForm form, const IniText& text, const std::string& section) const
     {
-        return names.contains(name) || meanings.contains(meaning);
+        return names.contains(LowerCase(section))
+            || meanings.contains(MeaningOf(form, text, section))
+            || creators.contains(CreatorOfSection(text, section));
     }
 };
 
@@ -85,35 +110,68 @@ std::size_t ListSize(const IniText& text)
     return size;
 }
 
-void CopyEntry(const IniText& from, const std::string& section, IniText& to)
+/// False: a key could not be read back.
+bool CopyEntry(const IniText& from, const std::string& section, IniText& to)
 {
     for (const std::string& key : from.KeyNames(section)) // in order, as their readers need them
-        to.SetValue(section, key, from.Value(section, key).value_or(""));
+        if (!to.SetValue(section, key, from.Value(section, key).value_or("")))
+            return false;
+    return true;
 }
 
-std::set<std::string> FactsOf(CatalogForm form, const std::string& file, const IniText& shipped)
+bool CanBeCopied(const IniText& from, const std::string& section)
+{
+    IniText scratch;
+    return CopyEntry(from, section, scratch);
+}
+
+const CatalogPlace* PlaceOf(const std::string& file)
+{
+    const auto place = std::find_if(std::begin(CatalogPlaces), std::end(CatalogPlaces),
+        [&](const CatalogPlace& each) { return each.file == file; });
+    return place == std::end(CatalogPlaces) ? nullptr : place;
+}
+
+IniText ShippedText(const ShippedFile& file)
+{
+    return IniText(
+        std::string_view(reinterpret_cast<const char*>(file.bytes.data()), file.bytes.size()));
+}
+
+std::set<std::string> FactsOfCatalog(const ShippedFile& file)
 {
     std::set<std::string> facts;
-    for (const std::string& section : shipped.SectionNames()) {
-        const std::string meaning = MeaningOf(form, shipped, section);
+    const CatalogPlace* const place = PlaceOf(file.name);
+    if (!place || file.bytes.size() > MaxIniSize)
+        return facts;
+    const IniText shipped = ShippedText(file);
+    for (const std::string& section : CountingSections(shipped)) {
+        const std::string meaning = MeaningOf(place->form, shipped, section);
         if (!meaning.empty())
-            facts.insert({ NameFact(file, LowerCase(section)), MeaningFact(file, meaning) });
+            facts.insert(
+                { NameFact(file.name, LowerCase(section)), MeaningFact(file.name, meaning) });
     }
     return facts;
 }
 
-/// False: the user's catalog can't be read or written.
-bool AddToFile(const CatalogPlace& place, const ShippedFile& file, const IniText& shipped,
-    std::set<std::string>& facts)
+bool MergeCatalog(const ShippedFile& file, std::set<std::string>& facts)
 {
+    const CatalogPlace* const place = PlaceOf(file.name);
+    if (!place || file.bytes.size() > MaxIniSize)
+        return false;
+    const IniText shipped = ShippedText(file);
     std::set<std::string> learnt;
     bool isRead = false, isMore = false;
-    const std::shared_ptr<const IniText> other =
-        ReadIni(place.other.empty() ? "" : file.folder + BelowFolder(place.other));
-    const IniText* const others[] = { other.get() };
     const bool isWritten = EditIni(file.Target(), [&](IniText& user) {
+        std::shared_ptr<const IniText> other;
+        if (!place->other.empty())
+            other = ReadIniOrNull(file.folder + BelowFolder(place->other));
+        if (!place->other.empty() && !other)
+            return false; // who knows what stands there
+        const IniText* const others[] = { other.get() };
         const std::size_t before = user.SectionNames().size();
-        learnt = AddShippedEntries(place.form, file.name, shipped, others, facts, user);
+        learnt = AddShippedEntries(
+            place->form, file.name, shipped, std::span(others).first(other ? 1 : 0), facts, user);
         isRead = true;
         isMore = user.SectionNames().size() != before;
         return isMore && user.Bytes().size() <= MaxIniSize;
@@ -126,6 +184,8 @@ bool AddToFile(const CatalogPlace& place, const ShippedFile& file, const IniText
 
 } // namespace
 
+const CatalogRules ShippedCatalogRules{ .facts = FactsOfCatalog, .merge = MergeCatalog };
+
 std::set<std::string> AddShippedEntries(CatalogForm form, const std::string& file,
     const IniText& shipped, std::span<const IniText* const> others,
     const std::set<std::string>& facts, IniText& user)
@@ -136,39 +196,23 @@ std::set<std::string> AddShippedEntries(CatalogForm form, const std::string& fil
         there.Add(form, *other);
     std::set<std::string> learnt;
     std::size_t size = ListSize(user);
-    for (const std::string& section : shipped.SectionNames()) {
-        const std::string name = LowerCase(section), meaning = MeaningOf(form, shipped, section);
-        const std::string nameFact = NameFact(file, name), fact = MeaningFact(file, meaning);
-        if (section.empty() || meaning.empty())
+    for (const std::string& section : CountingSections(shipped)) {
+        const std::string meaning = MeaningOf(form, shipped, section);
+        const std::string name = NameFact(file, LowerCase(section));
+        const std::string fact = MeaningFact(file, meaning);
+        if (meaning.empty() || !CanBeCopied(shipped, section))
             continue;
-        if (!facts.contains(nameFact) && !facts.contains(fact) && !there.HasEither(name, meaning)) {
+        if (!facts.contains(name) && !facts.contains(fact)
+            && !there.HasAny(form, shipped, section)) {
             if (size + section.size() + 1 >= ListBuffer)
                 continue;
             size += section.size() + 1;
             CopyEntry(shipped, section, user);
-            there.names.insert(name);
-            there.meanings.insert(meaning);
+            there.AddEntry(form, shipped, section);
         }
-        learnt.insert({ nameFact, fact });
+        learnt.insert({ name, fact });
     }
     return learnt;
-}
-
-bool UpdateShippedCatalog(const ShippedFile& file, std::set<std::string>& facts)
-{
-    if (file.bytes.size() > MaxIniSize)
-        return false;
-    const IniText shipped(
-        std::string_view(reinterpret_cast<const char*>(file.bytes.data()), file.bytes.size()));
-    for (const CatalogPlace& place : CatalogPlaces) {
-        if (place.file != file.name)
-            continue;
-        if (facts.contains(KnownFact(file.name)))
-            return AddToFile(place, file, shipped, facts);
-        facts.merge(FactsOf(place.form, file.name, shipped));
-        facts.insert(KnownFact(file.name));
-    }
-    return true;
 }
 
 } // namespace vypx

@@ -18,18 +18,20 @@ enum class CatalogForm {
 
 /// Adds to the user's catalog, at its end, the entries of `shipped` that are new, and leaves all
 /// else there as it is. New is what has neither the name (A to Z in any case) nor the Type with
-/// Creator, or the ID, of an entry that `facts` tell of; and it is only added where neither stands
-/// in the catalog, nor in one of `others`, that must not tell of one application twice. An entry
-/// without them is none. One whose name would not be seen any more, behind too many others, is left
-/// for a time with room.
+/// Creator, or the ID, of an entry that `facts` tell of. It is only added where neither stands in
+/// the catalog, nor in one of `others`, and where neither of them has its Creator, be it with
+/// another Type: each start would tell of a duplicate. An entry without name, Type, Creator or ID,
+/// and one that can't be copied whole, is none. One whose name would not be seen any more, behind
+/// too many others, is neither added nor known: it is tried again when the shipped catalog changes.
 ///
 /// Gives back what is to be known from now on. `file` is the catalog's bare name.
 std::set<std::string> AddShippedEntries(CatalogForm form, const std::string& file,
     const IniText& shipped, std::span<const IniText* const> others,
     const std::set<std::string>& facts, IniText& user);
 
-/// The UpdateCatalog for all three catalogs. The file is replaced once, in turn with other writers,
-/// and only if something is added. On a failure it is as it was, and no fact is learnt.
-bool UpdateShippedCatalog(const ShippedFile& file, std::set<std::string>& facts);
+/// For all three catalogs. The user's file is replaced once, in turn with other writers, and only
+/// if something is added. Nothing is done, for a later time to try, where it or the other one of
+/// AppList.dat and PalmApp.dat is there and can't be read.
+extern const CatalogRules ShippedCatalogRules;
 
 } // namespace vypx

@@ -11,18 +11,17 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// What shows that a folder holds the shipped data.
-constexpr std::string_view SignOfData = "AppList.dat";
-
 /// Where the data of an installed copy stand; empty for a copy that is none.
 std::string InstalledData(const std::string& programFolder)
 {
-    const fs::path programs = platform::NativePath(programFolder);
-    const fs::path data = programs / platform::NativePath(DataFromPrograms);
-    std::error_code unknown;
-    if (fs::exists(programs / SignOfData, unknown) || !fs::exists(data / SignOfData, unknown))
+    std::error_code error;
+    const fs::path programs = fs::canonical(platform::NativePath(programFolder), error);
+    if (error)
         return {};
-    return platform::Utf8Path(data.lexically_normal());
+    const fs::path data = fs::canonical(programs / platform::NativePath(DataFromPrograms), error);
+    if (error || data == programs || !fs::is_directory(data, error))
+        return {};
+    return platform::Utf8Path(data);
 }
 
 /// The folder itself, or the nearest one above it that there is.
@@ -34,30 +33,37 @@ std::string NearestThatIs(fs::path folder)
     return platform::Utf8Path(folder);
 }
 
-[[noreturn]] void RefuseUserFolder(
-    const char* why, const fs::path& folder, std::errc error = std::errc::permission_denied)
+/// The folder that this process's user is to work in.
+std::string FolderOfItsOwn(const std::string& userFolder, const std::string& ownHome)
 {
-    throw fs::filesystem_error(why, folder, std::make_error_code(error));
+    const fs::path folder = platform::NativePath(userFolder);
+    if (userFolder.empty() || !platform::IsForeignToRoot(NearestThatIs(folder)))
+        return userFolder;
+    const fs::path own = platform::NativePath(ownHome) / ".local" / "share" / folder.filename();
+    if (ownHome.empty() || platform::IsForeignToRoot(NearestThatIs(own)))
+        throw fs::filesystem_error("root must not work in the folder of another user", folder,
+            std::make_error_code(std::errc::permission_denied));
+    return platform::Utf8Path(own);
 }
 
 void MakeUserFolder(const std::string& userFolder)
 {
     const fs::path folder = platform::NativePath(userFolder);
     if (userFolder.empty())
-        RefuseUserFolder(
-            "there is no folder for the user's data", folder, std::errc::no_such_file_or_directory);
-    if (platform::IsForeignToRoot(NearestThatIs(folder)))
-        RefuseUserFolder("root must not work in the folder of another user", folder);
+        throw fs::filesystem_error("there is no folder for the user's data", folder,
+            std::make_error_code(std::errc::no_such_file_or_directory));
     fs::create_directories(folder);
 }
 
 } // namespace
 
-AppFolders ResolveAppFolders(const std::string& programFolder, const std::string& userFolder)
+AppFolders ResolveAppFolders(
+    const std::string& programFolder, const std::string& userFolder, const std::string& ownHome)
 {
     if (const std::string data = InstalledData(programFolder); !data.empty()) {
-        MakeUserFolder(userFolder);
-        return { .work = userFolder, .shipped = data };
+        const std::string own = FolderOfItsOwn(userFolder, ownHome);
+        MakeUserFolder(own);
+        return { .work = own, .shipped = data };
     }
     if (platform::FolderIsWritable(programFolder) || userFolder.empty())
         return { .work = programFolder, .shipped = {} };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Platform.h"
+
 #include <string>
 
 namespace vypx {
@@ -16,14 +18,17 @@ struct AppFolders {
 /// The folders of the copy whose program stands in `programFolder`; `userFolder` is the user's own
 /// one for its data, which is made where it is needed.
 ///
-/// An installed copy, whose data stand in DataFromPrograms and not beside the program, works in the
-/// user's folder, whoever the user is and whatever can be written. Where there is none, where it
-/// can't be made, and where root would make files in another user's, it does not work at all:
-/// throws std::filesystem::filesystem_error.
+/// An installed copy, for which there is a folder DataFromPrograms that is not the program's own,
+/// works in the user's folder, whoever the user is, whatever can be written and whatever stands
+/// beside the program. Root whose `userFolder` is another user's, as some ways to become root leave
+/// it, works in the folder of its name below ".local/share" in `ownHome`, root's home. Where there
+/// is no such folder, where it can't be made or is another user's too, the copy does not work at
+/// all: throws std::filesystem::filesystem_error.
 ///
 /// Any other copy works where the program stands if files can be written there, else in the user's
 /// folder. Where neither can be written, it is the program's: the program starts, and each write
 /// tells its own failure.
-AppFolders ResolveAppFolders(const std::string& programFolder, const std::string& userFolder);
+AppFolders ResolveAppFolders(const std::string& programFolder, const std::string& userFolder,
+    const std::string& ownHome = platform::HomeOfThisUser());
 
 } // namespace vypx

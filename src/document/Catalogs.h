@@ -1,11 +1,18 @@
 #pragma once
 
+#include <array>
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// The catalogs in memory: what Creator IDs and resource IDs mean. Each is replaced as a whole by
 /// each read of its file. Row 0 is never filled; rows 1 to n hold the file's entries in order.
 namespace vypx {
+
+/// Names of their files: of AppTable, PalmTable and VYTable.
+inline constexpr std::string_view AppListName = "AppList.dat", PalmAppName = "PalmApp.dat",
+                                  VYIconsName = "VY_Icons.dat";
+inline constexpr std::array CatalogNames = { AppListName, PalmAppName, VYIconsName };
 
 /// An application or a system item. A row without a name never matches anything.
 struct CatalogRow {

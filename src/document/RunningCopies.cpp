@@ -43,7 +43,7 @@ bool AnyCopyRuns(const std::string& folder)
 CopiesGate::CopiesGate(const std::string& folder)
 {
     constexpr std::chrono::seconds Patience(2);
-    m_lock.Lock(folder + BelowFolder("copies.lock"), Patience);
+    m_answer = m_lock.Lock(folder + BelowFolder("copies.lock"), Patience);
 }
 
 RunningCopies::~RunningCopies() { Leave(); }

@@ -13,8 +13,12 @@ class CopiesGate {
 public:
     explicit CopiesGate(const std::string& folder);
 
+    /// Whether it was waited for in vain.
+    bool IsAnothers() const { return m_answer == platform::FileLock::Answer::HeldByAnother; }
+
 private:
     platform::FileLock m_lock; // of "copies.lock"
+    platform::FileLock::Answer m_answer;
 };
 
 /// The copies of this program that run over one program folder, and the working folder there that

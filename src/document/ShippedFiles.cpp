@@ -1,11 +1,12 @@
 #include "document/ShippedFiles.h"
 
+#include "document/Catalogs.h"
 #include "document/RunningCopies.h"
-#include "document/WorkingFolder.h"
+#include "document/Shipment.h"
+#include "document/ShippedState.h"
 #include "platform/Platform.h"
 
 #include <algorithm>
-#include <charconv>
 #include <filesystem>
 
 namespace vypx {
@@ -15,79 +16,10 @@ namespace {
 namespace fs = std::filesystem;
 using platform::FileIdentity;
 
-constexpr std::string_view ShippedCatalogs[] = { "AppList.dat", "PalmApp.dat", "VY_Icons.dat" };
-constexpr std::string_view OtherShippedData[] = { "TIPOFDAY.TXT", "VYPX.chm", "samples" };
-
-using Shipment = std::map<std::string, FileIdentity>; // by path from the folder
-
-void AddFile(const fs::path& folder, const fs::path& file, Shipment& shipment)
+/// The end of every ContentFact of a name and a size in bytes.
+std::string SizeFact(const std::string& name, std::uintmax_t size)
 {
-    std::error_code unknown;
-    if (!fs::is_regular_file(file, unknown))
-        return;
-    if (const auto identity = platform::IdentityOf(platform::Utf8Path(file)))
-        shipment.emplace(platform::Utf8Path(file.lexically_relative(folder)), *identity);
-}
-
-Shipment ShipmentIn(const std::string& shipped)
-{
-    const fs::path folder = platform::NativePath(shipped);
-    Shipment shipment;
-    for (const std::string_view name : ShippedCatalogs)
-        AddFile(folder, folder / name, shipment);
-    for (const std::string_view name : OtherShippedData) {
-        AddFile(folder, folder / name, shipment);
-        std::error_code end;
-        for (fs::recursive_directory_iterator
-                 entry(folder / name, fs::directory_options::skip_permission_denied, end),
-             last;
-             !end && entry != last; entry.increment(end))
-            AddFile(folder, entry->path(), shipment);
-    }
-    return shipment;
-}
-
-std::string TextOfIdentity(const FileIdentity& file)
-{
-    return std::to_string(file.volume) + ' ' + std::to_string(file.file) + ' '
-        + std::to_string(file.size) + ' ' + std::to_string(file.modified) + ' '
-        + std::to_string(file.changed);
-}
-
-/// A file whose name was not kept, as a start was ended there, may have been given or not.
-bool IsSeen(const ShippedState& state, const std::string& name, const FileIdentity& file)
-{
-    const auto seen = state.seen.find(name);
-    return seen != state.seen.end() && seen->second == TextOfIdentity(file)
-        && state.given.contains(name);
-}
-
-/// By its numbers, so that 2.10 comes behind 2.9. What is no version is older than any.
-bool IsOlderVersion(std::string_view first, std::string_view second)
-{
-    const auto numbers = [](std::string_view version) {
-        std::vector<unsigned> parts;
-        const char* const end = version.data() + version.size();
-        for (const char* at = version.data(); at < end; ++at) {
-            unsigned part = 0;
-            const auto [next, error] = std::from_chars(at, end, part);
-            if (error != std::errc())
-                break;
-            parts.push_back(part);
-            at = next;
-        }
-        return parts;
-    };
-    return numbers(first) < numbers(second);
-}
-
-bool HasNothingToDo(const ShippedState& state, const Shipment& shipment, std::string_view version)
-{
-    if (IsOlderVersion(version, state.version))
-        return true;
-    return state.version == version
-        && std::all_of(shipment.begin(), shipment.end(),
-            [&](const auto& file) { return IsSeen(state, file.first, file.second); });
+    return ' ' + std::to_string(size) + '\t' + name;
 }
 
 /// That a file of that name and content was shipped. 64 bits of FNV-1a and the size: nobody forges
@@ -97,51 +29,190 @@ std::string ContentFact(const std::string& name, const std::vector<std::uint8_t>
     std::uint64_t hash = 0xcbf29ce484222325;
     for (const std::uint8_t byte : bytes)
         hash = (hash ^ byte) * 0x100000001b3;
-    return "content " + std::to_string(hash) + ' ' + std::to_string(bytes.size()) + '\t' + name;
+    return "content " + std::to_string(hash) + SizeFact(name, bytes.size());
 }
 
-bool WriteShipped(const ShippedFile& file)
-{
-    std::error_code ignored;
-    fs::create_directories(platform::NativePath(file.Target()).parent_path(), ignored);
-    return !platform::ReplaceFile(file.Target(), file.bytes);
-}
+/// That something of that name was shipped, so that other facts tell what. What an older kind of
+/// state did not keep the content of counts as changed by the user.
+std::string KnownFact(const std::string& name) { return "known\t" + name; }
 
-/// A file that is no catalog. False: it could not be judged or replaced.
-bool UpdateFile(const ShippedFile& file, std::set<std::string>& facts)
+/// What is to be done about a shipped file.
+enum class Verdict {
+    Nothing, ///< at this time of its content
+    Learn,   ///< the user's file stays, and what is shipped is known
+    Write,
+    Merge,
+    Later, ///< it can't be told now
+};
+
+/// Of a file that is there and no catalog.
+Verdict JudgeContent(const ShippedFile& file, const ShippedState& state, std::string_view version)
 {
+    if (!state.facts.contains(KnownFact(file.name)))
+        return Verdict::Learn;
+    std::error_code error;
+    const std::uintmax_t size = fs::file_size(platform::NativePath(file.Target()), error);
+    if (error)
+        return Verdict::Later;
+    const bool mayBeShipped = std::any_of(state.facts.begin(), state.facts.end(),
+        [end = SizeFact(file.name, size)](const std::string& fact) { return fact.ends_with(end); });
+    if (!mayBeShipped) // and may be too large to be read
+        return Verdict::Learn;
+    const auto bytes = platform::ReadWholeFile(file.Target());
+    if (!bytes)
+        return Verdict::Later;
+    const std::string own = ContentFact(file.name, *bytes);
     const std::string shipped = ContentFact(file.name, file.bytes);
-    // What an older kind of state did not keep the content of counts as changed by the user.
-    if (!facts.contains(shipped) && facts.contains(KnownFact(file.name))) {
-        const auto bytes = platform::ReadWholeFile(file.Target());
-        if (!bytes)
-            return false;
-        const std::string own = ContentFact(file.name, *bytes);
-        if (own != shipped && !facts.contains(own))
-            return true; // the user's own now
-        if (own != shipped && !WriteShipped(file))
-            return false;
-    }
-    facts.insert({ shipped, KnownFact(file.name) });
-    return true;
+    if (own == shipped || !state.facts.contains(own))
+        return Verdict::Learn;
+    // Two copies of one version that ship different files don't replace them to and fro.
+    const auto seen = state.seen.find(file.name);
+    const bool isOfOneVersion = seen != state.seen.end() && seen->second.version == version;
+    return isOfOneVersion && state.facts.contains(shipped) ? Verdict::Learn : Verdict::Write;
 }
 
-bool TakeFile(const ShippedFile& file, ShippedState& state, const UpdateCatalog& updateCatalog)
+bool IsCatalog(const std::string& name)
 {
-    std::error_code unknown;
-    const bool isThere = fs::exists(platform::NativePath(file.Target()), unknown);
-    if (unknown)
-        return false;
-    if (!isThere && state.given.contains(file.name))
-        return true; // the user deleted it
-    if (!isThere && !WriteShipped(file))
-        return false;
-    state.given.insert(file.name);
-    const bool isCatalog =
-        std::find(std::begin(ShippedCatalogs), std::end(ShippedCatalogs), file.name)
-        != std::end(ShippedCatalogs);
-    return isCatalog ? updateCatalog(file, state.facts) : UpdateFile(file, state.facts);
+    return std::find(std::begin(CatalogNames), std::end(CatalogNames), name)
+        != std::end(CatalogNames);
 }
+
+/// One start's work over a folder.
+class Taking {
+public:
+    Taking(const AppFolders& folders, const CatalogRules& rules, std::string_view version,
+        const ShippedState& before)
+        : m_folders(folders)
+        , m_rules(rules)
+        , m_version(version)
+        , m_before(before)
+        , m_now(before)
+    {
+        m_now.version = version;
+    }
+
+    void Run(const Shipment& shipment)
+    {
+        for (const auto& [name, begun] : m_before.begun)
+            if (begun.isAgain || !shipment.contains(name))
+                TakeForDone(name);
+        for (const auto& [name, identity] : shipment)
+            if (!IsSeen(m_now, name, identity) || m_now.begun.contains(name))
+                Plan(name, identity);
+        ShippedState intent = m_now;
+        for (const Work& work : m_works) {
+            const auto begun = m_before.begun.find(work.file.name);
+            const bool isAgain = begun != m_before.begun.end() && !begun->second.isAgain;
+            intent.begun[work.file.name] = { .isAgain = isAgain, .facts = FactsOf(work.file) };
+        }
+        if (!WriteShippedState(m_folders.work, m_before, intent))
+            return;
+        for (const Work& work : m_works)
+            if (Perform(work))
+                Note(work.file.name, work.identity);
+        WriteShippedState(m_folders.work, intent, m_now);
+    }
+
+private:
+    struct Work {
+        ShippedFile file;
+        FileIdentity identity;
+        Verdict verdict = Verdict::Write;
+    };
+
+    void TakeForDone(const std::string& name)
+    {
+        m_now.given.insert(name);
+        m_now.facts.merge(m_now.begun[name].facts);
+        m_now.begun.erase(name);
+    }
+
+    Verdict Judge(const ShippedFile& file) const
+    {
+        std::error_code unknown;
+        const bool isThere = fs::exists(platform::NativePath(file.Target()), unknown);
+        const bool wasGiven = m_now.given.contains(file.name);
+        const bool isCatalog = IsCatalog(file.name);
+        if (unknown)
+            return Verdict::Later;
+        if (!isThere && !wasGiven)
+            return Verdict::Write;
+        if (!isThere) // A catalog that the user makes later gets what it has missed.
+            return isCatalog ? Verdict::Nothing : Verdict::Learn;
+        if (!isCatalog)
+            return JudgeContent(file, m_now, m_version);
+        // Nobody knows what a folder from before the state was given, but everybody that this one
+        // was never given the file.
+        const bool wasNeverGiven = !wasGiven && !m_before.version.empty();
+        return wasNeverGiven || m_now.facts.contains(KnownFact(file.name)) ? Verdict::Merge
+                                                                           : Verdict::Learn;
+    }
+
+    std::set<std::string> FactsOf(const ShippedFile& file) const
+    {
+        std::set<std::string> facts = IsCatalog(file.name)
+            ? m_rules.facts(file)
+            : std::set<std::string>{ ContentFact(file.name, file.bytes) };
+        facts.insert(KnownFact(file.name));
+        return facts;
+    }
+
+    void Plan(const std::string& name, const FileIdentity& identity)
+    {
+        const std::string from = platform::Utf8Path(
+            platform::NativePath(m_folders.shipped) / platform::NativePath(name));
+        auto bytes = platform::ReadWholeFile(from);
+        if (!bytes || platform::IdentityOf(from) != identity)
+            return; // it is being installed, perhaps
+        ShippedFile file{ name, std::move(*bytes), m_folders.work };
+        const Verdict verdict = Judge(file);
+        if (verdict != Verdict::Later)
+            m_now.begun.erase(name);
+        if (verdict == Verdict::Write || verdict == Verdict::Merge) {
+            m_works.push_back({ std::move(file), identity, verdict });
+        } else if (verdict != Verdict::Later) {
+            if (verdict == Verdict::Learn)
+                m_now.facts.merge(FactsOf(file));
+            Note(name, identity);
+        }
+    }
+
+    /// False: the user's file is as it was.
+    bool Perform(const Work& work)
+    {
+        const ShippedFile& file = work.file;
+        if (Judge(file) != work.verdict)
+            return false; // another program was there meanwhile
+        if (work.verdict == Verdict::Merge ? !m_rules.merge(file, m_now.facts) : !Write(file))
+            return false;
+        if (work.verdict == Verdict::Write)
+            m_now.facts.merge(FactsOf(file));
+        m_now.facts.insert(KnownFact(file.name));
+        return true;
+    }
+
+    static bool Write(const ShippedFile& file)
+    {
+        std::error_code ignored;
+        fs::create_directories(platform::NativePath(file.Target()).parent_path(), ignored);
+        return !platform::ReplaceFile(file.Target(), file.bytes);
+    }
+
+    /// The file was dealt with.
+    void Note(const std::string& name, const FileIdentity& identity)
+    {
+        m_now.given.insert(name);
+        if (platform::HasRested(identity))
+            m_now.seen[name] = { .version = m_version, .identity = TextOfIdentity(identity) };
+    }
+
+    const AppFolders& m_folders;
+    const CatalogRules& m_rules;
+    const std::string m_version;
+    const ShippedState& m_before;
+    ShippedState m_now;
+    std::vector<Work> m_works;
+};
 
 } // namespace
 
@@ -150,10 +221,8 @@ std::string ShippedFile::Target() const
     return platform::Utf8Path(platform::NativePath(folder) / platform::NativePath(name));
 }
 
-std::string KnownFact(std::string_view name) { return "known\t" + std::string(name); }
-
 void TakeShippedFiles(
-    const AppFolders& folders, const UpdateCatalog& updateCatalog, std::string_view version)
+    const AppFolders& folders, const CatalogRules& rules, std::string_view version)
 {
     if (folders.shipped.empty())
         return;
@@ -162,22 +231,11 @@ void TakeShippedFiles(
     if (early && HasNothingToDo(*early, shipment, version))
         return;
     const CopiesGate gate(folders.work); // or a second copy could go on without the catalogs
+    if (gate.IsAnothers())
+        return; // of two that write the state one would drop what the other has learnt
     const auto before = ReadShippedState(folders.work);
-    if (!before || HasNothingToDo(*before, shipment, version))
-        return;
-    ShippedState now = *before;
-    for (const auto& [name, identity] : shipment) {
-        if (IsSeen(now, name, identity))
-            continue;
-        const std::string from =
-            platform::Utf8Path(platform::NativePath(folders.shipped) / platform::NativePath(name));
-        auto bytes = platform::ReadWholeFile(from);
-        if (bytes && TakeFile({ name, std::move(*bytes), folders.work }, now, updateCatalog)
-            && platform::HasRested(identity))
-            now.seen[name] = TextOfIdentity(identity);
-    }
-    now.version = version;
-    WriteShippedState(folders.work, *before, now);
+    if (before && !HasNothingToDo(*before, shipment, version))
+        Taking(folders, rules, version, *before).Run(shipment);
 }
 
 } // namespace vypx

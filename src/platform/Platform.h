@@ -88,6 +88,17 @@ bool FolderIsWritable(const std::string& folder);
 /// lock the folder's owner out. Not on Windows.
 bool IsForeignToRoot(const std::string& folder);
 
+/// The home of the user whose rights this process has, as the system's list of users has it. Empty
+/// where there is none, and on Windows.
+std::string HomeOfThisUser();
+
+/// A failure to make or use a folder, in words for the user: its path in UTF-8, and why.
+struct FolderFailure {
+    std::string path; ///< empty where there was none to be tried
+    std::string reason;
+};
+FolderFailure ExplainFolderFailure(const std::filesystem::filesystem_error& error);
+
 /// A lock on a file that lives as long as this object and never longer than the process: the
 /// system frees it after a crash as well. Other processes and other objects of this process are
 /// kept out alike. The file stays empty. One that is deleted meanwhile locks nobody out any more.

@@ -93,6 +93,11 @@ Refusal ExplainRefusal(const std::string& path, std::error_code error)
     return { Utf8Path(folder), error.message() };
 }
 
+FolderFailure ExplainFolderFailure(const fs::filesystem_error& error)
+{
+    return { Utf8Path(error.path1()), error.code().message() };
+}
+
 std::int64_t NanosecondsFromFileTime(std::uint64_t ticks)
 {
     constexpr std::int64_t TicksTo1970 = 116'444'736'000'000'000;

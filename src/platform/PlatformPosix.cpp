@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
+#include <pwd.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -229,6 +230,12 @@ bool IsForeignToRoot(const std::string& folder)
 {
     struct stat status { };
     return ::geteuid() == 0 && ::stat(folder.c_str(), &status) == 0 && status.st_uid != 0;
+}
+
+std::string HomeOfThisUser()
+{
+    const passwd* const user = ::getpwuid(::geteuid());
+    return user && user->pw_dir ? user->pw_dir : std::string();
 }
 
 std::uint64_t ProcessNumber() { return static_cast<std::uint64_t>(::getpid()); }

@@ -160,6 +160,8 @@ void FileLock::Unlock()
 
 bool IsForeignToRoot(const std::string&) { return false; }
 
+std::string HomeOfThisUser() { return {}; }
+
 std::uint64_t ProcessNumber() { return ::GetCurrentProcessId(); }
 
 } // namespace vypx::platform

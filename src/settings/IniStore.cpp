@@ -71,6 +71,13 @@ Kept& Look(const std::string& path)
     return kept;
 }
 
+bool IsUnreadable(const Kept& kept, const std::string& path)
+{
+    std::error_code unknown;
+    return !kept.identity
+        && (std::filesystem::exists(platform::NativePath(path), unknown) || unknown);
+}
+
 } // namespace
 
 std::shared_ptr<const IniText> ReadIni(const std::string& path)
@@ -80,14 +87,19 @@ std::shared_ptr<const IniText> ReadIni(const std::string& path)
     return Look(path).text;
 }
 
+std::shared_ptr<const IniText> ReadIniOrNull(const std::string& path)
+{
+    const Kept& kept = Look(path);
+    return IsUnreadable(kept, path) ? nullptr : kept.text;
+}
+
 bool EditIni(const std::string& path, const std::function<bool(IniText&)>& edit)
 {
     if (path.empty())
         return false;
     const platform::Turn turn(LockFileOf(path), platform::Turn::LockFile::Stays);
     const Kept& kept = Look(path);
-    std::error_code ignored;
-    if (!kept.identity && std::filesystem::exists(platform::NativePath(path), ignored))
+    if (IsUnreadable(kept, path))
         return false; // what can't be read must not be replaced
     IniText text = *kept.text;
     if (!edit(text))

@@ -15,6 +15,8 @@ inline constexpr std::size_t MaxIniSize = 64u << 20;
 /// there is no such file or it can't be read. A file that has not changed since the last look is
 /// not parsed again, so a look-up costs one question to the file system.
 std::shared_ptr<const IniText> ReadIni(const std::string& path);
+/// The same, but null where there is a file that can't be read.
+std::shared_ptr<const IniText> ReadIniOrNull(const std::string& path);
 
 /// Applies `edit` to the file's text and replaces the file in one step; makes the file if it is
 /// missing. Two programs that edit one file at once don't lose each other's changes: they take

@@ -99,6 +99,39 @@ TEST_F(ShippedCatalogFiles, ThatTheUserMadeReadOnlyStayUntilTheyAreNot)
 
 #endif
 
+TEST_F(ShippedCatalogFiles, WaitForTheOtherOneThatCannotBeRead)
+{
+    Ship("PalmApp.dat", "");
+    Bring("AppList.dat", "");
+    DeleteOwn("PalmApp.dat");
+    fs::create_directory(user.File("PalmApp.dat"));
+
+    Bring("AppList.dat", Owner("Hand", "HAND") + Owner("New", "NEWA"));
+    EXPECT_EQ(Own("AppList.dat"), "");
+    DeleteOwn("PalmApp.dat");
+    WriteOwn("PalmApp.dat", Owner("Palm by hand", "HAND"));
+    StartLater();
+
+    EXPECT_EQ(Own("AppList.dat"), Owner("New", "NEWA"));
+}
+
+TEST_F(ShippedCatalogFiles, WithManySectionsOfOneNameAreReadOnceEach)
+{
+    std::string own = "[Long (Large Icon)]\n";
+    for (int i = 0; i < 20000; ++i)
+        own += "k" + std::to_string(i) + "=1\n";
+    for (int i = 0; i < 20000; ++i)
+        own += "[long (large icon)]\n";
+    const IniText newer(LauncherItem("New (Large Icon)", "2004"));
+    IniText text(own);
+
+    const auto learnt =
+        AddShippedEntries(CatalogForm::Launcher, "VY_Icons.dat", newer, {}, {}, text);
+
+    EXPECT_TRUE(learnt.empty()) << "there is no room behind so many";
+    EXPECT_EQ(text.Bytes(), own);
+}
+
 TEST_F(ShippedCatalogFiles, OfAnyBytesHarmNobody)
 {
     std::string garbage("\0[\xFF]\x01=\n\n]=[\r", 13);
@@ -125,10 +158,33 @@ TEST_F(ShippedCatalogFiles, ThatAreTooLargeAreNotReplaced)
     EXPECT_EQ(fs::file_size(user.File("AppList.dat")), size - 5) << "it could not be read then";
 }
 
+TEST_F(ShippedCatalogFiles, ThatWereMergedShowNoBoxAtAStart)
+{
+    Ship("VY_Icons.dat", LauncherItem("Start (Large Icon)", "2000"));
+    Ship("PalmApp.dat", Owner("Palm Clock", "CLCK"));
+    Bring("AppList.dat", "");
+    WriteOwn("AppList.dat", Owner("Mine", "MINE") + "[Own panel]\nType=panl\nCreator={PANL}\n");
+    WriteOwn("PalmApp.dat", Owner("Palm Own", "POWN"));
+    const std::string added = Owner("Their mine", "MINE") + Owner("Their panel", "PANL")
+        + "[Their own]\nType=panl\nCreator={POWN}\n" + Owner("New", "NEWA");
+    Ship("PalmApp.dat", Owner("Palm Clock", "CLCK") + added);
+    Bring("AppList.dat", added);
+
+    std::vector<std::string> boxes;
+    AppFolder = user.Path();
+    ReadCatalogs([&](std::string_view text) { boxes.emplace_back(text); });
+    AppFolder.clear();
+    ResetCatalogs();
+
+    EXPECT_THAT(boxes, IsEmpty());
+    EXPECT_THAT(Own("AppList.dat"), EndsWith(Owner("New", "NEWA")));
+    EXPECT_EQ(Own("PalmApp.dat"), Owner("Palm Own", "POWN"));
+}
+
 TEST_F(ShippedCatalogFiles, ThatAProgramShipsComeToAUserWithoutADuplicate)
 {
     const std::string data(VYPX_SHIPPED_DATA);
-    TakeShippedFiles({ .work = user.Path(), .shipped = data }, UpdateShippedCatalog);
+    TakeShippedFiles({ .work = user.Path(), .shipped = data }, ShippedCatalogRules);
 
     std::vector<std::string> boxes;
     AppFolder = user.Path();

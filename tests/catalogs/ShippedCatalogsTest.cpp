@@ -84,12 +84,25 @@ TEST_F(CatalogsOfANewVersion, ReadACreatorWithoutBracesAsTheirReadersDo)
     EXPECT_EQ(Merged(own, Owner("Other", "ONEA") + Owner("Third", "AB  ")), own);
 }
 
-TEST_F(CatalogsOfANewVersion, GetAnEntryOfAnotherTypeOrAnotherCaseOfTheCreator)
+TEST_F(CatalogsOfANewVersion, GetAnEntryWithAnotherCaseOfTheCreator)
 {
-    const std::string panel = "[Panel]\nType=panl\nCreator={ONEA}\n";
+    EXPECT_EQ(Merged(Owner("Mine", "ONEA"), Owner("Small", "oneA")),
+        Owner("Mine", "ONEA") + Owner("Small", "oneA"));
+}
 
-    EXPECT_EQ(Merged(Owner("Mine", "ONEA"), panel + Owner("Small", "oneA")),
-        Owner("Mine", "ONEA") + panel + Owner("Small", "oneA"));
+TEST_F(CatalogsOfANewVersion, GetNoEntryOfAnotherTypeWithACreatorThatIsThere)
+{
+    const std::string panels =
+        "[Panel]\nType=panl\nCreator={ONEA}\n[Other panel]\nType=panl\nCreator={TWOA}\n";
+    Ship("PalmApp.dat", "");
+    Bring("AppList.dat", "");
+    WriteOwn("AppList.dat", Owner("Mine", "ONEA"));
+    WriteOwn("PalmApp.dat", "[Untyped]\nCreator={TWOA}\n");
+
+    Bring(
+        "AppList.dat", panels + Owner("New", "NEWA") + "[New panel]\nType=panl\nCreator={NEWA}\n");
+
+    EXPECT_EQ(Own("AppList.dat"), Owner("Mine", "ONEA") + Owner("New", "NEWA"));
 }
 
 TEST_F(CatalogsOfANewVersion, GetNothingThatTheOtherCatalogTellsAlready)

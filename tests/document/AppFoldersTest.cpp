@@ -6,6 +6,7 @@
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
+#include <iterator>
 #ifndef _WIN32
 #include <unistd.h>
 #endif
@@ -51,8 +52,6 @@ TEST(AppFolders, WhereNeitherCanBeWrittenItIsTheProgramsFolder)
             << user;
 }
 
-#ifndef _WIN32 // where data stand beside the program in any layout
-
 /// An installation in a folder of its own, as this process's user, who may be root, can write it.
 class InstalledCopy : public ::testing::Test {
 protected:
@@ -60,13 +59,19 @@ protected:
     {
         fs::create_directories(Programs());
         fs::create_directories(Data());
-        WriteText(Data() + "/AppList.dat", "[Shipped]\n");
     }
 
     std::string Programs() const { return root.File("usr/bin"); }
-    std::string Data() const
+    std::string Data() const { return DataOf(Programs()); }
+    static std::string DataOf(const std::string& programs)
     {
-        return (fs::path(Programs()) / DataFromPrograms).lexically_normal().string();
+        const fs::path data = (fs::path(programs) / DataFromPrograms).lexically_normal();
+        return fs::weakly_canonical(data).string();
+    }
+    static std::size_t Entries(const std::string& folder)
+    {
+        const fs::recursive_directory_iterator begin(folder);
+        return static_cast<std::size_t>(std::distance(begin, fs::recursive_directory_iterator()));
     }
 
     TempFolder root, user;
@@ -74,24 +79,36 @@ protected:
 
 TEST_F(InstalledCopy, WorksInTheUsersFolderThoughItsOwnCanBeWritten)
 {
+    const std::size_t before = Entries(root.Path());
+
     const AppFolders folders = ResolveAppFolders(Programs(), user.File("a/data"));
 
     EXPECT_EQ(folders, (AppFolders{ .work = user.File("a/data"), .shipped = Data() }));
     EXPECT_TRUE(fs::is_directory(user.File("a/data")));
-    EXPECT_TRUE(fs::is_empty(Programs()));
+    EXPECT_EQ(Entries(root.Path()), before);
 }
 
-TEST_F(InstalledCopy, IsNoneWhereDataStandBesideTheProgram)
+TEST_F(InstalledCopy, IsOneWhateverStandsBesideTheProgram)
 {
-    WriteText(Programs() + "/AppList.dat", "[Beside]\n");
+    WriteText(Programs() + "/AppList.dat", "[Stray]\n");
 
+    EXPECT_EQ(ResolveAppFolders(Programs(), user.File("data")).work, user.File("data"));
+}
+
+TEST_F(InstalledCopy, IsOneWhateverItsDataLack)
+{
+    ASSERT_TRUE(fs::is_empty(Data()));
+
+    EXPECT_EQ(ResolveAppFolders(Programs(), user.File("data")),
+        (AppFolders{ .work = user.File("data"), .shipped = Data() }));
+}
+
+TEST_F(InstalledCopy, IsNoneWithoutAFolderOfData)
+{
+    fs::remove(Data());
     EXPECT_EQ(ResolveAppFolders(Programs(), user.File("data")).work, Programs());
-}
 
-TEST_F(InstalledCopy, IsNoneWithoutData)
-{
-    fs::remove(Data() + "/AppList.dat");
-
+    WriteText(Data(), "");
     EXPECT_EQ(ResolveAppFolders(Programs(), user.File("data")).work, Programs());
 }
 
@@ -111,6 +128,17 @@ TEST_F(InstalledCopy, WorksBehindALinkInPlaceOfTheUsersFolder)
     EXPECT_EQ(ResolveAppFolders(Programs(), user.File("data")).work, user.File("data"));
 }
 
+#ifndef _WIN32
+
+TEST_F(InstalledCopy, BehindALinkToItsProgramsFindsItsDataWhereTheyStand)
+{
+    fs::create_directories(root.File("opt/pixelworks/elsewhere"));
+    fs::create_directory_symlink(Programs(), root.File("opt/pixelworks/elsewhere/bin"));
+
+    EXPECT_EQ(ResolveAppFolders(root.File("opt/pixelworks/elsewhere/bin"), user.File("data")),
+        (AppFolders{ .work = user.File("data"), .shipped = Data() }));
+}
+
 TEST_F(InstalledCopy, LeavesAUsersFolderThatCannotBeWrittenAsItIs)
 {
     fs::create_directory(user.File("data"));
@@ -123,16 +151,54 @@ TEST_F(InstalledCopy, LeavesAUsersFolderThatCannotBeWrittenAsItIs)
     fs::permissions(user.File("data"), fs::perms::owner_all);
 }
 
-TEST_F(InstalledCopy, StartedByRootMakesNothingInTheFolderOfAnotherUser)
-{
-    if (::geteuid() != 0)
-        GTEST_SKIP() << "takes root";
-    constexpr uid_t Nobody = 65534;
-    ASSERT_EQ(::chown(user.Path().c_str(), Nobody, Nobody), 0);
+/// Started by root with the folder of a common user for its own.
+class InstalledCopyOfRoot : public InstalledCopy {
+protected:
+    void SetUp() override
+    {
+        if (::geteuid() != 0)
+            GTEST_SKIP() << "takes root";
+        GiveAway(user);
+    }
+    static void GiveAway(const TempFolder& folder)
+    {
+        constexpr uid_t Nobody = 65534;
+        ASSERT_EQ(::chown(folder.Path().c_str(), Nobody, Nobody), 0);
+    }
 
-    EXPECT_THROW(ResolveAppFolders(Programs(), user.File(".local/data")), fs::filesystem_error);
+    TempFolder home;
+};
+
+TEST_F(InstalledCopyOfRoot, WorksBelowRootsHome)
+{
+    const std::string own = home.File(".local/share/vy-pixelworks");
+
+    const AppFolders folders =
+        ResolveAppFolders(Programs(), user.File(".local/share/vy-pixelworks"), home.Path());
+
+    EXPECT_EQ(folders, (AppFolders{ .work = own, .shipped = Data() }));
+    EXPECT_TRUE(fs::is_directory(own));
+    EXPECT_TRUE(fs::is_empty(user.Path()));
+}
+
+TEST_F(InstalledCopyOfRoot, WorksNowhereWithoutAHomeOfRoots)
+{
+    GiveAway(home);
+    WriteText(root.File("file"), "");
+    for (const std::string& none : { home.Path(), std::string(), root.File("file") })
+        EXPECT_THROW(ResolveAppFolders(Programs(), user.File("a/data"), none), fs::filesystem_error)
+            << none;
 
     EXPECT_TRUE(fs::is_empty(user.Path()));
+    EXPECT_TRUE(fs::is_empty(home.Path()));
+}
+
+TEST_F(InstalledCopyOfRoot, WorksInAFolderOfRootsWhereverItIs)
+{
+    const TempFolder own;
+
+    EXPECT_EQ(ResolveAppFolders(Programs(), own.File("data"), home.Path()).work, own.File("data"));
+    EXPECT_TRUE(fs::is_empty(home.Path()));
 }
 
 #endif

@@ -1,10 +1,5 @@
-#include "document/RunningCopies.h"
-
 #include "support/CommonUser.h"
 #include "support/ShippedFixture.h"
-
-#include <future>
-#include <memory>
 
 namespace vypx::test {
 
@@ -31,7 +26,7 @@ TEST_F(ShippedFiles, AreGivenAtTheFirstStart)
 
 TEST_F(ShippedFiles, AreNoneForAFolderOfTheProgramsOwn)
 {
-    TakeShippedFiles({ .work = user.Path(), .shipped = "" }, UpdateShippedCatalog);
+    TakeShippedFiles({ .work = user.Path(), .shipped = "" }, ShippedCatalogRules);
 
     EXPECT_TRUE(fs::is_empty(user.Path()));
 }
@@ -114,6 +109,95 @@ TEST_F(ShippedFiles, ThatTheUserHasChangedStayAtEveryLaterVersion)
     EXPECT_EQ(Own("TIPOFDAY.TXT"), "newest\n");
 }
 
+TEST_F(ShippedFiles, OfAnEarlierVersionComeWhenALaterOneShipsThemAgain)
+{
+    const std::pair<const char*, const char*> versions[] = { { "1.0.0", "A" }, { "1.1.0", "B" },
+        { "1.2.0", "A" }, { "1.3.0", "B" } };
+    for (const auto& [version, text] : versions) {
+        Ship("TIPOFDAY.TXT", text);
+        StartLater(version);
+
+        EXPECT_EQ(Own("TIPOFDAY.TXT"), text) << version;
+    }
+}
+
+TEST_F(ShippedFiles, ThatTheUserPutsBackAreReplacedAgain)
+{
+    Ship("TIPOFDAY.TXT", "A");
+    StartLater("1.0.0");
+    WriteOwn("TIPOFDAY.TXT", "mine");
+    Ship("TIPOFDAY.TXT", "B");
+    StartLater("1.1.0");
+    ASSERT_EQ(Own("TIPOFDAY.TXT"), "mine");
+    WriteOwn("TIPOFDAY.TXT", "B"); // what that version ships
+    Ship("TIPOFDAY.TXT", "C");
+
+    StartLater("1.2.0");
+
+    EXPECT_EQ(Own("TIPOFDAY.TXT"), "C");
+}
+
+TEST_F(ShippedFiles, OfAFolderThatTheUserHasDeletedComeNoMoreButNewOnes)
+{
+    Ship("samples/one.prc", "1");
+    Ship("samples/drawings/two.svg", "2");
+    Start("1.0.0");
+    fs::remove_all(user.File("samples"));
+    Ship("samples/one.prc", "1 changed");
+    Ship("samples/drawings/three.svg", "3");
+
+    StartLater("1.1.0");
+
+    EXPECT_EQ(Own("samples/drawings/three.svg"), "3");
+    EXPECT_FALSE(Has("samples/one.prc"));
+    EXPECT_FALSE(Has("samples/drawings/two.svg"));
+}
+
+TEST_F(ShippedFiles, OfOneInstalledCopyAreEachUsersOwn)
+{
+    const TempFolder second;
+    const auto startSecond = [&](std::string_view version) {
+        TakeShippedFiles(
+            { .work = second.Path(), .shipped = shipped.Path() }, ShippedCatalogRules, version);
+    };
+    Ship("AppList.dat", Owner("One", "ONEA"));
+    Ship("TIPOFDAY.TXT", "old\n");
+    Start("1.0.0");
+    startSecond("1.0.0");
+    WriteOwn("AppList.dat", Owner("Mine", "MINE"));
+    WriteText(second.File("TIPOFDAY.TXT"), "theirs\n");
+    Ship("AppList.dat", Owner("One", "ONEA") + Owner("New", "NEWA"));
+    Ship("TIPOFDAY.TXT", "new\n");
+
+    StartLater("1.1.0");
+    startSecond("1.1.0");
+
+    EXPECT_EQ(Own("AppList.dat"), Owner("Mine", "MINE") + Owner("New", "NEWA"));
+    EXPECT_EQ(Own("TIPOFDAY.TXT"), "new\n");
+    EXPECT_EQ(ReadText(second.File("TIPOFDAY.TXT")), "theirs\n");
+    EXPECT_EQ(ReadText(shipped.File("TIPOFDAY.TXT")), "new\n");
+}
+
+TEST_F(ShippedFiles, AllComeBackWithoutTheUsersAndWhatIsKnownOfThem)
+{
+    Ship("AppList.dat", Owner("One", "ONEA"));
+    Ship("TIPOFDAY.TXT", "tip\n");
+    Ship("samples/set.prc", "set");
+    StartLater();
+    WriteOwn("AppList.dat", "");
+    DeleteOwn("samples/set.prc");
+    StartLater();
+    ASSERT_FALSE(Has("samples/set.prc"));
+
+    for (const char* name : { "AppList.dat", "TIPOFDAY.TXT", "shipped.txt", "shipped-state.txt" })
+        DeleteOwn(name);
+    StartLater();
+
+    EXPECT_EQ(Own("AppList.dat"), Owner("One", "ONEA"));
+    EXPECT_EQ(Own("TIPOFDAY.TXT"), "tip\n");
+    EXPECT_EQ(Own("samples/set.prc"), "set");
+}
+
 TEST_F(ShippedFiles, ThatTheUserHasDeletedDoNotComeBack)
 {
     Ship("TIPOFDAY.TXT", "old\n");
@@ -171,131 +255,6 @@ TEST_F(ShippedFiles, OfTwoCopiesOfOneVersionInTurnAreNotReplacedToAndFro)
 
     EXPECT_EQ(Own("TIPOFDAY.TXT"), "other\n");
     EXPECT_EQ(platform::IdentityOf(user.File("TIPOFDAY.TXT")), before);
-}
-
-TEST_F(ShippedFiles, ThatHaveNotChangedAreNotLookedAtAgain)
-{
-    Ship("AppList.dat", Owner("One", "ONEA"));
-    Ship("samples/set.prc", "set");
-    StartLater();
-    StartLater();
-    const auto state = platform::IdentityOf(user.File("shipped-state.txt"));
-    DeleteOwn("copies.lock"); // which a start that goes to work makes
-    DeleteOwn("ini.lock");
-
-    StartLater();
-
-    EXPECT_EQ(platform::IdentityOf(user.File("shipped-state.txt")), state);
-    EXPECT_FALSE(Has("copies.lock"));
-    EXPECT_FALSE(Has("ini.lock"));
-}
-
-TEST_F(ShippedFiles, GivenByAVersionThatKeptOnlyTheirNamesAreAllTheUsers)
-{
-    Ship("TIPOFDAY.TXT", "new\n");
-    Ship("VYPX.chm", "help");
-    Ship("PalmApp.dat", Owner("Palm Clock", "CLCK") + Owner("Palm Gone", "GONE"));
-    WriteOwn("shipped.txt", "PalmApp.dat\nTIPOFDAY.TXT\nVYPX.chm\n");
-    WriteOwn("TIPOFDAY.TXT", "old or changed\n");
-    WriteOwn("PalmApp.dat", Owner("Palm Clock", "CLCK"));
-
-    StartLater();
-
-    EXPECT_EQ(Own("TIPOFDAY.TXT"), "old or changed\n");
-    EXPECT_EQ(Own("PalmApp.dat"), Owner("Palm Clock", "CLCK")) << "one may have been deleted";
-    EXPECT_FALSE(Has("VYPX.chm"));
-
-    Ship("PalmApp.dat",
-        Owner("Palm Clock", "CLCK") + Owner("Palm Gone", "GONE") + Owner("Palm New", "NEWA"));
-    StartLater();
-    EXPECT_EQ(Own("PalmApp.dat"), Owner("Palm Clock", "CLCK") + Owner("Palm New", "NEWA"));
-}
-
-TEST_F(ShippedFiles, OfWhichNothingIsKnownStayAndOnlyWhatIsMissingIsGiven)
-{
-    Ship("AppList.dat", "[Shipped]\n");
-    Ship("PalmApp.dat", "[Palm]\n");
-    Ship("TIPOFDAY.TXT", "tip\n");
-    WriteOwn("AppList.dat", "[Mine]\n");
-    WriteOwn("TIPOFDAY.TXT", "mine\n");
-
-    Start();
-
-    EXPECT_EQ(Own("AppList.dat"), "[Mine]\n");
-    EXPECT_EQ(Own("PalmApp.dat"), "[Palm]\n");
-    EXPECT_EQ(Own("TIPOFDAY.TXT"), "mine\n");
-}
-
-TEST_F(ShippedFiles, AreLeftAloneWhereWhatWasGivenCannotBeRead)
-{
-    for (const char* name : { "shipped.txt", "shipped-state.txt" }) {
-        fs::create_directory(user.File(name));
-        Ship("TIPOFDAY.TXT", "tip\n");
-
-        Start();
-
-        EXPECT_FALSE(Has("TIPOFDAY.TXT")) << "or what the user deleted would come back: " << name;
-        DeleteOwn(name);
-    }
-    Start();
-    EXPECT_TRUE(Has("TIPOFDAY.TXT"));
-}
-
-TEST_F(ShippedFiles, SurviveAnythingInTheFileOfWhatWasGiven)
-{
-    Ship("TIPOFDAY.TXT", "tip\n");
-    Start();
-    for (const std::string& state :
-        { std::string(3000, '\0'), std::string("seen \nseen x\nversion"),
-            std::string("version 99999999999999999999.x\n"), std::string("\tTIPOFDAY.TXT") }) {
-        WriteOwn("shipped-state.txt", state);
-        WriteOwn("TIPOFDAY.TXT", "mine\n");
-
-        StartLater();
-
-        EXPECT_EQ(Own("TIPOFDAY.TXT"), "mine\n");
-    }
-}
-
-#ifndef _WIN32
-
-TEST_F(ShippedFiles, InPlaceOfWhichAFolderOrALinkStandsAreNotForced)
-{
-    Ship("TIPOFDAY.TXT", "old\n");
-    Ship("VYPX.chm", "old");
-    Start();
-    DeleteOwn("TIPOFDAY.TXT");
-    fs::create_directory(user.File("TIPOFDAY.TXT"));
-    fs::rename(user.File("VYPX.chm"), user.File("elsewhere.chm"));
-    fs::create_symlink("elsewhere.chm", user.File("VYPX.chm"));
-    Ship("TIPOFDAY.TXT", "new\n");
-    Ship("VYPX.chm", "new");
-
-    StartLater();
-
-    EXPECT_TRUE(fs::is_empty(user.File("TIPOFDAY.TXT")));
-    EXPECT_TRUE(fs::is_symlink(user.File("VYPX.chm")));
-    EXPECT_EQ(Own("elsewhere.chm"), "new");
-    fs::remove(user.File("TIPOFDAY.TXT"));
-    WriteOwn("TIPOFDAY.TXT", "old\n");
-    StartLater();
-    EXPECT_EQ(Own("TIPOFDAY.TXT"), "new\n") << "what could not be done is done as soon as it can";
-}
-
-#endif
-
-TEST_F(ShippedFiles, AreWaitedForWhileAnotherCopyGivesThem)
-{
-    Ship("AppList.dat", "[First]\n");
-    auto another = std::make_unique<CopiesGate>(user.Path());
-    std::future<void> start = std::async(std::launch::async, [&] { Start(); });
-
-    EXPECT_EQ(start.wait_for(std::chrono::milliseconds(100)), std::future_status::timeout);
-    WriteOwn("AppList.dat", "[Filled by another]\n");
-    another.reset();
-    start.get();
-
-    EXPECT_EQ(Own("AppList.dat"), "[Filled by another]\n");
 }
 
 } // namespace

@@ -11,6 +11,6 @@ int main(int argc, char** argv)
 {
     if (argc != 3)
         return 2;
-    vypx::TakeShippedFiles({ .work = argv[2], .shipped = argv[1] }, vypx::UpdateShippedCatalog);
+    vypx::TakeShippedFiles({ .work = argv[2], .shipped = argv[1] }, vypx::ShippedCatalogRules);
     return 0;
 }

@@ -19,7 +19,7 @@ protected:
     void Start(std::string_view version = "2.0.0") const
     {
         TakeShippedFiles(
-            { .work = user.Path(), .shipped = shipped.Path() }, UpdateShippedCatalog, version);
+            { .work = user.Path(), .shipped = shipped.Path() }, ShippedCatalogRules, version);
     }
     /// A later start, at which what was written before has rested.
     void StartLater(std::string_view version = "2.0.0") const

@@ -38,7 +38,7 @@ void Session::StartUp(const QString& programFolder, const QString& userFolder)
     ProgramFolder = programFolder.toStdString();
     const AppFolders folders = ResolveAppFolders(ProgramFolder, userFolder.toStdString());
     AppFolder = folders.work;
-    TakeShippedFiles(folders, UpdateShippedCatalog);
+    TakeShippedFiles(folders, ShippedCatalogRules);
     RememberPreviewColor = false;
     TransparentUse = true;
     m_settings.Load();

@@ -1,7 +1,10 @@
 #include "reader/ExtractBitmaps.h"
 
 #include "document/Document.h"
+#include "reader/PictureSink.h"
 #include "reader/ResourceList.h"
+
+#include <algorithm>
 
 namespace vypx {
 
@@ -37,8 +40,12 @@ void ExtractBitmaps(WalkState& walk, LoadListener& listener)
             walk.NextOffset = ReadDataOffset(walk.FCin + EntrySize);
             walk.ResourceSize = walk.NextOffset - walk.ResourceOffset;
         }
-        if (entry.type == "tAIB" || entry.type == "Tbmp")
-            LoadBitmapResource(walk, decoder, listener);
+        if (entry.type != "tAIB" && entry.type != "Tbmp")
+            continue;
+        const auto bytes = static_cast<std::size_t>(std::max(walk.ResourceSize, 0));
+        if (walk.pictures && !walk.pictures->GoOn(bytes))
+            break;
+        LoadBitmapResource(walk, decoder, listener);
     }
     listener.BusyEnded();
 }

@@ -17,17 +17,17 @@ namespace vypx {
 
 namespace {
 
-using json = nlohmann::ordered_json;
+using IndexJson = nlohmann::ordered_json;
 
-json TextOrNull(const std::string& latin1)
+IndexJson TextOrNull(const std::string& latin1)
 {
-    return latin1.empty() ? json(nullptr) : json(Utf8FromLatin1(latin1));
+    return latin1.empty() ? IndexJson(nullptr) : IndexJson(Utf8FromLatin1(latin1));
 }
 
 /// What the rows that show a resource are called, for each resource.
-std::map<std::string, json> IconsByResource()
+std::map<std::string, IndexJson> IconsByResource()
 {
-    std::map<std::string, json> icons;
+    std::map<std::string, IndexJson> icons;
     for (const IconRow& row : IconTable)
         if (!row.IconLabel.empty())
             icons[row.ResourceKey].push_back({ { "label", Utf8FromLatin1(row.IconLabel) },
@@ -36,36 +36,36 @@ std::map<std::string, json> IconsByResource()
     return icons;
 }
 
-void PutResource(json& entry, const PictureHeader& header)
+void PutResource(IndexJson& entry, const PictureHeader& header)
 {
     entry["resourceType"] = header.resourceKey.substr(0, 4);
     entry["resourceId"] = ResourceId(header.resourceKey);
     entry["density"] = header.highDensity ? "high" : "low";
 }
 
-json IndexOf(const std::vector<ExtractedPicture>& pictures)
+IndexJson IndexOf(const std::vector<ExtractedPicture>& pictures)
 {
-    const std::map<std::string, json> icons = IconsByResource();
-    json index{ { "databaseName", Utf8FromLatin1(DatabaseName) }, { "pictures", json::array() },
-        { "passedOver", json::array() } };
+    const std::map<std::string, IndexJson> icons = IconsByResource();
+    IndexJson index{ { "databaseName", Utf8FromLatin1(DatabaseName) },
+        { "pictures", IndexJson::array() }, { "passedOver", IndexJson::array() } };
     for (const ExtractedPicture& picture : pictures) {
         const PictureHeader& header = picture.header;
         if (picture.file.empty()) {
-            json& entry = index["passedOver"].emplace_back();
+            IndexJson& entry = index["passedOver"].emplace_back();
             PutResource(entry, header);
             entry["why"] = picture.whyNot;
             continue;
         }
-        json& entry = index["pictures"].emplace_back();
+        IndexJson& entry = index["pictures"].emplace_back();
         entry["file"] = picture.file;
         PutResource(entry, header);
         entry["width"] = header.width;
         entry["height"] = header.height;
         entry["depth"] = header.depth;
         entry["transparent"] =
-            header.transparent ? json(HexColour(*header.transparent)) : json(nullptr);
+            header.transparent ? IndexJson(HexColour(*header.transparent)) : IndexJson(nullptr);
         const auto rows = icons.find(header.resourceKey);
-        entry["icons"] = rows == icons.end() ? json::array() : rows->second;
+        entry["icons"] = rows == icons.end() ? IndexJson::array() : rows->second;
     }
     return index;
 }

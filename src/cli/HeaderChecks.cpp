@@ -18,7 +18,7 @@ namespace {
 ///       52     4 application info   offset of a block of its own; 0: none
 ///       56     4 sort info          the same
 ///       72     4 next list          offset of a further resource list; 0: none
-constexpr std::size_t AttributesOffset = 32, VersionOffset = 34, AppInfoOffset = 52,
+constexpr std::size_t AttributesOffset = 32, DatabaseVersionOffset = 34, AppInfoOffset = 52,
                       SortInfoOffset = 56, NextListOffset = 72;
 constexpr unsigned ResourceDatabase = 0x0001;
 
@@ -38,8 +38,6 @@ void CheckName(ByteView file, Findings& findings)
                 + "\": it ends before a character outside of 32 to 126");
 }
 
-std::string Number(std::uint64_t number) { return std::to_string(number); }
-
 /// What stands at that place of the list.
 void CheckPlace(
     ByteView file, const ListedResource& resource, std::size_t listEnd, Findings& findings)
@@ -47,8 +45,8 @@ void CheckPlace(
     const std::string name = resource.Name();
     if (resource.offset > file.Size())
         findings.Add(name,
-            "its data begin at " + Number(resource.offset) + ", behind the file's end at "
-                + Number(file.Size()));
+            "its data begin at " + std::to_string(resource.offset) + ", behind the file's end at "
+                + std::to_string(file.Size()));
     else if (resource.offset >= DataOffsetEnd)
         findings.Add(name, "its data begin behind 16 MiB, where other bytes are read for them");
     else if (resource.offset < listEnd)
@@ -61,8 +59,8 @@ void CheckPlace(
         findings.Add(name, "it is empty");
     if (resource.end >= resource.offset && size > LargestChunk)
         findings.Add(name,
-            "it has " + Number(size) + " bytes: a handheld takes no resource above "
-                + Number(LargestChunk));
+            "it has " + std::to_string(size) + " bytes: a handheld takes no resource above "
+                + std::to_string(LargestChunk));
 }
 
 std::string VersionText(ByteView data)
@@ -102,7 +100,7 @@ void CheckHeader(ByteView file, Findings& findings)
             "for another one");
     if ((attributes & ~ResourceDatabase) != 0)
         findings.Add("header", "a save keeps no attribute but that of a resource database");
-    if (file.U16(VersionOffset) > 1)
+    if (file.U16(DatabaseVersionOffset) > 1)
         findings.Add("header", "a save makes its version 1");
     if (file.U32(AppInfoOffset) != 0)
         findings.Add("header", "a save leaves the application info out");
@@ -115,10 +113,11 @@ void CheckHeader(ByteView file, Findings& findings)
         findings.Add("list", "there are no resources");
     if (count > std::size_t{ MaxResources })
         findings.Add("list",
-            "there are " + Number(count) + " resources, of which none is opened above "
-                + Number(MaxResources));
+            "there are " + std::to_string(count) + " resources, of which none is opened above "
+                + std::to_string(MaxResources));
     if (DatabaseHeaderSize + count * EntrySize > file.Size())
-        findings.Add("list", "the file ends within the list of " + Number(count) + " resources");
+        findings.Add(
+            "list", "the file ends within the list of " + std::to_string(count) + " resources");
 }
 
 void CheckList(ByteView file, std::span<const ListedResource> resources, Findings& findings)

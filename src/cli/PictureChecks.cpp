@@ -10,7 +10,7 @@ namespace {
 
 /// Fields of a record that only `validate` looks at: 9 its version; 14, of a high-density one, its
 /// density. 0x40 in the flags at 6: a colour table stands before the pixels.
-constexpr std::size_t VersionOffset = 9, DensityOffset = 14;
+constexpr std::size_t RecordVersionOffset = 9, DensityOffset = 14;
 constexpr int HighVersion = 3, MostLowVersion = 2, DoubleDensity = 144;
 constexpr std::uint8_t HasColourTable = 0x40, IsCompressed = 0x80;
 
@@ -53,8 +53,6 @@ Family FamilyOf(ByteView data)
     return family;
 }
 
-std::string Number(std::size_t number) { return std::to_string(number); }
-
 void CheckTransparency(const BitmapRecord& record, const std::string& place, Findings& findings)
 {
     const int depth = record.PixelSize();
@@ -72,7 +70,8 @@ void CheckPixels(const BitmapRecord& record, const std::string& place, Findings&
     if (record.Form() == Compression::None && pixels.start + needed > record.bytes.Size())
         findings.Add(place, "its pixels reach beyond the resource, where zeros are read");
     if (record.Width() * record.PixelSize() > record.RowBytes() * 8)
-        findings.Add(place, "its rows are too short for " + Number(record.Width()) + " pixels");
+        findings.Add(
+            place, "its rows are too short for " + std::to_string(record.Width()) + " pixels");
     if (record.RowBytes() % 2 != 0)
         findings.Add(place, "its rows have an odd number of bytes, which a handheld doesn't draw");
     if (record.Width() == 0 || record.Height() == 0)
@@ -83,7 +82,7 @@ void CheckPixels(const BitmapRecord& record, const std::string& place, Findings&
 void CheckShown(const Member& member, const std::string& place, Findings& findings)
 {
     const BitmapRecord& record = member.record;
-    const int depth = record.PixelSize(), version = record.bytes.U8(VersionOffset);
+    const int depth = record.PixelSize(), version = record.bytes.U8(RecordVersionOffset);
     const std::uint8_t flags = record.bytes.U8(6);
     if (depth != 1 && depth != 2 && depth != 4 && depth != 8 && depth != 16) {
         findings.Add(place, "it has " + std::to_string(depth) + " bits a pixel: it can't be read");
@@ -115,7 +114,7 @@ void CheckMembers(const std::vector<Member>& members, const Member& shown, const
 {
     if (members.size() > 1)
         findings.Add(place,
-            "it has " + Number(members.size()) + " depths, of which only that of "
+            "it has " + std::to_string(members.size()) + " depths, of which only that of "
                 + std::to_string(shown.record.PixelSize()) + " bits is read and kept");
     CheckShown(shown, place, findings);
 }

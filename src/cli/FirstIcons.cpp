@@ -64,11 +64,11 @@ bool FirstIcons::HasAll() const
     return m_kept.size() == m_most && m_kept.rbegin()->first < m_most;
 }
 
-bool FirstIcons::GoOn(std::size_t resourceBytes)
+bool FirstIcons::GoOn()
 {
     if (!m_isRanked)
         RankResources();
-    return !HasAll() && m_budget.Take(resourceBytes);
+    return !HasAll();
 }
 
 bool FirstIcons::Wants(const PictureHeader& header)

@@ -21,7 +21,7 @@ public:
     {
     }
 
-    bool GoOn(std::size_t resourceBytes) override;
+    bool GoOn() override;
     bool Wants(const PictureHeader& header) override;
     void Take(const PictureHeader& header, Picture picture) override;
 
@@ -33,7 +33,6 @@ private:
     bool HasAll() const;
 
     std::size_t m_most;
-    ResourceBudget m_budget{ 64u << 20 };
     bool m_isRanked = false;
     std::size_t m_firstSpare = 0;                         ///< ranks from here on are second choice
     std::unordered_map<std::string, std::size_t> m_ranks; ///< of resources

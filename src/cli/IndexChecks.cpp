@@ -4,6 +4,7 @@
 #include "document/Document.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <unordered_set>
 
 namespace vypx {
@@ -11,6 +12,7 @@ namespace vypx {
 namespace {
 
 constexpr std::size_t RecordSize = 16;
+constexpr std::size_t MostRecords = INT16_MAX; // beyond it the reader gives up
 
 using Names = std::unordered_set<std::string>;
 
@@ -90,8 +92,11 @@ void CheckIndex(ByteView file, std::span<const ListedResource> resources, Findin
     if (data.Size() % RecordSize != 0)
         findings.Add(index->Name(),
             "it has " + std::to_string(data.Size()) + " bytes, which are no records of 16");
+    const std::size_t records = data.Size() / RecordSize;
+    if (records > MostRecords)
+        findings.Add(index->Name(), "it has more than 32767 records: no icons are read");
     Known known = KnownOf(resources);
-    for (std::size_t i = 0; i < data.Size() / RecordSize; ++i)
+    for (std::size_t i = 0; i < std::min(records, MostRecords); ++i)
         CheckRecord(data.Part(i * RecordSize, RecordSize), i + 1, known, index->Name(), findings);
 }
 

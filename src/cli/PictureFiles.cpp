@@ -9,7 +9,7 @@ namespace vypx {
 
 namespace {
 
-constexpr std::string_view TooMuch = "it has more pictures than can be extracted";
+constexpr std::string_view TooMuch = "its pictures have more pixels in all than are extracted";
 
 } // namespace
 
@@ -17,13 +17,6 @@ PictureFiles::PictureFiles(OutputFolder& folder)
     : m_folder(folder)
     , m_pixelsLeft(MostPixelsInAll)
 {
-}
-
-bool PictureFiles::GoOn(std::size_t resourceBytes)
-{
-    if (m_failure.empty() && !m_budget.Take(resourceBytes))
-        m_failure = TooMuch;
-    return m_failure.empty();
 }
 
 bool PictureFiles::Wants(const PictureHeader& header)

@@ -21,7 +21,7 @@ class PictureFiles : public PictureSink {
 public:
     explicit PictureFiles(OutputFolder& folder);
 
-    bool GoOn(std::size_t resourceBytes) override;
+    bool GoOn() override { return m_failure.empty(); }
     bool Wants(const PictureHeader& header) override;
     void Take(const PictureHeader& header, Picture picture) override;
 
@@ -33,7 +33,6 @@ private:
     void PassOver(const PictureHeader& header, std::string whyNot);
 
     OutputFolder& m_folder;
-    ResourceBudget m_budget;
     std::int64_t m_pixelsLeft;
     std::map<std::string, int> m_times; ///< how often a file's name was asked for
     std::vector<ExtractedPicture> m_pictures;

@@ -26,33 +26,8 @@ inline constexpr std::uintmax_t LargestIconset = DataOffsetEnd + MaxResourceSize
 
 /// The largest picture that is decoded: 2048 x 2048 pixels, or one as large in another shape.
 inline constexpr std::int64_t MostPixels = 2048 * 2048;
-/// Resources can overlap in the file. So many bytes of them are looked at, counted one by one.
-inline constexpr std::size_t MostResourceBytes = 256u << 20;
-
 /// Whether a picture claims no more than MostPixels, its rows' padding counted.
 bool IsWithinLimits(const PictureHeader& header);
-
-/// Counts the bytes of resources.
-class ResourceBudget {
-public:
-    explicit ResourceBudget(std::size_t most = MostResourceBytes)
-        : m_left(most)
-    {
-    }
-
-    /// Whether so many bytes more may be looked at; from the first no on, none may.
-    bool Take(std::size_t bytes)
-    {
-        m_spent = m_spent || bytes > m_left;
-        m_left -= m_spent ? 0 : bytes;
-        return !m_spent;
-    }
-    bool IsSpent() const { return m_spent; }
-
-private:
-    std::size_t m_left;
-    bool m_spent = false;
-};
 
 /// How a look at an iconset ended. The document is open if `report` says so.
 struct ReadEnd {

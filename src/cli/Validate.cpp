@@ -24,12 +24,7 @@ public:
     {
     }
 
-    bool GoOn(std::size_t resourceBytes) override
-    {
-        if (!m_budget.Take(resourceBytes))
-            m_findings.Add("list", "its resources overlap too often to be looked at");
-        return !m_budget.IsSpent();
-    }
+    bool GoOn() override { return true; }
     bool Wants(const PictureHeader& header) override
     {
         JudgeSize(header);
@@ -52,7 +47,6 @@ private:
     void JudgeSize(const PictureHeader& header);
 
     Findings& m_findings;
-    ResourceBudget m_budget;
 };
 
 void JudgedPictures::JudgeSize(const PictureHeader& header)
@@ -81,10 +75,9 @@ void JudgeBytes(ByteView file, Findings& findings)
     const std::vector<ListedResource> resources = ListedResources(file);
     CheckList(file, resources, findings);
     CheckIndex(file, resources, findings);
-    ResourceBudget budget;
     for (const ListedResource& resource : resources) {
         const ByteView data = resource.Data(file);
-        if (resource.HasPictures() && data.Size() > 0 && budget.Take(data.Size()))
+        if (resource.HasPictures() && data.Size() > 0)
             CheckPictures(resource.Name(), data, findings);
     }
 }

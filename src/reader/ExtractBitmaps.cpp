@@ -4,8 +4,6 @@
 #include "reader/PictureSink.h"
 #include "reader/ResourceList.h"
 
-#include <algorithm>
-
 namespace vypx {
 
 namespace {
@@ -42,8 +40,7 @@ void ExtractBitmaps(WalkState& walk, LoadListener& listener)
         }
         if (entry.type != "tAIB" && entry.type != "Tbmp")
             continue;
-        const auto bytes = static_cast<std::size_t>(std::max(walk.ResourceSize, 0));
-        if (walk.pictures && !walk.pictures->GoOn(bytes))
+        if (walk.pictures && !walk.pictures->GoOn())
             break;
         LoadBitmapResource(walk, decoder, listener);
     }

@@ -2,7 +2,6 @@
 
 #include "companion/Picture.h"
 
-#include <cstddef>
 #include <optional>
 #include <string>
 
@@ -25,8 +24,8 @@ class PictureSink {
 public:
     virtual ~PictureSink() = default;
 
-    /// Asked before the resource with that many bytes is looked at; a false ends the reading.
-    virtual bool GoOn(std::size_t resourceBytes) = 0;
+    /// Asked before each resource; a false ends the reading.
+    virtual bool GoOn() = 0;
     /// Whether the picture is to be decoded; what its header claims can be much.
     virtual bool Wants(const PictureHeader& header) = 0;
     /// A picture that is wanted. Null: the record gives none, as a row is too short for its pixels.

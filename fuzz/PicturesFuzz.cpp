@@ -2,7 +2,6 @@
 // that its header claims; what is not wanted is not decoded.
 
 #include "Database.h"
-#include "reader/ExtractBitmaps.h"
 #include "reader/PictureSink.h"
 #include "settings/Settings.h"
 
@@ -42,11 +41,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     WalkState walk{ .pictures = &pictures };
     if (!fuzz::WalkDatabase(data, size, walk))
         return 0;
-    fuzz::Silent listener;
-    try {
-        BitmapTable.assign(static_cast<std::size_t>(std::max(walk.BmpTotalNum, 0)) + 1, {});
-        ExtractBitmaps(walk, listener);
-    } catch (const BrokenFile&) {
-    }
+    fuzz::DecodePictures(walk);
     return 0;
 }

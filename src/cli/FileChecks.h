@@ -6,8 +6,8 @@
 #include <span>
 
 /// What `validate` looks for in the bytes of a file, beside what a load tells. Sources: Palm OS
-/// File Format Specification (databases), Palm OS Programmer's API Reference, "Bitmaps", and the
-/// limits of this program's reader.
+/// Programmer's Companion (databases, memory), Palm OS Programmer's API Reference, "Bitmaps", and
+/// the limits of this program's reader.
 namespace vypx {
 
 /// Name, attributes and counts of a file that is long enough for a header.

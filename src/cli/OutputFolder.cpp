@@ -4,7 +4,6 @@
 #include "platform/Platform.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace vypx {
 
@@ -33,8 +32,8 @@ OutputFolder::~OutputFolder()
 {
     std::error_code ignored;
     for (const std::vector<fs::path>* paths : { &m_files, &m_made })
-        for (const fs::path& path : *paths | std::views::reverse)
-            fs::remove(path, ignored); // a folder only if it is empty
+        for (auto path = paths->rbegin(); path != paths->rend(); ++path)
+            fs::remove(*path, ignored); // a folder only if it is empty
 }
 
 bool OutputFolder::Use(const std::string& folder, const std::string& word)

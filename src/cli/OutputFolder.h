@@ -22,7 +22,11 @@ public:
     /// Path (UTF-8) of a file in it, which goes with the folder from now on.
     std::string NewFile(const std::string& name);
     /// All of it stays.
-    void Keep() { m_files.clear(), m_made.clear(); }
+    void Keep()
+    {
+        m_files.clear();
+        m_made.clear();
+    }
 
 private:
     std::filesystem::path m_folder;

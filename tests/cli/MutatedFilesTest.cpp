@@ -2,8 +2,9 @@
 #include "cli/Extract.h"
 #include "cli/Thumbnail.h"
 #include "cli/Validate.h"
+#include "platform/Platform.h"
 
-#include <csignal>
+#include <cstdlib>
 #include <fcntl.h>
 #include <random>
 #include <sys/resource.h>
@@ -105,8 +106,18 @@ int Judge(int number, const TempFolder& folder)
     return areCodes && isClean ? 0 : 1;
 }
 
+/// Thousands of files are written, each synced to the disk; where there is a disk in memory, it
+/// serves.
+void UseDiskInMemory()
+{
+    const std::string memory = "/dev/shm";
+    if (platform::FolderIsWritable(memory))
+        ::setenv("TMPDIR", memory.c_str(), 1);
+}
+
 TEST(MutatedFiles, EndWithAPictureOrACodeAndLeaveNothing)
 {
+    UseDiskInMemory();
     const TempFolder folder;
     for (int first = 0; first < Files; first += FilesOfAProcess) {
         const pid_t child = ::fork();
@@ -129,6 +140,7 @@ TEST(MutatedFiles, EndWithAPictureOrACodeAndLeaveNothing)
 /// or in the one that it is called from.
 TEST(MutatedFiles, LeaveNothingThroughTheToolEither)
 {
+    UseDiskInMemory();
     const TempFolder folder, temp;
     const std::string environment = "--chdir='" + temp.Path() + "' TMPDIR='" + temp.Path() + "'";
     for (int i = 0; i < FilesOfTheTool; ++i) {

@@ -1,4 +1,4 @@
-# Sourced by ./run and ./test: installs the Debian packages that are missing.
+# Sourced by ./run, ./test and ./package: installs the Debian packages that are missing.
 
 build_packages=(
     g++ cmake ninja-build qt6-base-dev libcli11-dev nlohmann-json3-dev
@@ -10,7 +10,11 @@ test_packages=(
     g++-mingw-w64-i686-posix
     imagemagick webp xvfb openbox fonts-dejavu-core x11-utils xdotool xclip
     tidy
+    lintian mandoc appstream desktop-file-utils libxml2-utils shared-mime-info libglib2.0-bin
 )
+package_packages=(dpkg-dev file)
+# For trying the package out in a root of its own.
+root_packages=(mmdebstrap xvfb xdotool)
 screen_packages=(xvfb openbox fonts-dejavu-core imagemagick x11-utils xdotool)
 
 say() { printf '== %s\n' "$*"; }

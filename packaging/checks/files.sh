@@ -30,7 +30,7 @@ for kind in "apps/$id" mimetypes/application-x-vantry-iconset{,-template}; do
     for size in 16 32 48 64 128 256; do
         icon=$share/icons/hicolor/${size}x$size/$kind.png
         wanted+=("$icon")
-        file "$icon" | grep -q "PNG image data, $size x $size," || fail "$icon is no picture of that size"
+        grep -q "PNG image data, $size x $size," <<<"$(file "$icon")" || fail "$icon is no picture of that size"
     done
 done
 # Both are there once their sources are.
@@ -68,11 +68,10 @@ done < <(find "$root" -mindepth 1 -type d ! -perm 755 -printf '%P\n')
 
 for program in vy-pixelworks pixelworks-cli; do
     # It has to run out of the place that it was unpacked to.
-    ldd "$root/usr/bin/$program" | grep -q "=> $root/.*/libVYPX.so" ||
-        ldd "$root/usr/bin/$program" | grep -q "libVYPX.so => $root" ||
-        fail "$program does not find its module beside it"
-    objdump -p "$root/usr/bin/$program" | grep -q 'R.*PATH  *\$ORIGIN/\.\./lib' ||
-        fail "$program looks for its module by another path"
+    grep -q "libVYPX.so => $root/" <<<"$(ldd "$root/usr/bin/$program")" ||
+        fail "$program does not find the module of its package"
+    grep -qE 'RU?N?PATH +\$ORIGIN/\.\./lib[^:]*/vy-pixelworks$' <<<"$(objdump -p "$root/usr/bin/$program")" ||
+        fail "$program looks for its module elsewhere, too"
 done
 [ -z "$(dpkg-deb --ctrl-tarfile "$root"/../*.deb | tar t | grep -vxE '\./(|control|md5sums)')" ] ||
     fail "the package has scripts or triggers of its own"

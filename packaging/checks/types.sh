@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
-# types.sh ROOT: what GIO takes files for, with the types of this system alone and with those of the
-# package in ROOT. Iconsets and templates are told by them and belong to the program; other files
-# keep exactly the types that they had.
+# types.sh ROOT TYPES_BY_QT: what GIO and Qt (by that program) take files for, with the types of this
+# system alone and with those of the package in ROOT. Iconsets and templates are told by them and belong
+# to the program; other files keep exactly the types that they had.
 set -euo pipefail
 root=$(realpath "$1")
+types_by_qt=$(realpath "$2")
 project=$(realpath "$(dirname "$0")/../..")
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
@@ -42,13 +43,15 @@ printf 'some words\n' >words.prc
 cp "$project/src/forms/art/program16.png" picture.prc
 cp "$project/src/forms/art/program16.png" picture.png
 
-# types SYSTEM: "name type" of all files.
+# types SYSTEM: "name judge type" of all files.
 types() {
     local file
     for file in "$folder"/ours/* "$folder"/others/*; do
-        printf '%s ' "${file#"$folder/"}"
+        printf '%s gio ' "${file#"$folder/"}"
         XDG_DATA_DIRS=$folder/$1 gio info -a standard::content-type "$file" |
             sed -n 's/^ *standard::content-type: //p'
+        printf '%s Qt ' "${file#"$folder/"}"
+        XDG_DATA_DIRS=$folder/$1 "$types_by_qt" "$file"
     done
 }
 # install_types SYSTEM XML...
@@ -56,7 +59,7 @@ install_types() {
     local system=$1
     shift
     cp "$@" "$folder/$system/mime/packages/"
-    "$project/packaging/checks/quiet.sh" update-mime-database "$folder/$system/mime"
+    XDG_DATA_DIRS=$folder/$system "$project/packaging/checks/quiet.sh" update-mime-database "$folder/$system/mime"
 }
 known=/usr/share/mime/packages/freedesktop.org.xml
 install_types before "$known"
@@ -71,15 +74,17 @@ if grep x-vantry "$folder/types-before"; then
     echo "The types of this system know the package's: nothing is shown by this."
     bad=1
 fi
-# Nothing is shown by a type that GIO tells of everything.
-[ "$(grep ^others/ "$folder/types-before" | cut -d ' ' -f 2 | sort -u | wc -l)" -ge 5 ] ||
-    { cat "$folder/types-before"; echo "GIO tells too few types."; bad=1; }
-while read -r name type; do
+# Nothing is shown by a judge that has one type for everything.
+for judge in gio Qt; do
+    count=$(grep "^others/.* $judge " "$folder/types-before" | cut -d ' ' -f 3 | sort -u | wc -l)
+    [ "$count" -ge 5 ] || { cat "$folder/types-before"; echo "$judge tells too few types."; bad=1; }
+done
+while read -r name judge type; do
     case $name in
         *.vpt) wanted=application/x-vantry-iconset-template ;;
         *) wanted=application/x-vantry-iconset ;;
     esac
-    [ "$type" = "$wanted" ] || { echo "$name is taken for $type"; bad=1; }
+    [ "$type" = "$wanted" ] || { echo "$judge takes $name for $type"; bad=1; }
 done < <(grep ^ours/ "$folder/types-after")
 
 # The desktop gives these types to the program, whose menu entry counts only if it can be run.
@@ -87,7 +92,8 @@ cp -r "$root/usr/share/applications" "$folder/after/"
 update-desktop-database "$folder/after/applications"
 entry=$(basename "$root"/usr/share/applications/*.desktop)
 for type in application/x-vantry-iconset{,-template}; do
-    PATH=$root/usr/bin:$PATH XDG_DATA_DIRS=$folder/after gio mime "$type" |
-        grep -q "^Default application for .*: $entry\$" || { echo "$type is not opened by $entry"; bad=1; }
+    opened=$(PATH=$root/usr/bin:$PATH XDG_DATA_DIRS=$folder/after gio mime "$type")
+    grep -q "^Default application for .*: $entry\$" <<<"$opened" ||
+        { echo "$type is not opened by $entry: $opened"; bad=1; }
 done
 exit "$bad"

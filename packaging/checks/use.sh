@@ -73,9 +73,11 @@ run_on_screen() { # ID
 }
 
 run_tool() { # ID
-    (as_user "$1" pixelworks-cli dump "$homes/$1/set.prc" --app-folder /usr/share/vy-pixelworks \
-        --work "$homes/$1/work") | grep -q '"icons"' || fail "The tool of user $1 dumps nothing."
-    if (as_user "$1" pixelworks-cli --help) | grep -q validate; then
+    local dumped
+    dumped=$(as_user "$1" pixelworks-cli dump "$homes/$1/set.prc" --app-folder /usr/share/vy-pixelworks \
+        --work "$homes/$1/work")
+    grep -q '"icons"' <<<"$dumped" || fail "The tool of user $1 dumps nothing."
+    if grep -q validate <<<"$(as_user "$1" pixelworks-cli --help)"; then
         (as_user "$1" pixelworks-cli validate "$homes/$1/set.prc") ||
             fail "The tool of user $1 does not take the sample."
     fi

@@ -4,15 +4,16 @@
 # then the package is removed, and nothing of it may be left. Where no Debian can be made, the programs
 # run over this machine's libraries, in a mount namespace, and the parts about apt are left out.
 #
-#     check.sh [--long]     --long: with what takes long
+#     check.sh PACKAGE [--long]     --long: with what takes long
 #
 # Called by ./package --check. Wants root; without it asks sudo.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source scripts/packages.sh
 
+package=$1
 long=
-[ "${1:-}" != --long ] || long=yes
+[ "${2:-}" != --long ] || long=yes
 
 install_packages "${root_packages[@]}" "${screen_packages[@]}"
 as_root=()
@@ -33,8 +34,6 @@ part() { # WORDS COMMAND...
     fi
 }
 
-package=$(ls -t build/*.deb | head -1)
-say "Checking $package"
 folder=$(mktemp -d)
 trap '"${as_root[@]}" rm -rf "$folder"' EXIT
 chmod 755 "$folder"

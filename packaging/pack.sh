@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# pack.sh BUILD_FOLDER TARGET_FOLDER: packs what has been built in the one, into the other. All files
+# pack.sh BUILD_FOLDER TARGET_FOLDER: packs what has been built in the one, into the other, and prints the
+# package's path. All files
 # of the package get the time of the last commit, or that of the release where there is no git: two
 # packages of one state are the same.
 set -euo pipefail
@@ -17,5 +18,7 @@ cpack --config "$build/CPackConfig.cmake" -B "$staging" >"$staging/log" 2>&1 || 
     cat "$staging/log"
     exit 1
 }
-mv "$staging"/*.deb "$target/"
-find "$target" -maxdepth 1 -name '*.deb' -newer "$staging/log" -printf '%p\n'
+for package in "$staging"/*.deb; do
+    mv "$package" "$target/"
+    echo "$target/${package##*/}"
+done

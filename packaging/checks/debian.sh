@@ -12,16 +12,16 @@ mount --bind /dev "$root/dev"
 name=$(dpkg-deb -f "$package" Package)
 id=$(dpkg-deb -c "$package" | sed -nE 's,.*/applications/(.*)\.desktop$,\1,p')
 
-# All files with their sizes, and the packages. What packages do at every change is left out: the state
-# of dpkg and apt, logs, caches of apt and of the linker.
+# All files with their sizes, all folders and all packages. Left out is what changes with any package:
+# the notes of dpkg and apt (but what dpkg knows of each package), logs, caches of apt.
 state() {
-    (
-        cd "$root"
-        find . \( -path ./proc -o -path ./dev -o -path ./sys -o -path ./home -o -path ./tmp -o -path ./root \
-            -o -path ./var/log -o -path ./var/cache/apt -o -path ./var/lib/apt -o -path ./run \) -prune -o \
-            -not -path './var/lib/dpkg/*' -not -type d -printf '%p %s\n' -o -path './var/lib/dpkg/info/*' -print \
-            -o -type d -not -path './var/lib/dpkg*' -print
-    ) | sort
+    local left_out=() path
+    for path in proc dev sys run tmp home root var/log var/cache/apt var/lib/apt \
+        var/lib/dpkg/{status,status-old,available,lock,lock-frontend,triggers,updates}; do
+        left_out+=(-path "./$path" -o)
+    done
+    (cd "$root" && find . \( "${left_out[@]}" -false \) -prune -o \
+        \( -type d -printf '%p/\n' -o -printf '%p %s\n' \)) | sort
     chroot "$root" dpkg-query -W -f='package ${Package} ${Status}\n'
 }
 apt_in_root() {

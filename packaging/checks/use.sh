@@ -22,13 +22,13 @@ as_user() {
     local id=$1
     shift
     exec chroot "$root" setpriv --reuid "$id" --regid "$id" --clear-groups \
-        env -i HOME="$homes/$id" PATH=/usr/bin:/bin LANG=C.UTF-8 "$@"
+        env -i HOME="$homes/$id" XDG_RUNTIME_DIR="$homes/$id/run" PATH=/usr/bin:/bin LANG=C.UTF-8 "$@"
 }
 add_user() { # ID
-    mkdir -p "$root$homes/$1"
+    mkdir -p "$root$homes/$1/run"
     cp "$project/data/samples/first-set.prc" "$root$homes/$1/set.prc"
     chown -R "$1:$1" "$root$homes/$1"
-    chmod 700 "$root$homes/$1"
+    chmod 700 "$root$homes/$1" "$root$homes/$1/run"
 }
 own_folder() { # ID
     echo "$root$homes/$1/.local/share/vy-pixelworks"

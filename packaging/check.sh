@@ -64,12 +64,12 @@ else
         in_namespace packaging/checks/overlay.sh "$folder/unpacked" "$package"
 fi
 
-# Others that are too long for ./test, where they are.
 if [ -x scripts/check-windows.sh ]; then
-    part "Running what was compiled for Windows" scripts/check-windows.sh
+    part "Running what was compiled for Windows" \
+        scripts/check-windows.sh build/release/program/pixelworks-cli
 fi
-if [ -n "$long" ] && [ -x scripts/check-long.sh ]; then
-    part "What takes long" scripts/check-long.sh
+if [ -n "$long" ]; then
+    part "Building the same once more" packaging/checks/rebuild.sh "$package"
 fi
 
 echo "$passed parts passed, $failed failed"

@@ -10,12 +10,12 @@ test_packages=(
     g++-mingw-w64-i686-posix
     imagemagick webp xvfb openbox fonts-dejavu-core x11-utils xdotool xclip
     tidy
-    lintian mandoc appstream desktop-file-utils libxml2-utils shared-mime-info libglib2.0-bin
 )
-package_packages=(dpkg-dev file)
-# For trying the package out in a root of its own.
-root_packages=(mmdebstrap xvfb xdotool)
 screen_packages=(xvfb openbox fonts-dejavu-core imagemagick x11-utils xdotool)
+package_packages=(dpkg-dev file)
+# What judges the package's files, and what makes a Debian to try it out in.
+judge_packages=(lintian mandoc appstream desktop-file-utils libxml2-utils shared-mime-info libglib2.0-bin)
+root_packages=(mmdebstrap)
 
 # With the seconds since the start: what takes long shows in any log.
 say() { printf '== %d s: %s\n' "$SECONDS" "$*"; }

@@ -53,6 +53,6 @@ known || { say "The desktop's caches do not know the program."; exit 1; }
 say "Removing"
 apt_in_root remove "$name"
 ! known || { say "The desktop's caches still know the program."; exit 1; }
-apt_in_root purge "$name" # there may be nothing left to purge
+chroot "$root" dpkg --purge "$name" # apt does not know a package of which no settings are left
 state >"$root/tmp/after"
 diff "$root/tmp/before" "$root/tmp/after" || { say "Something was left behind."; exit 1; }

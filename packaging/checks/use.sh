@@ -73,13 +73,14 @@ run_on_screen() { # ID
 }
 
 run_tool() { # ID
-    local dumped
-    dumped=$(as_user "$1" pixelworks-cli dump "$homes/$1/set.prc" --app-folder /usr/share/vy-pixelworks \
+    local said
+    said=$(as_user "$1" pixelworks-cli dump "$homes/$1/set.prc" --app-folder /usr/share/vy-pixelworks \
         --work "$homes/$1/work")
-    grep -q '"icons"' <<<"$dumped" || fail "The tool of user $1 dumps nothing."
+    grep -q '"icons"' <<<"$said" || fail "The tool of user $1 dumps nothing."
     if grep -q validate <<<"$(as_user "$1" pixelworks-cli --help)"; then
-        (as_user "$1" pixelworks-cli validate "$homes/$1/set.prc") ||
-            fail "The tool of user $1 does not take the sample."
+        said=$(as_user "$1" pixelworks-cli validate "$homes/$1/set.prc") &&
+            fail "The tool of user $1 finds nothing in the sample."
+        grep -q orphan <<<"$said" || fail "The tool of user $1 does not find the sample's orphan."
     fi
 }
 

@@ -8,10 +8,18 @@ set(VYPX_APPLICATION_ID app.vypixelworks.Pixelworks)
 set(VYPX_DEVELOPER "VY Pixelworks developers")
 set(VYPX_MAINTAINER "VY Pixelworks developers <developers@vypixelworks.invalid>")
 set(VYPX_HOMEPAGE "https://vypixelworks.invalid/")
+# Where the pictures of docs/screenshots can be fetched from, without a slash at the end. While it is
+# empty the metainfo names none: a software centre would show the broken links of a host that is not.
+set(VYPX_SCREENSHOTS "")
 set(VYPX_PROJECT_LICENCE LicenseRef-proprietary)
 set(VYPX_METADATA_LICENCE CC0-1.0)
 set(VYPX_ICONSET_MIME application/x-vantry-iconset)
 set(VYPX_TEMPLATE_MIME application/x-vantry-iconset-template)
+
+# When the version of project() was released, in seconds since 1970 (2026-11-22), and how often it has
+# been packaged.
+set(VYPX_RELEASED 1795305600)
+set(VYPX_PACKAGE_RELEASE 1)
 
 include(GNUInstallDirs)
 # Absolute folders of an installation; programs find their data and their module from where they stand.

@@ -168,7 +168,7 @@ std::vector<std::string> DesktopFixture::Uris(const std::vector<std::string>& fi
 {
     std::string list;
     for (const std::string& file : files)
-        list += (list.empty() ? "'" : ", '")
+        list += std::string(list.empty() ? "'" : ", '")
             + (file.find(':') == std::string::npos ? "file://" : "") + file + "'";
     return { "[" + list + "]", "{}" };
 }

@@ -14,7 +14,7 @@ namespace vypx {
 namespace {
 
 // Of RequestName: not to stand in line, and the answer of who does.
-constexpr uint DoNotQueue = 4, Queue = 0, InQueue = 2;
+constexpr uint NotInLine = 4, InLine = 0, StandsInLine = 2;
 // Milliseconds.
 constexpr int NameLimit = 2000;
 constexpr int FinishLimit = 60000; // a copy that was given a file may hang
@@ -64,9 +64,9 @@ void BusDesktop::Connected()
 void BusDesktop::TakeNames()
 {
     const QString own = CopyName(QCoreApplication::applicationPid());
-    Ask("RequestName", own, DoNotQueue, [](uint) {});
-    Ask("RequestName", BusName(), Queue, [this](uint answer) {
-        if (answer == InQueue)
+    Ask("RequestName", own, NotInLine, [](uint) {});
+    Ask("RequestName", BusName(), InLine, [this](uint answer) {
+        if (answer == StandsInLine)
             m_offered->calls.ForgetStart(); // another copy hears the call
     });
 }

@@ -10,7 +10,7 @@ namespace vypx {
 
 inline QString BusName() { return FromLatin1(ApplicationId); }
 
-/// As the Desktop Entry Specification makes it of the name.
+/// As the desktop makes it of the name.
 inline QString BusPath() { return '/' + BusName().replace('.', '/'); }
 
 /// Of one copy, by its process number. An element of a name must not begin with a digit.

@@ -13,7 +13,7 @@ constexpr qsizetype LongestShown = 200; // characters of a URI
 constexpr qsizetype MostShown = 10;     // URIs
 
 /// What is not to be opened, for the box.
-QString ListOf(const QStringList& uris)
+QString ShownUris(const QStringList& uris)
 {
     QStringList lines;
     for (const QString& uri : uris.first(std::min(uris.size(), MostShown)))
@@ -24,18 +24,18 @@ QString ListOf(const QStringList& uris)
 }
 
 /// What was asked for in one call: answered when the last part is, or nobody cares any more.
-struct Pending {
+struct CallUnderWay {
     DesktopCalls::Answer answer;
     QString error;
     int underWay = 0;
 
-    explicit Pending(DesktopCalls::Answer how)
+    explicit CallUnderWay(DesktopCalls::Answer how)
         : answer(std::move(how))
     {
     }
-    Pending(const Pending&) = delete;
-    Pending& operator=(const Pending&) = delete;
-    ~Pending() { answer(underWay > 0 ? "The program was left." : error); }
+    CallUnderWay(const CallUnderWay&) = delete;
+    CallUnderWay& operator=(const CallUnderWay&) = delete;
+    ~CallUnderWay() { answer(underWay > 0 ? "The program was left." : error); }
 };
 
 } // namespace
@@ -87,7 +87,7 @@ void DesktopCalls::Open(const QStringList& uris, const QString& token, const Ans
     }
     QString error;
     if (!others.isEmpty()) {
-        error = "Only files of this computer can be opened, not:\n\n" + ListOf(others);
+        error = "Only files of this computer can be opened, not:\n\n" + ShownUris(others);
         m_own.Tell(error);
     }
     OpenPaths(paths, token,
@@ -97,7 +97,7 @@ void DesktopCalls::Open(const QStringList& uris, const QString& token, const Ans
 void DesktopCalls::OpenPaths(const QStringList& paths, const QString& token, const Answer& answer)
 {
     m_startedByDesktop = false;
-    const auto pending = std::make_shared<Pending>(answer);
+    const auto pending = std::make_shared<CallUnderWay>(answer);
     QString unused = token; // it counts once
     for (const QString& path : paths) {
         if (!HasKnownEnding(path)) {

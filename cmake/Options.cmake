@@ -32,6 +32,11 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
 else()
     target_compile_options(vypx_flags INTERFACE
         $<$<CXX_COMPILER_ID:GNU>:-Wno-missing-field-initializers>)
+    if(CMAKE_UNITY_BUILD)
+        # Fixtures of unnamed namespaces: in a batch the compiler takes them for those of a header.
+        target_compile_options(vypx_flags INTERFACE
+            $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
+    endif()
 endif()
 if(VYPX_SANITIZE)
     set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

@@ -25,7 +25,7 @@ for room in */; do
     allowed=${may[$room]:-}
     [ -n "$allowed" ] || { echo "src/$room is no room that scripts/check-rooms.sh knows"; bad=1; continue; }
     while IFS=: read -r file line text; do
-        other=$(sed -E 's/.*"([^"\/]+)\/.*/\1/' <<<"$text")
+        [[ $text =~ \"([^\"/]+)/ ]] && other=${BASH_REMATCH[1]}
         [[ " $allowed " == *" $other "* ]] || { echo "src/$file:$line: $room must not include $other"; bad=1; }
     done < <(grep -rnE '^#include "[a-z]+/' "$room" --include='*.h' --include='*.cpp' || true)
     [[ "$room" == forms || "$room" == pictures ]] && continue
@@ -50,7 +50,7 @@ declare -A upstairs=(
 while IFS=: read -r file line text; do
     room=${file#forms/}
     room=${room%%/*}
-    other=$(sed -E 's/.*"forms\/([^"\/]+)\/.*/\1/' <<<"$text")
+    [[ $text =~ \"forms/([^\"/]+)/ ]] && other=${BASH_REMATCH[1]}
     [[ " ${upstairs[$room]:-} " == *" $other "* ]] ||
         { echo "src/$file:$line: forms/$room must not include $other"; bad=1; }
 done < <(grep -rnE '^#include "forms/' forms --include='*.h' --include='*.cpp' || true)

@@ -13,7 +13,8 @@ test_packages=(
 )
 screen_packages=(xvfb openbox fonts-dejavu-core imagemagick x11-utils xdotool)
 
-say() { printf '== %s\n' "$*"; }
+# With the seconds since the start: what takes long shows in any log.
+say() { printf '== %d s: %s\n' "$SECONDS" "$*"; }
 
 # install_packages NAME...: what is there already costs one look.
 install_packages() {

@@ -13,17 +13,17 @@ namespace vypx {
 
 namespace {
 
-using json = nlohmann::ordered_json;
+using Json = nlohmann::ordered_json;
 
-json Number(const std::optional<int>& cell) { return cell ? json(*cell) : json(nullptr); }
+Json Number(const std::optional<int>& cell) { return cell ? Json(*cell) : Json(nullptr); }
 
-json Icons()
+Json Icons()
 {
-    json icons = json::array();
+    Json icons = Json::array();
     for (const IconRow& row : IconTable) {
         if (row.IconLabel.empty())
             continue;
-        json& icon = icons.emplace_back();
+        Json& icon = icons.emplace_back();
         icon["label"] = Utf8FromLatin1(row.IconLabel);
         icon["resourceKey"] = Utf8FromLatin1(row.ResourceKey);
         icon["lowResFile"] = Utf8FromLatin1(row.LowResFile);
@@ -34,13 +34,13 @@ json Icons()
     return icons;
 }
 
-json Bitmaps()
+Json Bitmaps()
 {
-    json bitmaps = json::array();
+    Json bitmaps = Json::array();
     const std::size_t made = std::min(static_cast<std::size_t>(BitmapRow), BitmapTable.size());
     for (std::size_t row = 0; row < made; ++row) {
         const BitmapEntry& bitmap = BitmapTable[row];
-        json& entry = bitmaps.emplace_back();
+        Json& entry = bitmaps.emplace_back();
         entry["file"] = nullptr;
         if (!bitmap.file.empty())
             entry["file"] = Utf8FromLatin1(bitmap.file);
@@ -53,11 +53,11 @@ json Bitmaps()
     return bitmaps;
 }
 
-json Index()
+Json Index()
 {
-    json records = json::array();
+    Json records = Json::array();
     for (std::size_t row = 1; row < Itbl.size(); ++row) {
-        json& record = records.emplace_back();
+        Json& record = records.emplace_back();
         record["type"] = Utf8FromLatin1(Itbl[row].type);
         record["creator"] = Utf8FromLatin1(Itbl[row].creator);
         record["large"] = Itbl[row].largeId;
@@ -74,14 +74,14 @@ std::string HexColour(Rgb colour)
     return text;
 }
 
-json Nodes()
+Json Nodes()
 {
     std::vector<IconNode> sorted = Tree.Nodes();
     std::sort(sorted.begin(), sorted.end(),
         [](const IconNode& one, const IconNode& other) { return one.key < other.key; });
-    json nodes = json::array();
+    Json nodes = Json::array();
     for (const IconNode& node : sorted) {
-        json& entry = nodes.emplace_back();
+        Json& entry = nodes.emplace_back();
         entry["key"] = Utf8FromLatin1(node.key);
         entry["image"] = node.image;
         entry["colour"] = HexColour(node.colour);
@@ -89,9 +89,9 @@ json Nodes()
     return nodes;
 }
 
-json Stats()
+Json Stats()
 {
-    json stats;
+    Json stats;
     stats["total"] = StatTotal;
     stats["large"] = StatLarge;
     stats["small"] = StatSmall;
@@ -103,12 +103,12 @@ json Stats()
 
 } // namespace
 
-json DocumentJson(const std::vector<std::string>& messages)
+Json DocumentJson(const std::vector<std::string>& messages)
 {
-    json texts = json::array();
+    Json texts = Json::array();
     for (const std::string& message : messages)
         texts.push_back(Utf8FromLatin1(message));
-    json document;
+    Json document;
     document["loaded"] = FileLoaded;
     document["databaseName"] = Utf8FromLatin1(DatabaseName);
     document["messages"] = std::move(texts);

@@ -9,7 +9,7 @@ namespace vypx {
 
 namespace {
 
-constexpr std::size_t HeaderSize = 54;
+constexpr std::size_t BmpHeaderSize = 54;
 constexpr std::uint64_t MaxFileSize = 1u << 30;
 constexpr std::size_t MostPiece = 256u << 10;  // bytes of rows in one write
 constexpr std::uint32_t PixelsPerMetre = 2835; // 72 dpi
@@ -33,17 +33,17 @@ std::uint32_t GetLittle(ByteView file, std::size_t offset, int width)
     return value;
 }
 
-struct Header {
+struct HeaderFields {
     std::uint32_t pixels, width, height, bits, colours;
 };
 
 /// Empty when it is none of ours.
-std::optional<Header> ReadHeader(ByteView file)
+std::optional<HeaderFields> ReadHeader(ByteView file)
 {
-    if (file.Size() < HeaderSize || file.Text(0, 2) != "BM" || GetLittle(file, 14, 4) != 40
+    if (file.Size() < BmpHeaderSize || file.Text(0, 2) != "BM" || GetLittle(file, 14, 4) != 40
         || GetLittle(file, 26, 2) != 1 || GetLittle(file, 30, 4) != 0)
         return std::nullopt;
-    Header header{
+    HeaderFields header{
         .pixels = GetLittle(file, 10, 4),
         .width = GetLittle(file, 18, 4),
         .height = GetLittle(file, 22, 4),
@@ -58,7 +58,7 @@ std::optional<Header> ReadHeader(ByteView file)
     if (header.colours > 1u << std::min(header.bits, 8u) || header.width < 1 || header.height < 1
         || header.width > Picture::MaxSide || header.height > Picture::MaxSide)
         return std::nullopt;
-    const std::uint64_t tableEnd = HeaderSize + (indexed ? header.colours * 4 : 0);
+    const std::uint64_t tableEnd = BmpHeaderSize + (indexed ? header.colours * 4 : 0);
     const std::uint64_t end =
         header.pixels + RowSizeOf(header.width, static_cast<int>(header.bits)) * header.height;
     if (header.pixels < tableEnd || end > file.Size())
@@ -67,14 +67,14 @@ std::optional<Header> ReadHeader(ByteView file)
 }
 
 /// A colour for every index of a byte, black where the file has none; empty at 24 bits.
-std::vector<Rgb> ColourTable(ByteView file, const Header& header)
+std::vector<Rgb> ColourTable(ByteView file, const HeaderFields& header)
 {
     std::vector<Rgb> table;
     if (header.bits == 24)
         return table;
     table.resize(256);
     for (std::size_t i = 0; i < header.colours; ++i) {
-        const std::size_t at = HeaderSize + i * 4;
+        const std::size_t at = BmpHeaderSize + i * 4;
         table[i] = { file.U8(at + 2), file.U8(at + 1), file.U8(at) };
     }
     return table;
@@ -96,7 +96,7 @@ Bytes BmpHeader(int width, int height, int bits, Palette colours)
 {
     if (width < 1 || height < 1 || width > Picture::MaxSide || height > Picture::MaxSide)
         throw std::length_error("sides of a BMP");
-    const std::size_t pixels = HeaderSize + colours.size() * 4;
+    const std::size_t pixels = BmpHeaderSize + colours.size() * 4;
     const std::uint64_t size = pixels + RowSizeOf(width, bits) * static_cast<std::uint64_t>(height);
     if (size > MaxFileSize)
         throw std::length_error("size of a BMP");
@@ -115,9 +115,9 @@ Bytes BmpHeader(int width, int height, int bits, Palette colours)
     PutLittle(header, 42, PixelsPerMetre, 4);
     PutLittle(header, 46, static_cast<std::uint32_t>(colours.size()), 4);
     for (std::size_t i = 0; i < colours.size(); ++i) {
-        header[HeaderSize + i * 4] = static_cast<std::uint8_t>(colours[i].blue);
-        header[HeaderSize + i * 4 + 1] = static_cast<std::uint8_t>(colours[i].green);
-        header[HeaderSize + i * 4 + 2] = static_cast<std::uint8_t>(colours[i].red);
+        header[BmpHeaderSize + i * 4] = static_cast<std::uint8_t>(colours[i].blue);
+        header[BmpHeaderSize + i * 4 + 1] = static_cast<std::uint8_t>(colours[i].green);
+        header[BmpHeaderSize + i * 4 + 2] = static_cast<std::uint8_t>(colours[i].red);
     }
     return header;
 }
@@ -169,7 +169,7 @@ std::error_code WriteBmp24InPieces(
 
 std::optional<Picture> DecodeBmp(ByteView file)
 {
-    const std::optional<Header> header = ReadHeader(file);
+    const std::optional<HeaderFields> header = ReadHeader(file);
     if (!header)
         return std::nullopt;
     Picture picture(static_cast<int>(header->width), static_cast<int>(header->height));

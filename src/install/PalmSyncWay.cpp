@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::uintmax_t MostBytes = 64u << 20; // no iconset is nearly as large
+constexpr std::uintmax_t MostIconsetBytes = 64u << 20; // no iconset is nearly as large
 
 /// palm-sync takes no other endings, and none in other letters.
 std::string CopyName(const fs::path& file)
@@ -88,7 +88,7 @@ public:
         if (!fs::is_directory(UserFolder(user), error))
             return error == std::errc::permission_denied ? InstallResult::Unknown
                                                          : InstallResult::WrongUser;
-        const std::optional<Bytes> bytes = platform::ReadWholeFile(file, MostBytes);
+        const std::optional<Bytes> bytes = platform::ReadWholeFile(file, MostIconsetBytes);
         // What is no database can't be installed, and has no name to be compared.
         if (!bytes || bytes->size() < DatabaseHeaderSize)
             return InstallResult::Unknown;

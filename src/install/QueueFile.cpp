@@ -6,7 +6,7 @@ namespace vypx {
 
 namespace {
 
-constexpr std::size_t MostBytes = 16u << 20;
+constexpr std::size_t MostQueueBytes = 16u << 20;
 
 /// Empty where it can't be read.
 std::optional<Bytes> ReadQueue(const std::string& path)
@@ -15,7 +15,7 @@ std::optional<Bytes> ReadQueue(const std::string& path)
     std::error_code ignored;
     if (fs::status(platform::NativePath(path), ignored).type() == fs::file_type::not_found)
         return Bytes();
-    return platform::ReadWholeFile(path, MostBytes);
+    return platform::ReadWholeFile(path, MostQueueBytes);
 }
 
 } // namespace
@@ -31,7 +31,7 @@ bool EditQueue(
         const std::optional<Bytes> after = edit(*before);
         if (!after)
             return true;
-        if (after->size() > MostBytes)
+        if (after->size() > MostQueueBytes)
             return false;
         // By its bytes: times of a file advance in ticks, within which it could change twice.
         const auto isAsBefore = [&] { return ReadQueue(path) == before; };

@@ -8,12 +8,13 @@ namespace {
 
 using ::testing::ElementsAre;
 
-constexpr const char* Icon = "Alpha (Large Icon)";
-constexpr const char* Entry = "Start (Large Icon)";
 constexpr const char* VYFailed = "Error assigning VY icon.";
 
 class AssignFailures : public RowsFixture {
 protected:
+    static constexpr const char* Icon = "Alpha (Large Icon)";
+    static constexpr const char* Entry = "Start (Large Icon)";
+
     AssignFailures()
     {
         AddRow(Icon, "tAIB3500");

@@ -5,11 +5,11 @@ namespace vypx::test {
 
 namespace {
 
-constexpr const char* Icon = "Alpha (Large Icon)";
-constexpr const char* Entry = "Start (Large Icon)";
-
 class AssignFiles : public RowsFixture {
 protected:
+    static constexpr const char* Icon = "Alpha (Large Icon)";
+    static constexpr const char* Entry = "Start (Large Icon)";
+
     AssignFiles()
     {
         AddRow(Icon, "tAIB3500");

@@ -9,13 +9,13 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::Pair;
 
-constexpr const char* Icon = "Start (Large Icon)";
-
 using Routine = RowsOutcome (*)(const AssignRequest&);
 
 /// By the routine itself and by the one that goes there for such an icon.
 class ReassignIcon : public RowsFixture, public ::testing::WithParamInterface<Routine> {
 protected:
+    static constexpr const char* Icon = "Start (Large Icon)";
+
     ReassignIcon()
     {
         AddRow(Icon, "tAIB2000", KindVY);

@@ -4,6 +4,7 @@
 #include "companion/NearestColour.h"
 #include "support/Files.h"
 #include "support/Netpbm.h"
+#include "support/Pixels.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -38,36 +39,35 @@ protected:
     std::string path = folder.File("out.bmp");
 };
 
-Rgb Grey(int v) { return { v, v, v }; }
-
 TEST_F(PixelLibrary, OneBitPixelsBeginAtTheHighBit)
 {
     Bmp1to24(OneRow(Hex("A080")), Palette1, 9, 1, path);
 
     EXPECT_EQ(Written(),
-        (std::vector<Rgb>{ Grey(0), Grey(255), Grey(0), Grey(255), Grey(255), Grey(255), Grey(255),
-            Grey(255), Grey(0) }));
+        (std::vector<Rgb>{ GreyOf(0), GreyOf(255), GreyOf(0), GreyOf(255), GreyOf(255), GreyOf(255),
+            GreyOf(255), GreyOf(255), GreyOf(0) }));
 }
 
 TEST_F(PixelLibrary, TwoBitPixelsBeginAtTheHighBits)
 {
     Bmp2to24(OneRow(Hex("1B40")), Palette2, 5, 1, path);
 
-    EXPECT_EQ(Written(), (std::vector<Rgb>{ Grey(255), Grey(170), Grey(85), Grey(0), Grey(170) }));
+    EXPECT_EQ(Written(),
+        (std::vector<Rgb>{ GreyOf(255), GreyOf(170), GreyOf(85), GreyOf(0), GreyOf(170) }));
 }
 
 TEST_F(PixelLibrary, FourBitsAtAWidthOf3IgnoreTheLastNibble)
 {
     Bmp4to24(OneRow(Hex("0F7F")), Palette4, 3, 1, path);
 
-    EXPECT_EQ(Written(), (std::vector<Rgb>{ Grey(255), Grey(0), Grey(136) }));
+    EXPECT_EQ(Written(), (std::vector<Rgb>{ GreyOf(255), GreyOf(0), GreyOf(136) }));
 }
 
 TEST_F(PixelLibrary, EightBitsAreLookedUp)
 {
     Bmp8to24(OneRow(Hex("0005FF")), Palette8, 3, 1, path);
 
-    EXPECT_EQ(Written(), (std::vector<Rgb>{ Grey(255), { 255, 0, 255 }, Grey(0) }));
+    EXPECT_EQ(Written(), (std::vector<Rgb>{ GreyOf(255), { 255, 0, 255 }, GreyOf(0) }));
 }
 
 TEST_F(PixelLibrary, SixteenBitsAreBigEndianAndWidened)
@@ -96,13 +96,13 @@ TEST_F(PixelLibrary, WritesRowsFromTheBottomPaddedTo4Bytes)
 TEST_F(PixelLibrary, ReducesToTheNearestColour)
 {
     RGB16to8Bit(OneRow(Hex("F81F 1082")), Palette8, 2, 1, 16, path);
-    EXPECT_EQ(Written(), (std::vector<Rgb>{ { 255, 0, 255 }, Grey(17) }));
+    EXPECT_EQ(Written(), (std::vector<Rgb>{ { 255, 0, 255 }, GreyOf(17) }));
 
     RGB16to4Bit(OneRow(Hex("F81F 1082")), Palette4, 2, 1, 16, path);
-    EXPECT_EQ(Written(), (std::vector<Rgb>{ Grey(170), Grey(17) }));
+    EXPECT_EQ(Written(), (std::vector<Rgb>{ GreyOf(170), GreyOf(17) }));
 
     RGB8to4Bit(OneRow(Hex("05FF")), Palette4, Palette8, 2, 1, 8, path);
-    EXPECT_EQ(Written(), (std::vector<Rgb>{ Grey(170), Grey(0) }));
+    EXPECT_EQ(Written(), (std::vector<Rgb>{ GreyOf(170), GreyOf(0) }));
 }
 
 TEST_F(PixelLibrary, APictureThatTheRowsDoNotHoldDoesNotAppear)
@@ -161,7 +161,7 @@ TEST_F(PixelLibrary, TCchangeTakesTheNearestOfItsDepth)
     TCchange(Palette4, Palette8, 8, colour.red, colour.green, colour.blue);
     EXPECT_EQ(colour, (Rgb{ 255, 0, 255 }));
     TCchange(Palette4, Palette8, 4, colour.red, colour.green, colour.blue);
-    EXPECT_EQ(colour, Grey(170));
+    EXPECT_EQ(colour, GreyOf(170));
 }
 
 RC_GTEST_FIXTURE_PROP(PixelLibrary, ReductionsGiveOnlyWhatTCchangeGives, ())

@@ -3,6 +3,7 @@
 #include "companion/BmpFile.h"
 #include "companion/PixelLibrary.h"
 #include "support/Files.h"
+#include "support/Pixels.h"
 #include "support/TempFolder.h"
 
 #include <algorithm>
@@ -15,8 +16,6 @@ namespace vypx::test {
 namespace {
 
 constexpr Rgb Magenta{ 255, 0, 255 }, NoOpaque{ 1, 2, 3 };
-
-Rgb Grey(int v) { return { v, v, v }; }
 
 /// All colours of a depth, in the order of their indexes or values.
 std::vector<Rgb> ColoursAt(int depth)
@@ -76,8 +75,8 @@ std::vector<Rgb> Ready(const std::vector<Rgb>& row, int depth)
 
 TEST(Reduced, IsTheNearestGreyTheNearestSystemColourOr565)
 {
-    EXPECT_EQ(Reduced(Grey(100), 4), Grey(102));
-    EXPECT_EQ(Reduced(Red, 4), Grey(85)) << "their mean";
+    EXPECT_EQ(Reduced(GreyOf(100), 4), GreyOf(102));
+    EXPECT_EQ(Reduced(Red, 4), GreyOf(85)) << "their mean";
     EXPECT_EQ(Reduced({ 250, 210, 20 }, 8), (Rgb{ 255, 204, 0 }));
     EXPECT_EQ(Reduced({ 5, 3, 4 }, 16), (Rgb{ 8, 4, 0 })) << "a step is 255/31, 255/63";
 }
@@ -94,13 +93,13 @@ int Near(int component, int by) { return std::clamp(component + by, 0, 255); }
 
 TEST(NearestOther, IsTheReductionWhereThatIsAnotherOne)
 {
-    EXPECT_EQ(NearestOther(Grey(100), Grey(120), 4), Grey(102));
+    EXPECT_EQ(NearestOther(GreyOf(100), GreyOf(120), 4), GreyOf(102));
     EXPECT_EQ(NearestOther(Red, { 255, 9, 0 }, 16), Red);
 }
 
 TEST(NearestOther, OfTwoAsNearTakesTheLowerIndexOrValue)
 {
-    EXPECT_EQ(NearestOther(Grey(102), Grey(100), 4), Grey(119));
+    EXPECT_EQ(NearestOther(GreyOf(102), GreyOf(100), 4), GreyOf(119));
     EXPECT_EQ(NearestOther(Magenta, Magenta, 8), (Rgb{ 255, 51, 255 }));
     // Green goes by fours there, so black and 0, 8, 0 are nearest.
     EXPECT_EQ(NearestOther({ 0, 4, 0 }, { 0, 4, 0 }, 16), Black);
@@ -112,7 +111,7 @@ TEST(NearestOther, OfTwoAsNearTakesTheLowerIndexOrValue)
 /// Black ends the 8-bit palette many times over.
 TEST(NearestOther, OfARepeatedEntryIsAnotherColour)
 {
-    EXPECT_EQ(NearestOther(Black, Black, 8), Grey(17));
+    EXPECT_EQ(NearestOther(Black, Black, 8), GreyOf(17));
 }
 
 RC_GTEST_PROP(NearestOther, IsFoundByASearchOfAllColours, ())
@@ -132,7 +131,7 @@ RC_GTEST_PROP(NearestOther, IsFoundByASearchOfAllColours, ())
 
 TEST(ReadyToStore, APictureWithoutTransparentPixelsIsUnchanged)
 {
-    const Picture picture = Row({ Grey(100), Grey(7), Magenta });
+    const Picture picture = Row({ GreyOf(100), GreyOf(7), Magenta });
 
     EXPECT_EQ(ReadyToStore({ .pixels = picture }, 4), picture);
     EXPECT_EQ(ReadyToStore({ .pixels = picture, .transparent = NoOpaque }, 4), picture);
@@ -140,11 +139,11 @@ TEST(ReadyToStore, APictureWithoutTransparentPixelsIsUnchanged)
 
 TEST(ReadyToStore, At4BitsTransparentPixelsGetTheFreeGreyNearestToMagenta)
 {
-    EXPECT_EQ(Ready({ NoOpaque, Grey(100) }, 4), (std::vector{ Grey(170), Grey(102) }));
+    EXPECT_EQ(Ready({ NoOpaque, GreyOf(100) }, 4), (std::vector{ GreyOf(170), GreyOf(102) }));
     // 170 is taken; 187 and 153 are as near.
-    EXPECT_EQ(Ready({ Grey(168), NoOpaque }, 4), (std::vector{ Grey(170), Grey(187) }));
-    EXPECT_EQ(Ready({ Grey(168), Grey(190), NoOpaque }, 4),
-        (std::vector{ Grey(170), Grey(187), Grey(153) }));
+    EXPECT_EQ(Ready({ GreyOf(168), NoOpaque }, 4), (std::vector{ GreyOf(170), GreyOf(187) }));
+    EXPECT_EQ(Ready({ GreyOf(168), GreyOf(190), NoOpaque }, 4),
+        (std::vector{ GreyOf(170), GreyOf(187), GreyOf(153) }));
 }
 
 TEST(ReadyToStore, At8BitsOpaquePixelsThatReduceToMagentaTakeIt)
@@ -165,15 +164,15 @@ TEST(ReadyToStore, At16BitsOpaquePixelsKeepTheir24Bits)
 
 TEST(ReadyToStore, MagentaMayBeTheTransparentColourItself)
 {
-    const MaskedPicture picture{ .pixels = Row({ Magenta, Grey(9) }), .transparent = Magenta };
+    const MaskedPicture picture{ .pixels = Row({ Magenta, GreyOf(9) }), .transparent = Magenta };
 
     EXPECT_EQ(ReadyToStore(picture, 16), picture.pixels);
-    EXPECT_EQ(Pixels(ReadyToStore(picture, 8)), (std::vector{ Magenta, Grey(17) }));
+    EXPECT_EQ(Pixels(ReadyToStore(picture, 8)), (std::vector{ Magenta, GreyOf(17) }));
 }
 
 TEST(ReadyToStore, APictureOfTransparentPixelsAloneIsMagenta)
 {
-    EXPECT_EQ(Ready({ NoOpaque, NoOpaque }, 4), (std::vector{ Grey(170), Grey(170) }));
+    EXPECT_EQ(Ready({ NoOpaque, NoOpaque }, 4), (std::vector{ GreyOf(170), GreyOf(170) }));
     EXPECT_EQ(Ready({ NoOpaque, NoOpaque }, 16), (std::vector{ Magenta, Magenta }));
 }
 
@@ -182,7 +181,7 @@ std::vector<Rgb> AllGreysTwiceBut(int once)
 {
     std::vector<Rgb> row(Palette4.begin(), Palette4.end());
     for (const Rgb& grey : Palette4)
-        if (grey != Grey(once))
+        if (grey != GreyOf(once))
             row.push_back(grey);
     return row;
 }
@@ -193,8 +192,8 @@ TEST(ReadyToStore, WithoutAFreeColourTheRarestMovesToItsNeighbour)
     row.push_back(NoOpaque);
 
     std::vector<Rgb> expected = row;
-    expected[12] = Grey(68); // the grey 51; 34 is as near
-    expected.back() = Grey(51);
+    expected[12] = GreyOf(68); // the grey 51; 34 is as near
+    expected.back() = GreyOf(51);
     EXPECT_EQ(Ready(row, 4), expected);
 }
 
@@ -206,9 +205,9 @@ TEST(ReadyToStore, TheColourOfTheTopLeftPixelIsNeverFreed)
 
     std::vector<Rgb> expected = row;
     for (Rgb& pixel : expected)
-        if (pixel == Grey(255)) // the first of all that come twice
-            pixel = Grey(238);
-    expected.back() = Grey(255);
+        if (pixel == GreyOf(255)) // the first of all that come twice
+            pixel = GreyOf(238);
+    expected.back() = GreyOf(255);
     EXPECT_EQ(Ready(row, 4), expected);
 }
 
@@ -218,8 +217,8 @@ TEST(ReadyToStore, ATransparentTopLeftPixelExemptsNoColour)
     row.insert(row.begin(), NoOpaque);
 
     std::vector<Rgb> expected = row;
-    expected[13] = Grey(68);
-    expected[0] = Grey(51);
+    expected[13] = GreyOf(68);
+    expected[0] = GreyOf(51);
     EXPECT_EQ(Ready(row, 4), expected);
 }
 
@@ -230,7 +229,7 @@ TEST(ReadyToStore, RepeatedBlackOfThePaletteIsNotFree)
 
     // Of all but black, which comes often, each is there once; the first is the top-left pixel's.
     std::vector<Rgb> expected = row;
-    expected[1] = Grey(238); // nearer to 255, 204, 255 than a step of the cube
+    expected[1] = GreyOf(238); // nearer to 255, 204, 255 than a step of the cube
     expected.back() = { 255, 204, 255 };
     EXPECT_EQ(Ready(row, 8), expected);
 }

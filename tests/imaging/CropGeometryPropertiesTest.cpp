@@ -1,4 +1,5 @@
 #include "imaging/CropGeometry.h"
+#include "support/CropSizes.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
@@ -8,9 +9,6 @@
 namespace vypx::test {
 
 namespace {
-
-constexpr int Pixel = 15; // twips
-const std::vector<PixelSize> Slots{ { 64, 44 }, { 30, 22 }, { 32, 22 }, { 15, 11 } };
 
 bool IsInTheView(const CropGeometry& crop)
 {
@@ -29,7 +27,7 @@ PixelSize SomePicture()
 /// With a picture that can be worked on.
 CropGeometry SomeOpening()
 {
-    CropGeometry crop(*rc::gen::elementOf(Slots));
+    CropGeometry crop(*rc::gen::elementOf(CropSlots));
     RC_PRE(crop.CropFrmLoad(SomePicture()) == CropSize::Fits);
     if (*rc::gen::arbitrary<bool>()) {
         crop.ChooseAspect(true);

@@ -1,4 +1,5 @@
 #include "imaging/CropGeometry.h"
+#include "support/CropSizes.h"
 
 #include <gtest/gtest.h>
 
@@ -6,11 +7,8 @@ namespace vypx::test {
 
 namespace {
 
-constexpr PixelSize LargeIcon{ 64, 44 };
-constexpr int Pixel = 15; // twips
-
 /// The crop window with a picture in it.
-CropGeometry Opened(PixelSize picture, PixelSize slot = LargeIcon)
+CropGeometry Opened(PixelSize picture, PixelSize slot = LargeSlot)
 {
     CropGeometry crop(slot);
     crop.CropFrmLoad(picture);
@@ -21,7 +19,7 @@ CropGeometry Opened(PixelSize picture, PixelSize slot = LargeIcon)
 
 TEST(CropGeometry, OpensWithTheViewAndTheFirstRectangle)
 {
-    CropGeometry crop(LargeIcon);
+    CropGeometry crop(LargeSlot);
     EXPECT_FALSE(crop.HasView());
 
     EXPECT_EQ(crop.CropFrmLoad({ 65, 44 }), CropSize::Fits);
@@ -51,10 +49,10 @@ TEST(CropGeometry, AbovePictures2400TheHalfIsShown)
 
 TEST(CropGeometry, PicturesAreTestedAfterTheHalving)
 {
-    EXPECT_EQ(CropGeometry(LargeIcon).CropFrmLoad({ 8001, 8001 }), CropSize::Fits);
-    EXPECT_EQ(CropGeometry(LargeIcon).CropFrmLoad({ 8002, 8002 }), CropSize::ToLarge);
-    EXPECT_EQ(CropGeometry(LargeIcon).CropFrmLoad({ 5000, 9 }), CropSize::ToSmall);
-    EXPECT_EQ(CropGeometry(LargeIcon).CropFrmLoad({ 65, 4 }), CropSize::ToSmall);
+    EXPECT_EQ(CropGeometry(LargeSlot).CropFrmLoad({ 8001, 8001 }), CropSize::Fits);
+    EXPECT_EQ(CropGeometry(LargeSlot).CropFrmLoad({ 8002, 8002 }), CropSize::ToLarge);
+    EXPECT_EQ(CropGeometry(LargeSlot).CropFrmLoad({ 5000, 9 }), CropSize::ToSmall);
+    EXPECT_EQ(CropGeometry(LargeSlot).CropFrmLoad({ 65, 4 }), CropSize::ToSmall);
 }
 
 TEST(CropGeometry, ARefusedPictureShowsNothing)
@@ -165,7 +163,7 @@ TEST(CropGeometry, TheSquareAspectHasTheSlotsShorterSide)
     crop.ChooseAspect(false);
     crop.RebuildRectangle();
 
-    EXPECT_EQ(crop.Target(), LargeIcon);
+    EXPECT_EQ(crop.Target(), LargeSlot);
     EXPECT_EQ(crop.Rectangle(), (CropRectangle{ 4020, 4170, 960, 660 }));
 }
 

@@ -1,4 +1,5 @@
 #include "imaging/CropRectangle.h"
+#include "support/CropSizes.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +8,6 @@ namespace vypx::test {
 namespace {
 
 constexpr int Side = 3000; // a view of 200 x 200 pixels
-constexpr PixelSize LargeIcon{ 64, 44 };
 
 CropRectangle Moved(CropRectangle rectangle, double motionX, double motionY)
 {
@@ -25,12 +25,12 @@ CropRectangle Resized(CropRectangle rectangle, double motion, double aspect = 1)
 
 TEST(FirstCropRectangle, IsOfTheTargetsSizeInAViewMoreThanTwiceAsLarge)
 {
-    EXPECT_EQ(FirstCropRectangle(LargeIcon, 3900), (CropRectangle{ 1470, 1620, 960, 660 }));
+    EXPECT_EQ(FirstCropRectangle(LargeSlot, 3900), (CropRectangle{ 1470, 1620, 960, 660 }));
 }
 
 TEST(FirstCropRectangle, IsHalfOfItInASmallerView)
 {
-    EXPECT_EQ(FirstCropRectangle(LargeIcon, 960), (CropRectangle{ 240, 315, 480, 330 }));
+    EXPECT_EQ(FirstCropRectangle(LargeSlot, 960), (CropRectangle{ 240, 315, 480, 330 }));
     EXPECT_EQ(FirstCropRectangle({ 15, 11 }, 224), (CropRectangle{ 56, 71, 112, 82 }));
 }
 
@@ -44,8 +44,8 @@ TEST(FirstCropRectangle, BothSidesMustBeBelowHalfTheViewToBeWhole)
 
 TEST(FirstCropRectangle, IsAQuarterWhereHalfIsWiderThanTheView)
 {
-    EXPECT_EQ(FirstCropRectangle(LargeIcon, 420), (CropRectangle{ 90, 128, 240, 165 }));
-    EXPECT_EQ(FirstCropRectangle(LargeIcon, 480).width, 480);
+    EXPECT_EQ(FirstCropRectangle(LargeSlot, 420), (CropRectangle{ 90, 128, 240, 165 }));
+    EXPECT_EQ(FirstCropRectangle(LargeSlot, 480).width, 480);
 }
 
 TEST(MoveCropRectangle, FollowsTheMotion)
@@ -76,7 +76,7 @@ TEST(MoveCropRectangle, ComesBackFromBeyondTheRightEdge)
 
 TEST(ResizeCropRectangle, KeepsTheCornerAndTheAspect)
 {
-    const CropRectangle larger = Resized({ 300, 600, 960, 660 }, 165, CropAspect(LargeIcon));
+    const CropRectangle larger = Resized({ 300, 600, 960, 660 }, 165, CropAspect(LargeSlot));
 
     EXPECT_EQ(larger, (CropRectangle{ 300, 600, 1200, 825 }));
 }

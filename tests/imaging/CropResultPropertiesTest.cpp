@@ -1,5 +1,6 @@
 #include "imaging/CropGeometry.h"
 #include "imaging/CropResult.h"
+#include "support/CropSizes.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,9 +13,7 @@ namespace vypx::test {
 
 namespace {
 
-constexpr int Pixel = 15; // twips
 constexpr Rgb Border{ 255, 255, 255 };
-const std::vector<PixelSize> Slots{ { 64, 44 }, { 30, 22 }, { 32, 22 }, { 15, 11 } };
 
 /// For sides up to 1024; the blue of a place never is the border's.
 Rgb ColourOfPlace(int x, int y) { return { x & 0xFF, y & 0xFF, x >> 8 | y >> 8 << 4 }; }
@@ -33,7 +32,7 @@ Picture Places(PixelSize size)
 /// With the first rectangle, moved and resized by the mouse.
 CropGeometry SomeCrop()
 {
-    CropGeometry crop(*rc::gen::elementOf(Slots));
+    CropGeometry crop(*rc::gen::elementOf(CropSlots));
     const int most = *rc::gen::element(60, 160, 601, 1000);
     RC_PRE(crop.CropFrmLoad({ *rc::gen::inRange(5, most), *rc::gen::inRange(5, most) })
         == CropSize::Fits);

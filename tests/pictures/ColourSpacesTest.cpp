@@ -8,8 +8,6 @@ namespace vypx::test {
 
 namespace {
 
-Bytes Text(std::string_view text) { return { text.begin(), text.end() }; }
-
 /// The chunk of a PNG that holds a profile: a name, how it is packed, the profile.
 Bytes ProfileChunk(std::string_view space)
 {

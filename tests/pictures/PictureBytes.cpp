@@ -10,8 +10,6 @@ namespace vypx::test {
 
 namespace {
 
-Bytes TextOf(std::string_view text) { return { text.begin(), text.end() }; }
-
 std::uint32_t Crc32(const Bytes& bytes)
 {
     std::uint32_t crc = ~0u;
@@ -37,6 +35,8 @@ constexpr std::size_t PngFirstChunkEnd = 33;
 
 } // namespace
 
+Bytes Text(std::string_view text) { return { text.begin(), text.end() }; }
+
 Bytes Little(std::uint64_t value, int width)
 {
     Bytes bytes;
@@ -55,7 +55,7 @@ Bytes Big(std::uint64_t value, int width)
 Bytes BmpHeader(std::int32_t width, std::int32_t height, int bits, int compression, int colours)
 {
     const auto bits32 = [](int value) { return Little(static_cast<std::uint32_t>(value), 4); };
-    return Join({ TextOf("BM"), bits32(0), bits32(0), bits32(54 + colours * 4), bits32(40),
+    return Join({ Text("BM"), bits32(0), bits32(0), bits32(54 + colours * 4), bits32(40),
         bits32(width), bits32(height), Little(1, 2), Little(static_cast<unsigned>(bits), 2),
         bits32(compression), bits32(0), bits32(2835), bits32(2835), bits32(colours), bits32(0) });
 }
@@ -71,7 +71,7 @@ Bytes PngHeader(std::uint32_t width, std::uint32_t height, int bits, int colourT
 
 Bytes PngChunk(std::string_view type, const Bytes& data)
 {
-    const Bytes body = Join({ TextOf(type), data });
+    const Bytes body = Join({ Text(type), data });
     return Join({ Big(data.size(), 4), body, Big(Crc32(body), 4) });
 }
 
@@ -106,7 +106,7 @@ Bytes Exif(int orientation, bool isLittle)
         return isLittle ? Little(value, width) : Big(value, width);
     };
     constexpr unsigned Orientation = 0x0112, Short = 3;
-    return Join({ TextOf("Exif"), { 0, 0 }, TextOf(isLittle ? "II" : "MM"), number(42, 2),
+    return Join({ Text("Exif"), { 0, 0 }, Text(isLittle ? "II" : "MM"), number(42, 2),
         number(8, 4),                                            // where the directory begins
         number(1, 2),                                            // entries in it
         number(Orientation, 2), number(Short, 2), number(1, 4),  // one value
@@ -118,9 +118,9 @@ Bytes ExchangingProfile(std::string_view space)
 {
     // Fixed point, 16 bits behind the point. Source: IEC 61966-2-1, adapted to D50.
     const auto xyz = [](std::uint32_t x, std::uint32_t y, std::uint32_t z) {
-        return Join({ TextOf("XYZ "), Bytes(4, 0), Big(x, 4), Big(y, 4), Big(z, 4) });
+        return Join({ Text("XYZ "), Bytes(4, 0), Big(x, 4), Big(y, 4), Big(z, 4) });
     };
-    const Bytes straight = Join({ TextOf("curv"), Bytes(8, 0) }); // no entries: a gamma of 1
+    const Bytes straight = Join({ Text("curv"), Bytes(8, 0) }); // no entries: a gamma of 1
     const Bytes white = xyz(0xF6D6, 0x10000, 0xD32D);
     const std::vector<std::pair<const char*, Bytes>> greyTags{ { "wtpt", white },
         { "kTRC", straight } };
@@ -139,12 +139,12 @@ Bytes ExchangingProfile(std::string_view space)
     std::size_t offset = HeaderSize + 4 + count * 12;
     Bytes table = Big(count, 4), data;
     for (const auto& [name, body] : tags) {
-        table = Join({ table, TextOf(name), Big(offset, 4), Big(body.size(), 4) });
+        table = Join({ table, Text(name), Big(offset, 4), Big(body.size(), 4) });
         data = Join({ data, body });
         offset += body.size();
     }
-    const Bytes header = Join({ Big(offset, 4), Bytes(4, 0), Big(0x02100000, 4), TextOf("mntr"),
-        TextOf(space), TextOf("XYZ "), Bytes(12, 0), TextOf("acsp"), Bytes(28, 0), Big(0xF6D6, 4),
+    const Bytes header = Join({ Big(offset, 4), Bytes(4, 0), Big(0x02100000, 4), Text("mntr"),
+        Text(space), Text("XYZ "), Bytes(12, 0), Text("acsp"), Bytes(28, 0), Big(0xF6D6, 4),
         Big(0x10000, 4), Big(0xD32D, 4), Bytes(48, 0) });
     return Join({ header, table, data });
 }

@@ -8,6 +8,8 @@
 /// Pieces of picture files, put together by hand.
 namespace vypx::test {
 
+/// A text's characters.
+Bytes Text(std::string_view text);
 Bytes Little(std::uint64_t value, int width);
 Bytes Big(std::uint64_t value, int width);
 

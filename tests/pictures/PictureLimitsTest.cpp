@@ -9,12 +9,10 @@ namespace vypx::test {
 
 namespace {
 
-constexpr const char* Broken = "its data are broken or of a kind that can't be read here";
+constexpr const char* BrokenData = "its data are broken or of a kind that can't be read here";
 constexpr const char* TooManyPixels = "it has more than 100 million pixels";
 constexpr const char* TooManyCostlyPixels = "it has more than 50 million pixels";
 constexpr const char* TooLong = "it is wider or higher than 32767 pixels";
-
-Bytes Text(std::string_view text) { return { text.begin(), text.end() }; }
 
 Bytes Gif(unsigned width, unsigned height)
 {
@@ -86,9 +84,9 @@ struct Claim {
 TEST(PictureLimits, AreHeldByWhatTheHeaderClaims)
 {
     const std::vector<Claim> claims{
-        { Png(10000, 10000, 8), Broken, 100'000'000 }, // beyond nothing
+        { Png(10000, 10000, 8), BrokenData, 100'000'000 }, // beyond nothing
         { Png(10001, 10000, 8), TooManyPixels, 100'010'000 },
-        { Png(7071, 7071, 16), Broken, 49'999'041 },
+        { Png(7071, 7071, 16), BrokenData, 49'999'041 },
         { Png(7072, 7072, 16), TooManyCostlyPixels, 50'013'184 },
         { Png(32768, 1, 8), TooLong, 32768 },
         { Png(1, 40000, 8), TooLong, 40000 },
@@ -97,7 +95,7 @@ TEST(PictureLimits, AreHeldByWhatTheHeaderClaims)
         { Jpeg(Coding::Progressive, 7000, 7000, 60), "it comes in too many scans", 49'000'000 },
         { Jpeg(Coding::Baseline, 40000, 1, 1), TooLong, 40000 },
         // A second frame that claims less does not make the first one cheap.
-        { TwoFrames(), Broken, 0 },
+        { TwoFrames(), BrokenData, 0 },
         { Gif(10001, 10000), TooManyPixels, 100'010'000 },
         { Gif(40000, 10), TooLong, 400'000 },
         { BmpHeader(10001, 10000, 8, 1, 0), TooManyPixels, 100'010'000 },

@@ -8,6 +8,9 @@
 /// Pictures for tests, made of single pixels.
 namespace vypx::test {
 
+/// `level` from 0 to 255.
+inline Rgb GreyOf(int level) { return { level, level, level }; }
+
 /// Row after row; as high as the pixels make it.
 inline Picture Of(int width, const std::vector<Rgb>& pixels)
 {

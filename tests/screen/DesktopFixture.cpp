@@ -47,6 +47,8 @@ DesktopFixture::DesktopFixture()
     std::signal(SIGPIPE, SIG_IGN);
     namespace fs = std::filesystem;
     const fs::path built(VYPX_PROGRAM);
+    fs::create_directories(File("run"));
+    fs::permissions(File("run"), fs::perms::owner_all);
     fs::create_directories(File("program"));
     fs::create_directories(File("home/.config/VY Pixelworks"));
     for (const char* const name :
@@ -88,10 +90,12 @@ void DesktopFixture::StartBus()
         "\"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">"
         "<busconfig><type>session</type><listen>unix:path="
             + File("bus") + "</listen><servicedir>" + File("services")
-            + "</servicedir><policy context=\"default\"><allow send_destination=\"*\"/>"
+            + "</servicedir><policy context=\"default\"><allow send_destination=\"*\"/><allow "
+              "receive_sender=\"*\"/>"
               "<allow own=\"*\"/></policy></busconfig>");
     m_bus = screen.Start(InSession(
-        { "dbus-daemon", "--config-file=" + File("bus.conf"), "--print-address=1", "--nofork" }));
+        { "sh", "-c", "exec dbus-daemon --config-file=\"$0\" --print-address=1 --nofork 2>\"$1\"",
+            File("bus.conf"), File("bus.log") }));
     m_address = m_bus->ReadLine();
     ASSERT_NE(m_address, "") << "no bus";
 }
@@ -101,7 +105,7 @@ std::vector<std::string> DesktopFixture::InSession(std::vector<std::string> comm
     std::vector<std::string> all{ "/usr/bin/env", "-u", "DBUS_STARTER_BUS_TYPE",
         "HOME=" + File("home"), "XDG_CONFIG_HOME=" + File("home/.config"),
         "XDG_DATA_HOME=" + File("home/share"), "XDG_CACHE_HOME=" + File("home/cache"),
-        "XDG_RUNTIME_DIR=" + File("home"), "DBUS_SESSION_BUS_ADDRESS=" + m_address };
+        "XDG_RUNTIME_DIR=" + File("run"), "DBUS_SESSION_BUS_ADDRESS=" + m_address };
     all.insert(all.end(), command.begin(), command.end());
     return all;
 }

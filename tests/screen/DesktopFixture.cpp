@@ -149,18 +149,37 @@ std::vector<std::string> DesktopFixture::ClientCall(const std::string& method,
     std::vector<std::string> command{ "gdbus", "call", "--session", "--timeout", "40", "--dest",
         name.empty() ? BusName : name, "--object-path", BusPath(), "--method", method };
     command.insert(command.end(), arguments.begin(), arguments.end());
-    command = InSession(command);
-    command.insert(command.begin(), { "sh", "-c", "\"$@\" 2>&1 || echo error", "sh" });
-    return command;
+    return OneLine(InSession(command));
+}
+
+std::vector<std::string> DesktopFixture::OneLine(std::vector<std::string> client)
+{
+    client.insert(client.begin(),
+        { "sh", "-c", "answer=$(\"$@\" 2>&1) && printf '%s\\n' \"$answer\" || echo error", "sh" });
+    return client;
+}
+
+std::string DesktopFixture::AnswerOf(const std::vector<std::string>& client) const
+{
+    std::string answer;
+    for (const std::string& line : screen.Run(client))
+        answer = line;
+    return answer;
+}
+
+std::string DesktopFixture::Send(
+    const std::string& method, const std::vector<std::string>& arguments) const
+{
+    std::vector<std::string> command{ "dbus-send", "--session", "--print-reply",
+        "--dest=" + BusName, BusPath(), method };
+    command.insert(command.end(), arguments.begin(), arguments.end());
+    return AnswerOf(OneLine(InSession(command)));
 }
 
 std::string DesktopFixture::Call(const std::string& method,
     const std::vector<std::string>& arguments, const std::string& name) const
 {
-    std::string answer;
-    for (const std::string& line : screen.Run(ClientCall(method, arguments, name)))
-        answer = line;
-    return answer;
+    return AnswerOf(ClientCall(method, arguments, name));
 }
 
 std::string DesktopFixture::Activate() const

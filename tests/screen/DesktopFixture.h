@@ -37,6 +37,8 @@ protected:
     /// What a client of the bus is answered, on one line; "error" where it is an error.
     std::string Call(const std::string& method, const std::vector<std::string>& arguments,
         const std::string& name = {}) const;
+    /// The same, with arguments of whatever type: "int32:7".
+    std::string Send(const std::string& method, const std::vector<std::string>& arguments) const;
     std::string Activate() const;
     std::string Open(const std::vector<std::string>& files) const;
     /// The same without waiting for the answer.
@@ -56,6 +58,8 @@ protected:
 
 private:
     std::vector<std::string> InSession(std::vector<std::string> command) const;
+    std::string AnswerOf(const std::vector<std::string>& client) const;
+    static std::vector<std::string> OneLine(std::vector<std::string> client);
     std::vector<std::string> ClientCall(const std::string& method,
         const std::vector<std::string>& arguments, const std::string& name) const;
     static std::vector<std::string> Uris(const std::vector<std::string>& files);

@@ -96,7 +96,7 @@ TEST_F(OutsideFiles, WhereOneWaitsNoFurtherOneIsTaken)
 TEST_F(OutsideFiles, OnceTheDocumentIsClosedOneIsTakenAgain)
 {
     Take(Set("first.prc"));
-    WaitUntilOpen("first.prc");
+    EXPECT_TRUE(WaitUntilOpen("first.prc"));
     Entry("mnuCloseIconset").trigger();
 
     EXPECT_TRUE(Take(Set("second.prc")));
@@ -186,7 +186,7 @@ TEST_F(OutsideFiles, ExitGivesTheWaitingFileBack)
 TEST_F(OutsideFiles, AMissingFileIsToldAsByAnyLoadAndTheCopyIsFreeAgain)
 {
     EXPECT_TRUE(Take(QString::fromStdString(program.File("gone.prc"))));
-    QTest::qWaitFor([&] { return !Find<QLabel>("lblNote").text().isEmpty(); });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !Find<QLabel>("lblNote").text().isEmpty(); }));
 
     EXPECT_EQ(Find<QLabel>("lblNote").text(), "gone.prc could not be read.");
     EXPECT_TRUE(Taker().IsFree());
@@ -196,7 +196,7 @@ TEST_F(OutsideFiles, ABrokenFileIsToldAndTheNextOneOpened)
 {
     ask.Answer(QMessageBox::Ok);
     Take(Written(Bytes(200, 0), "broken.prc"));
-    QTest::qWaitFor([&] { return !ask.shown.empty(); });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !ask.shown.empty(); }));
     EXPECT_EQ(Messages(), QStringList("This file doesn't appear to be a valid Vantry IconSet"));
 
     EXPECT_TRUE(Take(Set()));
@@ -219,7 +219,7 @@ TEST_F(OutsideFiles, ATemplateAsksForTheDepthFirst)
 {
     PromptColorDepth = true;
     Take(Set("t.vpt"));
-    QTest::qWaitFor([&] { return HasWindow("frmSelectCDepth"); });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return HasWindow("frmSelectCDepth"); }));
     EXPECT_FALSE(FileLoaded);
     EXPECT_FALSE(Taker().IsFree()); // that window is about this file
 
@@ -234,7 +234,7 @@ TEST_F(OutsideFiles, ATemplateWhoseDepthIsGivenUpIsForgotten)
 {
     PromptColorDepth = true;
     Take(Set("t.vpt"));
-    QTest::qWaitFor([&] { return HasWindow("frmSelectCDepth"); });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return HasWindow("frmSelectCDepth"); }));
 
     Find<QDialog>("frmSelectCDepth").close();
 
@@ -249,7 +249,7 @@ TEST_F(OutsideFiles, OpenInsteadOfTheTemplateAsksForAFile)
 {
     PromptColorDepth = true;
     Take(Set("t.vpt"));
-    QTest::qWaitFor([&] { return HasWindow("frmSelectCDepth"); });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return HasWindow("frmSelectCDepth"); }));
 
     Entry("mnuOpen").trigger();
     ask.Choose(Set("mine.prc"));
@@ -301,7 +301,7 @@ TEST_F(OutsideFiles, AMessageWaitsAsAFileDoesAndSoDoTheFurtherOnes)
     ask.Answer(QMessageBox::Ok);
 
     window.reset();
-    QTest::qWaitFor([&] { return !ask.shown.empty(); });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !ask.shown.empty(); }));
 
     EXPECT_EQ(Messages(), QStringList("one\n\ntwo"));
 }

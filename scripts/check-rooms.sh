@@ -44,6 +44,7 @@ declare -A upstairs=(
     [sides]="sides common"
     [help]="help common"
     [greeting]="greeting common"
+    [desktop]="desktop common"
     [main]="main greeting catalogs help imaging settings sides common"
 )
 while IFS=: read -r file line text; do

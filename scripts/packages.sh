@@ -9,7 +9,7 @@ test_packages=(
     clang clang-format libclang-rt-14-dev netpbm libpalm-pdb-perl g++-mingw-w64-x86-64-posix
     g++-mingw-w64-i686-posix
     imagemagick webp xvfb openbox fonts-dejavu-core x11-utils xdotool xclip
-    tidy
+    tidy dbus libglib2.0-bin
 )
 screen_packages=(xvfb openbox fonts-dejavu-core imagemagick x11-utils xdotool)
 package_packages=(dpkg-dev file)

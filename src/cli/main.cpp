@@ -1,9 +1,12 @@
 #include "cli/Convert.h"
 #include "cli/Dump.h"
+#include "cli/ExistingFolder.h"
 #include "cli/Import.h"
 #include "cli/Scan.h"
+#include "platform/CommandLine.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <exception>
 #include <iostream>
 
@@ -15,7 +18,7 @@ void AddOpenOptions(CLI::App& command, vypx::OpenOptions& options)
     command.add_flag("--template", options.asTemplate, "FILE is a template");
     command.add_option("--app-folder", options.appFolder, "Folder with the catalogs")
         ->required()
-        ->check(CLI::ExistingDirectory);
+        ->check(vypx::ExistingFolder);
     command.add_option("--work", options.workFolder, "Folder for the pictures; absent or empty")
         ->required();
     command.add_option("--depth", options.depth, "Working colour depth")
@@ -78,7 +81,7 @@ CLI::App& AddScan(CLI::App& tool, vypx::ScanOptions& options)
     scan->add_option("FOLDER", options.folder, "Folder to search, with all below it")->required();
     scan->add_option("--app-folder", options.appFolder, "Folder with the catalogs")
         ->required()
-        ->check(CLI::ExistingDirectory);
+        ->check(vypx::ExistingFolder);
     return *scan;
 }
 
@@ -95,6 +98,7 @@ int EndOf(int exitCode)
 
 int main(int argc, char** argv)
 {
+    vypx::platform::KeepLineEnds();
     CLI::App tool("VY Pixelworks without windows: iconsets on the command line", "pixelworks-cli");
     tool.require_subcommand(1);
     vypx::OpenOptions dumpOptions;
@@ -106,7 +110,9 @@ int main(int argc, char** argv)
     AddImport(tool, importOptions);
     const CLI::App& scan = AddScan(tool, scanOptions);
     try {
-        tool.parse(argc, argv);
+        std::vector<std::string> arguments = vypx::platform::Arguments(argc, argv);
+        std::reverse(arguments.begin(), arguments.end()); // as the parser takes them
+        tool.parse(arguments);
         if (dump.parsed())
             return EndOf(vypx::Dump(dumpOptions));
         if (scan.parsed())

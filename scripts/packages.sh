@@ -11,6 +11,8 @@ test_packages=(
     imagemagick webp xvfb openbox fonts-dejavu-core x11-utils xdotool xclip
     tidy dbus libglib2.0-bin
 )
+# For scripts/check-windows.sh.
+windows_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix googletest wine wine64 python3)
 screen_packages=(xvfb openbox fonts-dejavu-core imagemagick x11-utils xdotool)
 package_packages=(dpkg-dev file)
 # What judges the package's files, and what makes a Debian to try it out in.

@@ -1,6 +1,7 @@
 #include "cli/CommandLine.h"
 #include "cli/Convert.h"
 #include "cli/Dump.h"
+#include "cli/ExistingFolder.h"
 #include "cli/Import.h"
 #include "cli/Scan.h"
 
@@ -17,7 +18,7 @@ void AddOpenOptions(CLI::App& command, OpenOptions& options)
     command.add_flag("--template", options.asTemplate, "FILE is a template");
     command.add_option("--app-folder", options.appFolder, "Folder with the catalogs")
         ->required()
-        ->check(CLI::ExistingDirectory);
+        ->check(ExistingFolder);
     command.add_option("--work", options.workFolder, "Folder for the pictures; absent or empty")
         ->required();
     command.add_option("--depth", options.depth, "Working colour depth")
@@ -93,7 +94,7 @@ void AddScan(CLI::App& tool, ChosenCommand& chosen)
     scan->add_option("FOLDER", options->folder, "Folder to search, with all below it")->required();
     scan->add_option("--app-folder", options->appFolder, "Folder with the catalogs")
         ->required()
-        ->check(CLI::ExistingDirectory);
+        ->check(ExistingFolder);
     scan->callback([options, &chosen] { chosen.run = [options] { return Scan(*options); }; });
 }
 

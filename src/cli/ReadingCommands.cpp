@@ -1,4 +1,5 @@
 #include "cli/CommandLine.h"
+#include "cli/ExistingFolder.h"
 #include "cli/Extract.h"
 #include "cli/Thumbnail.h"
 #include "cli/Validate.h"
@@ -16,7 +17,7 @@ void AddReadOptions(CLI::App& command, ReadOptions& options)
     command
         .add_option("--app-folder", options.appFolder,
             "Folder with the catalogs; without it those that come with the program count")
-        ->check(CLI::ExistingDirectory);
+        ->check(ExistingFolder);
 }
 
 void AddThumbnail(CLI::App& tool, ChosenCommand& chosen)

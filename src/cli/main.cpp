@@ -1,8 +1,12 @@
 #include "cli/CommandLine.h"
+#include "platform/CommandLine.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <exception>
 #include <iostream>
+#include <string>
+#include <vector>
 
 namespace {
 
@@ -19,6 +23,7 @@ int EndOf(int exitCode)
 
 int main(int argc, char** argv)
 {
+    vypx::platform::KeepLineEnds();
     CLI::App tool("VY Pixelworks without windows: iconsets on the command line", "pixelworks-cli");
     tool.set_version_flag("--version", "pixelworks-cli (VY Pixelworks) " VYPX_VERSION);
     tool.footer("Exit codes: 0: done; 1: not done, or something was found; 2: wrong use.\n"
@@ -29,7 +34,9 @@ int main(int argc, char** argv)
     vypx::AddScan(tool, chosen);
     vypx::AddReadingCommands(tool, chosen);
     try {
-        tool.parse(argc, argv);
+        std::vector<std::string> arguments = vypx::platform::Arguments(argc, argv);
+        std::reverse(arguments.begin(), arguments.end()); // as the parser takes them
+        tool.parse(arguments);
         return EndOf(chosen.run());
     } catch (const CLI::ParseError& error) {
         const bool askedForHelp = tool.exit(error) == 0;

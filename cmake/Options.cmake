@@ -5,6 +5,7 @@ option(VYPX_BENCHMARKS "Build the benchmarks" ON)
 option(VYPX_SANITIZE "AddressSanitizer and UndefinedBehaviorSanitizer, both fatal" OFF)
 option(VYPX_FUZZ "Build the libFuzzer targets (clang)" OFF)
 option(VYPX_INSTAIDE "Build the helper that calls InstAide.dll, and nothing else" OFF)
+option(VYPX_HARDEN "Harden what is installed (GCC or clang, with optimisation)" OFF)
 option(VYPX_COVERAGE "Count executed lines" OFF)
 
 set(CMAKE_CXX_STANDARD 20)

@@ -1,14 +1,15 @@
 # The folder that the program runs from: the program, the module VYPX, the tool, and what data/ holds.
 set(VYPX_PROGRAM_FOLDER ${PROJECT_BINARY_DIR}/program)
 
-# Puts a target's file into the program folder; it finds the module beside itself.
+# Puts a target's file into the program folder; it finds the module beside itself, and once it is
+# installed in the module's own folder.
 function(vypx_in_program_folder target)
     set_target_properties(${target} PROPERTIES
         RUNTIME_OUTPUT_DIRECTORY ${VYPX_PROGRAM_FOLDER}
         LIBRARY_OUTPUT_DIRECTORY ${VYPX_PROGRAM_FOLDER}
         BUILD_RPATH_USE_ORIGIN ON
         BUILD_RPATH "$ORIGIN"
-        INSTALL_RPATH "$ORIGIN")
+        INSTALL_RPATH "$ORIGIN/${VYPX_MODULE_FROM_PROGRAMS}")
 endfunction()
 
 # A file of data/ is copied when it has changed here, not at every build: the program's own folder

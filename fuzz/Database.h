@@ -2,9 +2,11 @@
 
 #include "document/Catalogs.h"
 #include "document/Document.h"
+#include "reader/ExtractBitmaps.h"
 #include "reader/ResourceList.h"
 #include "reader/WalkResources.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 
@@ -48,6 +50,17 @@ inline bool WalkDatabase(const std::uint8_t* data, std::size_t size, WalkState& 
     }
     WalkResources(walk, listener);
     return true;
+}
+
+/// Decodes the pictures of what was walked.
+inline void DecodePictures(WalkState& walk)
+{
+    Silent listener;
+    try {
+        BitmapTable.assign(static_cast<std::size_t>(std::max(walk.BmpTotalNum, 0)) + 1, {});
+        ExtractBitmaps(walk, listener);
+    } catch (const BrokenFile&) {
+    }
 }
 
 } // namespace vypx::fuzz

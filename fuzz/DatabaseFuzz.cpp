@@ -3,7 +3,6 @@
 
 #include "Database.h"
 #include "document/WorkingFolder.h"
-#include "reader/ExtractBitmaps.h"
 #include "settings/Settings.h"
 
 using namespace vypx;
@@ -19,12 +18,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     WalkState walk;
     if (!fuzz::WalkDatabase(data + 1, size - 1, walk))
         return 0;
-    fuzz::Silent listener;
-    try {
-        BitmapTable.assign(static_cast<std::size_t>(std::max(walk.BmpTotalNum, 0)) + 1, {});
-        ExtractBitmaps(walk, listener);
-    } catch (const BrokenFile&) {
-    }
+    fuzz::DecodePictures(walk);
     for (int row = 0; row < BitmapRow; ++row)
         fuzz::Require(BitmapTable.at(static_cast<std::size_t>(row)).hasTransparent.has_value());
     return 0;

@@ -15,7 +15,7 @@ declare -A may=(
     [reader]="reader imaging catalogs document settings companion platform"
     [writer]="writer imaging catalogs document settings companion platform"
     [install]="install document settings companion platform"
-    [instaide]="instaide install"
+    [instaide]="instaide install platform"
     [cli]="cli pictures writer reader imaging catalogs document settings companion platform"
     [forms]="forms install pictures writer reader imaging catalogs document settings companion platform"
 )
@@ -44,6 +44,7 @@ declare -A upstairs=(
     [sides]="sides common"
     [help]="help common"
     [greeting]="greeting common"
+    [desktop]="desktop common"
     [main]="main greeting catalogs help imaging settings sides common"
 )
 while IFS=: read -r file line text; do

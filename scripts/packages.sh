@@ -1,4 +1,4 @@
-# Sourced by ./run and ./test: installs the Debian packages that are missing.
+# Sourced by ./run, ./test and ./package: installs the Debian packages that are missing.
 
 build_packages=(
     g++ cmake ninja-build qt6-base-dev libcli11-dev nlohmann-json3-dev
@@ -9,9 +9,15 @@ test_packages=(
     clang clang-format libclang-rt-14-dev netpbm libpalm-pdb-perl g++-mingw-w64-x86-64-posix
     g++-mingw-w64-i686-posix
     imagemagick webp xvfb openbox fonts-dejavu-core x11-utils xdotool xclip
-    tidy
+    tidy dbus libglib2.0-bin
 )
+# For scripts/check-windows.sh.
+windows_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix googletest wine wine64 python3)
 screen_packages=(xvfb openbox fonts-dejavu-core imagemagick x11-utils xdotool)
+package_packages=(dpkg-dev file)
+# What judges the package's files, and what makes a Debian to try it out in.
+judge_packages=(lintian mandoc appstream desktop-file-utils libxml2-utils shared-mime-info libglib2.0-bin)
+root_packages=(mmdebstrap)
 
 # With the seconds since the start: what takes long shows in any log.
 say() { printf '== %d s: %s\n' "$SECONDS" "$*"; }

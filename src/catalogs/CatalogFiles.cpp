@@ -3,7 +3,6 @@
 #include "catalogs/CatalogEntries.h"
 #include "document/Catalogs.h"
 #include "document/WorkingFolder.h"
-#include "platform/Platform.h"
 #include "settings/IniStore.h"
 #include "settings/Inifile.h"
 #include "settings/LetterCase.h"
@@ -130,7 +129,7 @@ std::optional<CutCatalog> ReadSections(std::string_view file, std::vector<Row>& 
 {
     cInifile ini;
     ini.path(AppFolder + BelowFolder(file));
-    if (!platform::ReadWholeFile(ini.path())) // one that can't be read is as good as missing
+    if (!IniIsThere(ini.path())) // one that can't be read is as good as missing
         show(missing);
     std::vector<std::string> sections;
     std::int32_t count = 0;

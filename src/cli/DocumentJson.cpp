@@ -66,14 +66,6 @@ Json Index()
     return records;
 }
 
-std::string HexColour(Rgb colour)
-{
-    char text[sizeof "#rrggbb"];
-    std::snprintf(text, sizeof text, "#%02x%02x%02x", static_cast<unsigned>(colour.red & 255),
-        static_cast<unsigned>(colour.green & 255), static_cast<unsigned>(colour.blue & 255));
-    return text;
-}
-
 Json Nodes()
 {
     std::vector<IconNode> sorted = Tree.Nodes();
@@ -102,6 +94,14 @@ Json Stats()
 }
 
 } // namespace
+
+std::string HexColour(Rgb colour)
+{
+    char text[sizeof "#rrggbb"];
+    std::snprintf(text, sizeof text, "#%02x%02x%02x", static_cast<unsigned>(colour.red & 255),
+        static_cast<unsigned>(colour.green & 255), static_cast<unsigned>(colour.blue & 255));
+    return text;
+}
 
 Json DocumentJson(const std::vector<std::string>& messages)
 {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "companion/Rgb.h"
+
 #include <nlohmann/json_fwd.hpp>
 #include <string>
 #include <string_view>
@@ -20,5 +22,8 @@ namespace vypx {
 ///
 /// Bytes of texts are Latin-1 code points.
 nlohmann::ordered_json DocumentJson(const std::vector<std::string>& messages);
+
+/// "#rrggbb"
+std::string HexColour(Rgb colour);
 
 } // namespace vypx

@@ -1,6 +1,7 @@
 #include "cli/OpenIconset.h"
 
 #include "catalogs/CatalogFiles.h"
+#include "cli/OutputFolder.h"
 #include "companion/Latin1.h"
 #include "document/Document.h"
 #include "document/WorkingFolder.h"
@@ -22,17 +23,11 @@ namespace fs = std::filesystem;
 /// deleted by the load.
 bool UseFolders(const OpenOptions& options)
 {
-    std::error_code error;
+    OutputFolder folder;
+    if (!folder.Use(options.workFolder, "the work folder"))
+        return false;
+    folder.Keep();
     const fs::path work = platform::NativePath(options.workFolder);
-    if (fs::exists(work, error) && !(fs::is_directory(work, error) && fs::is_empty(work, error))) {
-        Tell("the work folder is not empty: " + options.workFolder);
-        return false;
-    }
-    fs::create_directories(work, error);
-    if (!fs::is_directory(work, error)) {
-        Tell("can't make the work folder: " + options.workFolder);
-        return false;
-    }
     // The work folder stands wherever the caller wants it; from the program's folder a way leads
     // there.
     const fs::path app = fs::canonical(platform::NativePath(options.appFolder));

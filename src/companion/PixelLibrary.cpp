@@ -7,6 +7,7 @@
 #include <array>
 #include <new>
 #include <stdexcept>
+#include <utility>
 
 namespace vypx {
 
@@ -55,13 +56,19 @@ std::error_code WriteBmp(
     });
 }
 
+/// Whether the pixels were all made, in rows that are wide enough.
+bool HasPicture(const PixelBuffer& pixels, int depth, int width, int height)
+{
+    const int needed = static_cast<int>((static_cast<std::int64_t>(width) * depth + 7) / 8);
+    return needed <= pixels.RowBytes() + pixels.RowPad() && height <= pixels.RowsMade();
+}
+
 /// Writes the pixels at `depth` bits as a 24-bit BMP; `fillRow(in, out)` turns a row.
 template <typename FillRow>
 std::error_code WriteRows(const PixelBuffer& pixels, int depth, int width, int height,
     const std::string& path, const FillRow& fillRow)
 {
-    const int needed = static_cast<int>((static_cast<std::int64_t>(width) * depth + 7) / 8);
-    if (needed > pixels.RowBytes() + pixels.RowPad() || height > pixels.RowsMade())
+    if (!HasPicture(pixels, depth, width, height))
         return NoPicture();
     return WriteBmp(width, height, 24, {}, path, [&](BmpBytes& bmp) {
         for (int y = 0; y < height; ++y)
@@ -79,18 +86,24 @@ Table TableOf(Palette palette)
     return table;
 }
 
+/// Turns a row of indices into pixels of a BMP.
 template <int Depth>
-std::error_code WriteIndexed(
-    const PixelBuffer& pixels, const Table& table, int width, int height, const std::string& path)
+auto IndexedRow(const Table& table, int width)
 {
-    constexpr int PerByte = 8 / Depth, Mask = (1 << Depth) - 1;
-    const auto fillRow = [&](const std::uint8_t* in, std::uint8_t* out) {
+    return [&table, width](const std::uint8_t* in, std::uint8_t* out) {
+        constexpr int PerByte = 8 / Depth, Mask = (1 << Depth) - 1;
         for (int x = 0; x < width; ++x, out += 3) {
             const int shift = 8 - Depth - x % PerByte * Depth;
             Put(out, table[static_cast<std::size_t>(in[x / PerByte] >> shift & Mask)]);
         }
     };
-    return WriteRows(pixels, Depth, width, height, path, fillRow);
+}
+
+template <int Depth>
+std::error_code WriteIndexed(
+    const PixelBuffer& pixels, const Table& table, int width, int height, const std::string& path)
+{
+    return WriteRows(pixels, Depth, width, height, path, IndexedRow<Depth>(table, width));
 }
 
 std::error_code WriteReduced16(
@@ -122,6 +135,33 @@ struct Widener {
 };
 
 constexpr Widener Wide;
+
+/// Turns a row of 5-6-5 colours into pixels of a BMP.
+auto WidenedRow(int width)
+{
+    return [width](const std::uint8_t* in, std::uint8_t* out) {
+        for (int x = 0; x < width; ++x, in += 2, out += 3) {
+            const auto colour = static_cast<std::size_t>(in[0] << 8 | in[1]);
+            Put(out,
+                { Wide.five[colour & 0x1F], Wide.six[colour >> 5 & 0x3F],
+                    Wide.five[colour >> 11] });
+        }
+    };
+}
+
+/// The same pixels in memory.
+template <typename FillRow>
+Picture MakePicture(const PixelBuffer& pixels, int width, int height, const FillRow& fillRow)
+{
+    Picture picture(width, height);
+    for (int y = 0; y < height; ++y) {
+        std::uint8_t* pixel = picture.Row(y);
+        fillRow(pixels.Row(y), pixel);
+        for (int x = 0; x < width; ++x, pixel += 3)
+            std::swap(pixel[0], pixel[2]);
+    }
+    return picture;
+}
 
 std::error_code WriteNearest(const Picture& picture, Palette palette, int bits, int width,
     int height, const std::string& path)
@@ -173,15 +213,23 @@ std::error_code Bmp8to24(
 
 std::error_code Bmp16to24(const PixelBuffer& pixels, int width, int height, const std::string& path)
 {
-    const auto fillRow = [&](const std::uint8_t* in, std::uint8_t* out) {
-        for (int x = 0; x < width; ++x, in += 2, out += 3) {
-            const auto colour = static_cast<std::size_t>(in[0] << 8 | in[1]);
-            Put(out,
-                { Wide.five[colour & 0x1F], Wide.six[colour >> 5 & 0x3F],
-                    Wide.five[colour >> 11] });
-        }
-    };
-    return WriteRows(pixels, 16, width, height, path, fillRow);
+    return WriteRows(pixels, 16, width, height, path, WidenedRow(width));
+}
+
+Picture PictureOf(const PixelBuffer& pixels, int depth, int width, int height)
+{
+    if (width < 1 || height < 1 || width > Picture::MaxSide || height > Picture::MaxSide
+        || !HasPicture(pixels, depth, width, height))
+        return {};
+    if (depth == 16)
+        return MakePicture(pixels, width, height, WidenedRow(width));
+    if (depth == 8)
+        return MakePicture(pixels, width, height, IndexedRow<8>(TableOf(Palette8), width));
+    if (depth == 4)
+        return MakePicture(pixels, width, height, IndexedRow<4>(TableOf(Palette4), width));
+    if (depth == 2)
+        return MakePicture(pixels, width, height, IndexedRow<2>(TableOf(Palette2), width));
+    return MakePicture(pixels, width, height, IndexedRow<1>(TableOf(Palette1), width));
 }
 
 std::error_code RGB16to8Bit(const PixelBuffer& pixels, Palette palette8, int width, int height, int,

@@ -33,7 +33,11 @@ std::error_code Bmp8to24(
 std::error_code Bmp16to24(
     const PixelBuffer& pixels, int width, int height, const std::string& path);
 
-/// The same with each pixel replaced by the nearest colour of the table. The source depth, 16 or
+/// The same pixels in memory, at 1, 2, 4, 8 or 16 bits and by the system's colour tables, as the
+/// files above would have them. Null: there is no such picture.
+Picture PictureOf(const PixelBuffer& pixels, int depth, int width, int height);
+
+/// A BMP file with each pixel replaced by the nearest colour of the table. The source depth, 16 or
 /// 8, is the bitmap's.
 std::error_code RGB16to8Bit(const PixelBuffer& pixels, Palette palette8, int width, int height,
     int sourceDepth, const std::string& path);

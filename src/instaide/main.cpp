@@ -3,11 +3,7 @@
 // Exit code 0: it replied; 1: there was no call, or nobody to reply to.
 
 #include "install/InstAideTalk.h"
-
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
-#include <windows.h>
+#include "platform/WindowsApi.h"
 
 namespace vypx {
 

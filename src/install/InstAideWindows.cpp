@@ -3,13 +3,9 @@
 #include "install/InstAideTalk.h"
 #include "install/InstAideWay.h"
 #include "platform/Platform.h"
+#include "platform/WindowsApi.h"
 
 #include <algorithm>
-
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
-#include <windows.h>
 
 namespace vypx {
 

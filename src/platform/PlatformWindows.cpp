@@ -2,14 +2,9 @@
 
 #include "platform/PassingFile.h"
 #include "platform/Platform.h"
+#include "platform/WindowsApi.h"
 
 #include <algorithm>
-
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
-#include <windows.h>
-#undef ReplaceFile // a macro there
 
 namespace vypx::platform {
 
@@ -23,6 +18,29 @@ std::error_code LastError()
 std::int64_t Nanoseconds(const LARGE_INTEGER& time)
 {
     return NanosecondsFromFileTime(static_cast<std::uint64_t>(time.QuadPart));
+}
+
+std::optional<FileIdentity> Identify(HANDLE file)
+{
+    BY_HANDLE_FILE_INFORMATION info{};
+    FILE_BASIC_INFO times{};
+    if (!::GetFileInformationByHandle(file, &info)
+        || !::GetFileInformationByHandleEx(file, FileBasicInfo, &times, sizeof times))
+        return std::nullopt;
+    return FileIdentity{
+        .volume = info.dwVolumeSerialNumber,
+        .file = (static_cast<std::uint64_t>(info.nFileIndexHigh) << 32) | info.nFileIndexLow,
+        .size = (static_cast<std::uint64_t>(info.nFileSizeHigh) << 32) | info.nFileSizeLow,
+        .modified = Nanoseconds(times.LastWriteTime),
+        .changed = Nanoseconds(times.ChangeTime),
+    };
+}
+
+/// Whether the open file is the one that stands at `path`, and not one that was deleted meanwhile.
+bool StandsAt(HANDLE file, const std::string& path)
+{
+    const std::optional<FileIdentity> open = Identify(file), there = IdentityOf(path);
+    return open && there && open->volume == there->volume && open->file == there->file;
 }
 
 /// Nobody else can open, read or delete the file while it is written.
@@ -84,20 +102,9 @@ std::optional<FileIdentity> IdentityOf(const std::string& path)
         FILE_FLAG_BACKUP_SEMANTICS, nullptr);
     if (file == INVALID_HANDLE_VALUE)
         return std::nullopt;
-    BY_HANDLE_FILE_INFORMATION info{};
-    FILE_BASIC_INFO times{};
-    const bool known = ::GetFileInformationByHandle(file, &info)
-        && ::GetFileInformationByHandleEx(file, FileBasicInfo, &times, sizeof times);
+    const std::optional<FileIdentity> identity = Identify(file);
     ::CloseHandle(file);
-    if (!known)
-        return std::nullopt;
-    return FileIdentity{
-        .volume = info.dwVolumeSerialNumber,
-        .file = (static_cast<std::uint64_t>(info.nFileIndexHigh) << 32) | info.nFileIndexLow,
-        .size = (static_cast<std::uint64_t>(info.nFileSizeHigh) << 32) | info.nFileSizeLow,
-        .modified = Nanoseconds(times.LastWriteTime),
-        .changed = Nanoseconds(times.ChangeTime),
-    };
+    return identity;
 }
 
 std::error_code ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes,
@@ -136,19 +143,31 @@ std::error_code ReplaceFile(const std::string& path, std::span<const std::uint8_
 FileLock::Answer FileLock::TryLock(const std::string& path)
 {
     Unlock();
-    const HANDLE file = ::CreateFileW(NativePath(path).c_str(), GENERIC_READ | GENERIC_WRITE,
-        FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_ALWAYS,
-        FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE)
-        return Answer::Failed;
-    OVERLAPPED where{};
-    if (!::LockFileEx(file, LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0, &where)) {
-        const bool held = ::GetLastError() == ERROR_LOCK_VIOLATION;
-        ::CloseHandle(file);
-        return held ? Answer::HeldByAnother : Answer::Failed;
+    constexpr int Tries = 10;
+    for (int i = 0; i < Tries; ++i) {
+        const HANDLE file = ::CreateFileW(NativePath(path).c_str(), GENERIC_READ | GENERIC_WRITE,
+            FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_ALWAYS,
+            FILE_ATTRIBUTE_NORMAL, nullptr);
+        if (file == INVALID_HANDLE_VALUE) {
+            if (::GetLastError() != ERROR_ACCESS_DENIED)
+                return Answer::Failed;
+            ::Sleep(1); // one that is deleted while it is open may keep its name until it is closed
+            continue;
+        }
+        OVERLAPPED where{};
+        if (!::LockFileEx(
+                file, LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0, &where)) {
+            const bool held = ::GetLastError() == ERROR_LOCK_VIOLATION;
+            ::CloseHandle(file);
+            return held ? Answer::HeldByAnother : Answer::Failed;
+        }
+        if (StandsAt(file, path)) {
+            m_handle = reinterpret_cast<std::intptr_t>(file);
+            return Answer::Taken;
+        }
+        ::CloseHandle(file); // deleted since it was opened
     }
-    m_handle = reinterpret_cast<std::intptr_t>(file);
-    return Answer::Taken;
+    return Answer::Failed;
 }
 
 void FileLock::Unlock()

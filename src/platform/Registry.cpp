@@ -4,14 +4,10 @@
 
 #include "platform/Platform.h"
 #include "platform/WideText.h"
+#include "platform/WindowsApi.h"
 
 #include <algorithm>
 #include <array>
-
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
-#include <windows.h>
 
 namespace vypx::platform {
 

@@ -3,11 +3,9 @@
 #include <algorithm>
 
 #ifdef _WIN32
+#include "platform/WindowsApi.h"
+
 #include <array>
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
-#include <windows.h>
 #endif
 
 namespace vypx::platform {

@@ -3,7 +3,9 @@
 #include "companion/DensityMark.h"
 #include "companion/PixelLibrary.h"
 #include "document/Document.h"
+#include "document/Slot.h"
 #include "document/WorkingFolder.h"
+#include "reader/PictureSink.h"
 #include "reader/Progress.h"
 #include "settings/Settings.h"
 
@@ -25,6 +27,13 @@ Rgb EntryOf(Palette palette, int index)
         throw BrokenFile("a transparent index beyond the palette");
     return palette[entry];
 }
+
+bool IsPixelSize(int bits)
+{
+    return bits == 1 || bits == 2 || bits == 4 || bits == 8 || bits == 16;
+}
+
+BrokenFile NoPixelSize() { return BrokenFile("a pixel size that no bitmap has"); }
 
 /// The working depth only ever lowers colours.
 int WorkingDepth() { return BitsOf(DefaultColorDepth); }
@@ -131,14 +140,39 @@ void BitmapDecoder::Pick(std::size_t position, std::size_t size, bool highDensit
     Bytes bitmapBytes(2 * m_size);
     std::copy(bytes.begin(), bytes.end(), bitmapBytes.begin());
     const BitmapRecord record{ .bytes = bitmapBytes, .highDensity = highDensity };
-    NoteTransparency(record, file);
-    const std::error_code error = WriteWorkingBmp(record, file);
+    const BitmapEntry& entry = NoteTransparency(record, file);
+    std::error_code error;
+    if (m_load.pictures)
+        HandOver(record, entry);
+    else
+        error = WriteWorkingBmp(record, file);
     if (error && error != NoPicture() && ++m_load.picturesNotStored == 1)
         m_load.whyNotStored = error.message();
     ProgBar(m_load, m_listener);
 }
 
-void BitmapDecoder::NoteTransparency(const BitmapRecord& record, const std::string& file)
+void BitmapDecoder::HandOver(const BitmapRecord& record, const BitmapEntry& entry)
+{
+    const PictureHeader header{
+        .resourceKey = m_load.ResourceName,
+        .file = entry.file,
+        .highDensity = record.highDensity,
+        .width = record.Width(),
+        .height = record.Height(),
+        .rowBytes = record.RowBytes(),
+        .depth = record.PixelSize(),
+        .transparent = TransparentColour(entry),
+    };
+    if (!m_load.pictures->Wants(header))
+        return;
+    const PixelBuffer pixels = ExpandPixels(record.Pixels(), record.Form());
+    if (!IsPixelSize(header.depth))
+        throw NoPixelSize();
+    m_load.pictures->Take(header, PictureOf(pixels, header.depth, header.width, header.height));
+}
+
+const BitmapEntry& BitmapDecoder::NoteTransparency(
+    const BitmapRecord& record, const std::string& file)
 {
     const auto row = static_cast<std::size_t>(BitmapRow);
     if (row >= BitmapTable.size())
@@ -148,7 +182,7 @@ void BitmapDecoder::NoteTransparency(const BitmapRecord& record, const std::stri
     entry.depth = record.PixelSize();
     ++BitmapRow;
     if (!record.HasTransparent())
-        return;
+        return entry;
 
     // On purpose: at 1 and 2 bits the colour's cells stay empty.
     if (entry.depth != 16)
@@ -161,12 +195,13 @@ void BitmapDecoder::NoteTransparency(const BitmapRecord& record, const std::stri
     else if (entry.depth == 4)
         colour = EntryOf(Palette4, *entry.index);
     else
-        return;
+        return entry;
     if (entry.depth >= 8 && WorkingDepth() < 16)
         TCchange(Palette4, Palette8, WorkingDepth(), colour.red, colour.green, colour.blue);
     entry.red = colour.red;
     entry.green = colour.green;
     entry.blue = colour.blue;
+    return entry;
 }
 
 std::error_code BitmapDecoder::WriteWorkingBmp(const BitmapRecord& record, const std::string& file)
@@ -190,7 +225,7 @@ std::error_code BitmapDecoder::WriteWorkingBmp(const BitmapRecord& record, const
         return Bmp2to24(pixels, Palette2, width, height, path);
     if (depth == 1)
         return Bmp1to24(pixels, Palette1, width, height, path);
-    throw BrokenFile("a pixel size that no bitmap has");
+    throw NoPixelSize();
 }
 
 } // namespace vypx

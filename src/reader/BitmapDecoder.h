@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/Document.h"
 #include "reader/BitmapRecord.h"
 #include "reader/LoadListener.h"
 #include "reader/WalkState.h"
@@ -13,7 +14,8 @@ namespace vypx {
 
 /// Decodes the bitmap family of one resource after the other. Of each family the last low-density
 /// record and one high-density record become working files at the working depth; the rows of
-/// IconTable that carry the resource get the files' names, and BitmapTable a row for each.
+/// IconTable that carry the resource get the files' names, and BitmapTable a row for each. A load
+/// into memory hands the pictures to its sink instead, and no working file is made.
 ///
 /// Made once for a load, when IconTable has its rows.
 class BitmapDecoder {
@@ -39,7 +41,8 @@ private:
     void OuterPass();
     void DecodeHighDensity(std::size_t position);
     void Pick(std::size_t position, std::size_t size, bool highDensity);
-    void NoteTransparency(const BitmapRecord& record, const std::string& file);
+    const BitmapEntry& NoteTransparency(const BitmapRecord& record, const std::string& file);
+    void HandOver(const BitmapRecord& record, const BitmapEntry& entry);
     std::error_code WriteWorkingBmp(const BitmapRecord& record, const std::string& file);
     ByteView Resource() const { return ByteView(m_load.ResourceBytes).Part(1, m_size); }
 

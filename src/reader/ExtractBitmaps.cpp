@@ -1,6 +1,7 @@
 #include "reader/ExtractBitmaps.h"
 
 #include "document/Document.h"
+#include "reader/PictureSink.h"
 #include "reader/ResourceList.h"
 
 namespace vypx {
@@ -37,8 +38,11 @@ void ExtractBitmaps(WalkState& walk, LoadListener& listener)
             walk.NextOffset = ReadDataOffset(walk.FCin + EntrySize);
             walk.ResourceSize = walk.NextOffset - walk.ResourceOffset;
         }
-        if (entry.type == "tAIB" || entry.type == "Tbmp")
-            LoadBitmapResource(walk, decoder, listener);
+        if (entry.type != "tAIB" && entry.type != "Tbmp")
+            continue;
+        if (walk.pictures && !walk.pictures->GoOn())
+            break;
+        LoadBitmapResource(walk, decoder, listener);
     }
     listener.BusyEnded();
 }

@@ -17,9 +17,8 @@ namespace vypx {
 
 namespace {
 
-/// Shortest length of a file that is looked at, and the longest whose size fits IconFileSize.
+/// Shortest length of a file that is looked at.
 constexpr std::size_t MinFileLength = 69;
-constexpr std::uintmax_t MaxFileLength = INT32_MAX - 1;
 
 /// The file can't be an iconset; ends the load with these words.
 struct NoIconset {
@@ -41,9 +40,9 @@ void ClearTree(LoadListener& listener)
 }
 
 /// Fills FileCashe so that index 1 is the first byte and a zero byte stands behind the last.
-void ReadWholeIconset()
+void ReadWholeIconset(std::uintmax_t largest)
 {
-    const std::optional<Bytes> file = platform::ReadWholeFile(FileName, MaxFileLength);
+    const std::optional<Bytes> file = platform::ReadWholeFile(FileName, largest);
     if (!file)
         throw BrokenFile("can't be read");
     if (file->size() < MinFileLength)
@@ -126,10 +125,10 @@ void FillFileCells(bool all)
     }
 }
 
-void ReadDocument(WalkState& walk, LoadListener& listener)
+void ReadDocument(const LoadRequest& request, WalkState& walk, LoadListener& listener)
 {
-    ReadWholeIconset();
-    CheckTypeAndCreator(walk.asTemplate);
+    ReadWholeIconset(request.largest);
+    CheckTypeAndCreator(request.asTemplate);
     NameTheDocument(listener);
     SizeTables();
     listener.ClearPictures();
@@ -178,7 +177,7 @@ LoadResult ReplaceDocument(const LoadRequest& request, WalkState& walk, LoadList
         FileName = request.path;
         RememberFolder(listener);
         ClearTree(listener);
-        ReadDocument(walk, listener);
+        ReadDocument(request, walk, listener);
         FinishDocument(request.asTemplate, listener);
         return LoadResult::Opened;
     } catch (const NoIconset& no) {
@@ -212,7 +211,11 @@ LoadReport LoadFile(const LoadRequest& request, LoadListener& listener)
         }
         DeleteWorkingFiles({ ".bmp" }); // the open document's pictures, so not a moment before
     }
-    WalkState walk{ .asTemplate = request.asTemplate, .withoutPictures = request.withoutPictures };
+    WalkState walk{
+        .asTemplate = request.asTemplate,
+        .withoutPictures = request.withoutPictures,
+        .pictures = request.pictures,
+    };
     LoadReport report{ .result = ReplaceDocument(request, walk, listener) };
     report.picturesNotStored = walk.picturesNotStored;
     report.whyNotStored = walk.whyNotStored;

@@ -8,6 +8,8 @@
 
 namespace vypx {
 
+class PictureSink;
+
 /// One bitmap of the family being walked.
 struct FamilyMember {
     int depth = 0;   ///< pixel size in bits, as the record says it
@@ -19,8 +21,9 @@ inline constexpr std::size_t MaxFamilyMembers = 11;
 /// Where the walks over one file stand. LoadFile makes it and hands it along; it goes with the
 /// load.
 struct WalkState {
-    bool asTemplate = false;      ///< the file is read as a template
-    bool withoutPictures = false; ///< none are read
+    bool asTemplate = false;         ///< the file is read as a template
+    bool withoutPictures = false;    ///< none are read
+    PictureSink* pictures = nullptr; ///< gets them instead of the working folder
 
     std::int32_t FCin = 0; ///< index into FileCashe of the current list entry
     int Rcntr = 0;         ///< number of the current resource, from 1

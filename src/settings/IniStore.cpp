@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <utility>
 
 namespace vypx {
 
@@ -78,25 +79,61 @@ bool IsUnreadable(const Kept& kept, const std::string& path)
         && (std::filesystem::exists(platform::NativePath(path), unknown) || unknown);
 }
 
+using HeldTexts = std::map<std::string, std::shared_ptr<const IniText>>;
+
+/// Texts that no file has.
+HeldTexts& AllHeld()
+{
+    static HeldTexts held;
+    return held;
+}
+
+/// An edit of a text that no file has.
+bool EditHeld(std::shared_ptr<const IniText>& held, const std::function<bool(IniText&)>& edit)
+{
+    IniText text = *held;
+    if (!edit(text))
+        return false;
+    held = std::make_shared<const IniText>(std::move(text));
+    return true;
+}
+
 } // namespace
 
 std::shared_ptr<const IniText> ReadIni(const std::string& path)
 {
     if (path.empty())
         return std::make_shared<const IniText>();
+    if (const auto held = AllHeld().find(path); held != AllHeld().end())
+        return held->second;
     return Look(path).text;
 }
 
 std::shared_ptr<const IniText> ReadIniOrNull(const std::string& path)
 {
+    if (AllHeld().contains(path))
+        return ReadIni(path);
     const Kept& kept = Look(path);
     return IsUnreadable(kept, path) ? nullptr : kept.text;
+}
+
+bool IniIsThere(const std::string& path)
+{
+    // A look would not tell a file without text from none.
+    return AllHeld().contains(path) || platform::ReadWholeFile(path);
+}
+
+void HoldIni(const std::string& path, std::string_view text)
+{
+    AllHeld()[path] = std::make_shared<const IniText>(text);
 }
 
 bool EditIni(const std::string& path, const std::function<bool(IniText&)>& edit)
 {
     if (path.empty())
         return false;
+    if (const auto held = AllHeld().find(path); held != AllHeld().end())
+        return EditHeld(held->second, edit);
     const platform::Turn turn(LockFileOf(path), platform::Turn::LockFile::Stays);
     const Kept& kept = Look(path);
     if (IsUnreadable(kept, path))

@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace vypx {
 
@@ -17,6 +18,13 @@ inline constexpr std::size_t MaxIniSize = 64u << 20;
 std::shared_ptr<const IniText> ReadIni(const std::string& path);
 /// The same, but null where there is a file that can't be read.
 std::shared_ptr<const IniText> ReadIniOrNull(const std::string& path);
+
+/// Whether there is a file at `path` that can be read.
+bool IniIsThere(const std::string& path);
+
+/// From now on `text` is what stands at `path`, whatever the disk has there: reads see it, edits
+/// change it in memory alone and succeed.
+void HoldIni(const std::string& path, std::string_view text);
 
 /// Applies `edit` to the file's text and replaces the file in one step; makes the file if it is
 /// missing. Two programs that edit one file at once don't lose each other's changes: they take

@@ -158,13 +158,9 @@ IconIndex CollectIconIndex(bool forTemplate)
     return maker.Taken();
 }
 
-IconIndex BuildIconTableResource(bool forTemplate)
+IconIndex CollectWrittenIndex(bool forTemplate)
 {
     IconIndex kept;
-    if (!FileLoaded)
-        return kept;
-    std::error_code ignored;
-    std::filesystem::remove(platform::NativePath(WorkPath("iTbl.bin")), ignored);
     const IconIndex all = CollectIconIndex(forTemplate);
     for (std::size_t i = 0; i < all.values.size(); ++i) {
         if (all.keys[i].entryClass == 0)
@@ -173,6 +169,16 @@ IconIndex BuildIconTableResource(bool forTemplate)
         kept.keys.push_back(all.keys[i]);
         kept.ownersFromRows.push_back(all.ownersFromRows[i]);
     }
+    return kept;
+}
+
+IconIndex BuildIconTableResource(bool forTemplate)
+{
+    if (!FileLoaded)
+        return {};
+    std::error_code ignored;
+    std::filesystem::remove(platform::NativePath(WorkPath("iTbl.bin")), ignored);
+    const IconIndex kept = CollectWrittenIndex(forTemplate);
     if (kept.values.empty())
         return kept;
     const std::string path = WorkPath("iTbl1000.bin");

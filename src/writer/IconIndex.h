@@ -22,6 +22,9 @@ struct IconIndex {
 /// never takes the place of one that is known.
 IconIndex CollectIconIndex(bool forTemplate = false);
 
+/// The same without the records that are not written, as no class of entries takes them.
+IconIndex CollectWrittenIndex(bool forTemplate = false);
+
 /// Writes `iTbl1000.bin` of the working folder; none when no application qualifies. Gives back what
 /// was written. Throws SaveFailure.
 IconIndex BuildIconTableResource(bool forTemplate = false);

@@ -85,7 +85,7 @@ TEST_F(AddPrcFilesTest, EndingsOfLinesAndWhatOthersWroteStay)
 
     Search();
 
-    EXPECT_EQ(Apps(),
+    EXPECT_EQ(ReadText(AppListFile()),
         "; mine\r\n\r\n[Old]\r\nNote=x\r\nType=appl\r\nCreator={OLDA}\r\n; end\r\n"
         "[One]\r\nType=appl\r\nCreator={AAAA}\r\n");
 }

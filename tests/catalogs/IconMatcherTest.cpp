@@ -2,8 +2,7 @@
 
 #include "companion/IconRow.h"
 #include "support/LoadFixture.h"
-
-#include <rapidcheck/gtest.h>
+#include "support/Properties.h"
 
 namespace vypx::test {
 
@@ -50,6 +49,7 @@ std::string SearchNote(int id)
     return note;
 }
 
+#ifdef RC_GTEST_PROP
 /// Few different words, so that many rows meet.
 std::vector<CatalogRow> SomeCatalog()
 {
@@ -83,6 +83,7 @@ RC_GTEST_PROP(IconMatcher, AnswersWhatASearchThroughEverythingAnswers, ())
     ResetCatalogs();
     Itbl.clear();
 }
+#endif
 
 TEST(IconMatcher, AnIdWithAFractionIsNoResources)
 {

@@ -2,6 +2,7 @@
 
 #include "support/CommonUser.h"
 #include "support/SearchFixture.h"
+#include "support/Skips.h"
 
 namespace vypx::test {
 
@@ -19,8 +20,10 @@ protected:
     static std::vector<std::string> Found()
     {
         std::vector<std::string> names;
-        for (const std::string& path : listPRC)
+        for (const std::string& path : listPRC) {
             names.push_back(path.substr(SearchRoot.size()));
+            std::replace(names.back().begin(), names.back().end(), platform::PathSeparator, '/');
+        }
         return names;
     }
 };
@@ -69,16 +72,16 @@ TEST_F(PrcSearch, CountsMatchesAndAllEntries)
 TEST_F(PrcSearch, TheRootEndsInOneSeparator)
 {
     Touch("a.prc");
-    const std::string bare = SearchFolder;
+    const std::string root = SearchFolder + platform::PathSeparator;
 
     Walk();
-    EXPECT_EQ(SearchRoot, bare + "/");
+    EXPECT_EQ(SearchRoot, root);
 
-    SearchFolder = bare + "/";
+    SearchFolder = root;
     listPRC.clear();
     Walk();
-    EXPECT_EQ(SearchRoot, bare + "/");
-    EXPECT_THAT(listPRC, ElementsAre(bare + "/a.prc"));
+    EXPECT_EQ(SearchRoot, root);
+    EXPECT_THAT(listPRC, ElementsAre(root + "a.prc"));
 }
 
 TEST_F(PrcSearch, FoldersThatBeginWithAFullStopAreNotEnteredButFilesCount)
@@ -124,6 +127,8 @@ TEST_F(PrcSearch, WholePathsComeInTheOrderOfTheirBytes)
     std::vector<std::string> sorted = listPRC;
     std::sort(sorted.begin(), sorted.end());
     EXPECT_EQ(listPRC, sorted);
+    if (platform::PathSeparator != '/')
+        GTEST_SKIP() << "another separator, and so another order";
     EXPECT_THAT(Found(),
         ElementsAre("B.prc", "a-b/x.prc", "a.d/x.prc", "a.prc", "a/b/y.prc", "a/x.prc", "a0.prc",
             "z.prc", "\xC3\xA9.prc"));
@@ -131,6 +136,7 @@ TEST_F(PrcSearch, WholePathsComeInTheOrderOfTheirBytes)
 
 TEST_F(PrcSearch, EachFolderIsVisitedOnceWhateverLinksLeadToIt)
 {
+    SKIP_WITHOUT_LINKS();
     Touch("b/a.prc");
     fs::create_directory_symlink(SearchFolder, InPalm("b/loop"));
     fs::create_directory_symlink(InPalm("b"), InPalm("a-link"));
@@ -148,6 +154,7 @@ TEST_F(PrcSearch, EachFolderIsVisitedOnceWhateverLinksLeadToIt)
 /// Twenty levels of two links each would be a million paths.
 TEST_F(PrcSearch, LinksThatMultiplyPathsDoNotMultiplyTheWork)
 {
+    SKIP_WITHOUT_LINKS();
     for (int level = 0; level < 20; ++level) {
         const std::string next = "level" + std::to_string(level + 1);
         Touch(next + "/file.prc");
@@ -165,6 +172,7 @@ TEST_F(PrcSearch, LinksThatMultiplyPathsDoNotMultiplyTheWork)
 /// 1200 levels, and paths of 4,800 bytes: more than the system takes at once.
 TEST_F(PrcSearch, DepthAndLengthOfPathsHaveNoBound)
 {
+    SKIP_WITHOUT_LONG_PATHS();
     const fs::path before = fs::current_path();
     fs::current_path(SearchFolder);
     constexpr int Levels = 1200;

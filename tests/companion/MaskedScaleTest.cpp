@@ -1,11 +1,11 @@
 #include "companion/Reduction.h"
 #include "companion/ScaleImg.h"
 #include "support/Pixels.h"
+#include "support/Properties.h"
 
 #include <algorithm>
 #include <cstdlib>
 #include <gtest/gtest.h>
-#include <rapidcheck/gtest.h>
 
 namespace vypx::test {
 
@@ -152,6 +152,7 @@ Rgb SlowPixel(const Picture& source, const std::vector<std::uint64_t>& across,
         : colour;
 }
 
+#ifdef RC_GTEST_PROP
 /// A picture of few colours, near each other, one of them transparent.
 Picture FewColours(int width, int height, Rgb transparent, int spread)
 {
@@ -209,6 +210,7 @@ RC_GTEST_PROP(ScaleImgMasked, WithoutTransparentPixelsIsThePictureScaledWithoutA
         for (int x = 0; x < target.Width(); ++x)
             RC_ASSERT(std::abs(target.At(x, y).green - masked.At(x, y).green) <= 1);
 }
+#endif
 
 /// The sums of the longest rows and columns still fit their types.
 TEST(ScaleImgMasked, LongSidesDoNotOverflow)

@@ -1,9 +1,9 @@
 #include "companion/NearestColour.h"
 
 #include "support/Files.h"
+#include "support/Properties.h"
 
 #include <gtest/gtest.h>
-#include <rapidcheck/gtest.h>
 #include <sstream>
 
 namespace vypx::test {
@@ -25,6 +25,7 @@ int SearchNearest(Palette palette, Rgb colour)
     return nearest;
 }
 
+#ifdef RC_GTEST_PROP
 rc::Gen<int> Component() { return rc::gen::inRange(0, 256); }
 
 RC_GTEST_PROP(NearestColour, IsTheNearestOfTheSystemPalettes, ())
@@ -50,6 +51,7 @@ RC_GTEST_PROP(NearestColour, IsTheNearestOfAnyPalette, ())
             == SearchNearest(palette, colour));
     }
 }
+#endif
 
 TEST(NearestColour, OfRecentColoursIsTheSameBeforeAndAfterOthers)
 {
@@ -107,6 +109,7 @@ TEST(NearestColour, KnowsEvery565ColourByItsWidenedOne)
             << value;
 }
 
+#ifdef RC_GTEST_PROP
 RC_GTEST_PROP(NearestColour, KnowsThe565ColoursOfAnyPalette, ())
 {
     // Of few different colours, so that there are ties.
@@ -120,6 +123,7 @@ RC_GTEST_PROP(NearestColour, KnowsThe565ColoursOfAnyPalette, ())
         RC_ASSERT(nearest.IndexOf565(static_cast<std::uint16_t>(value))
             == SearchNearest(palette, From565(value)));
 }
+#endif
 
 TEST(NearestColour, Of565ColoursATieGoesToTheLowerIndex)
 {

@@ -4,11 +4,11 @@
 #include "companion/PixelLibrary.h"
 #include "support/Files.h"
 #include "support/Pixels.h"
+#include "support/Properties.h"
 #include "support/TempFolder.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
-#include <rapidcheck/gtest.h>
 #include <set>
 
 namespace vypx::test {
@@ -81,6 +81,7 @@ TEST(Reduced, IsTheNearestGreyTheNearestSystemColourOr565)
     EXPECT_EQ(Reduced({ 5, 3, 4 }, 16), (Rgb{ 8, 4, 0 })) << "a step is 255/31, 255/63";
 }
 
+#ifdef RC_GTEST_PROP
 rc::Gen<Rgb> AnyColour()
 {
     const auto component = rc::gen::inRange(0, 256);
@@ -88,6 +89,7 @@ rc::Gen<Rgb> AnyColour()
         return Rgb{ std::get<0>(parts), std::get<1>(parts), std::get<2>(parts) };
     });
 }
+#endif
 
 int Near(int component, int by) { return std::clamp(component + by, 0, 255); }
 
@@ -114,6 +116,7 @@ TEST(NearestOther, OfARepeatedEntryIsAnotherColour)
     EXPECT_EQ(NearestOther(Black, Black, 8), GreyOf(17));
 }
 
+#ifdef RC_GTEST_PROP
 RC_GTEST_PROP(NearestOther, IsFoundByASearchOfAllColours, ())
 {
     const int depth = *rc::gen::element(4, 8, 16), by = depth == 16 ? 5 : 30;
@@ -128,6 +131,7 @@ RC_GTEST_PROP(NearestOther, IsFoundByASearchOfAllColours, ())
     RC_ASSERT(NearestOther(colour, other, depth)
         == (own != taken ? own : Search(colours, colour, { PackedColour(taken) })));
 }
+#endif
 
 TEST(ReadyToStore, APictureWithoutTransparentPixelsIsUnchanged)
 {
@@ -263,6 +267,7 @@ void Write(const Picture& picture, int depth, const std::string& path)
         WriteBmp24(picture, picture.Width(), picture.Height(), path);
 }
 
+#ifdef RC_GTEST_PROP
 /// Of few colours or of many, so that there are pictures with and without a free one.
 RC_GTEST_PROP(ReadyToStore, TransparentPixelsAreToldFromAllOthersInTheFile, ())
 {
@@ -291,6 +296,7 @@ RC_GTEST_PROP(ReadyToStore, TransparentPixelsAreToldFromAllOthersInTheFile, ())
     RC_ASSERT(!opaque.contains(*masks.begin()));
     RC_ASSERT((moved > 0) == (depth == 4 && before.size() == 16u));
 }
+#endif
 
 } // namespace
 } // namespace vypx::test

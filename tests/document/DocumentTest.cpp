@@ -2,6 +2,7 @@
 
 #include "document/IconStats.h"
 #include "document/SettingsFile.h"
+#include "platform/Platform.h"
 #include "support/LoadFixture.h"
 
 namespace vypx::test {
@@ -107,9 +108,11 @@ TEST_F(Document, WorkingFilesLieBelowTheProgramsFolder)
 {
     AppFolder = "/opt/icons";
     SetTempSuffix(0);
-    EXPECT_EQ(WorkPath("tAIB1005.bmp"), "/opt/icons/temp/tAIB1005.bmp");
+    EXPECT_EQ(platform::NativePath(WorkPath("tAIB1005.bmp")),
+        platform::NativePath("/opt/icons") / "temp" / "tAIB1005.bmp");
     SetTempSuffix(2);
-    EXPECT_EQ(WorkPath("tAIB1005.bmp"), "/opt/icons/temp2/tAIB1005.bmp");
+    EXPECT_EQ(platform::NativePath(WorkPath("tAIB1005.bmp")),
+        platform::NativePath("/opt/icons") / "temp2" / "tAIB1005.bmp");
 }
 
 } // namespace

@@ -20,7 +20,7 @@ protected:
     SettingsFileTest() { SettingsSaved = false; }
 
     void WriteFile(const std::string& text) { WriteText(SettingsFile(), text); }
-    std::string File() { return ReadText(SettingsFile()); }
+    std::string File() { return ReadSystemText(SettingsFile()); }
     static std::string Value(const std::string& section, const std::string& key)
     {
         cInifile ini;

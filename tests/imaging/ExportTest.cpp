@@ -2,6 +2,7 @@
 
 #include "settings/Settings.h"
 #include "support/PicturesFixture.h"
+#include "support/Skips.h"
 
 namespace vypx::test {
 
@@ -75,6 +76,7 @@ constexpr const char* Refused = "The picture was not exported: the program keeps
 
 TEST_P(Exporting, TheWorkingFileItselfIsRefused)
 {
+    SKIP_WITHOUT_LINKS();
     const Bytes before = ReadBytes(slot.path);
 
     EXPECT_EQ(Export(slot.path).message, Refused);
@@ -87,6 +89,7 @@ TEST_P(Exporting, TheWorkingFileItselfIsRefused)
 
 TEST_P(Exporting, TheWorkingFolderIsRefusedByEveryName)
 {
+    SKIP_WITHOUT_LINKS();
     const auto before = WorkFiles();
     std::filesystem::create_directory_symlink(WorkFolder(), folder.File("link"));
 

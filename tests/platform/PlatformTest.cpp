@@ -3,6 +3,7 @@
 
 #include "support/CommonUser.h"
 #include "support/Files.h"
+#include "support/Skips.h"
 #include "support/TempFolder.h"
 
 #include <cstdint>
@@ -11,6 +12,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <limits>
+#include <regex>
 
 namespace vypx::test {
 
@@ -78,15 +80,19 @@ TEST(ReplaceFile, TakesTheLongestNamesThatTheSystemTakes)
 
 TEST(PassingFile, HasANameThatNoOtherCallGets)
 {
-    const std::string first = platform::NewPassingFile("/f/set.prc").string();
-    const std::string second = platform::NewPassingFile("/f/set.prc").string();
+    const std::string first = platform::NewPassingFile("/f/set.prc").filename().string();
+    const std::string second = platform::NewPassingFile("/f/set.prc").filename().string();
 
-    EXPECT_THAT(first, ::testing::MatchesRegex("/f/set\\.prc\\.[0-9]+-[0-9]+\\.vypx-new"));
+    EXPECT_TRUE(std::regex_match(first, std::regex("set\\.prc\\.[0-9]+-[0-9]+\\.vypx-new")))
+        << first;
     EXPECT_NE(first, second);
 }
 
 TEST(PassingFile, ALongNameIsCutBetweenLetters)
 {
+#ifdef _WIN32
+    GTEST_SKIP() << "the letters of a name have 16 bits here";
+#endif
     const fs::path longest = platform::NewPassingFile("/f/" + std::string(255, 'x'));
     const std::size_t room = longest.filename().string().find('.');
     // The last letter would be cut in two.
@@ -140,6 +146,7 @@ TEST(ReplaceFile, LeavesWhatAnotherWriterStillWrites)
 
 TEST(ReplaceFile, FollowsASymbolicLinkAndKeepsIt)
 {
+    SKIP_WITHOUT_LINKS();
     const TempFolder folder;
     WriteText(folder.File("real"), "old");
     fs::create_symlink("real", folder.File("link"));
@@ -152,6 +159,7 @@ TEST(ReplaceFile, FollowsASymbolicLinkAndKeepsIt)
 
 TEST(ReplaceFile, KeepsPermissions)
 {
+    SKIP_WITHOUT_RIGHTS();
     const TempFolder folder;
     WriteText(folder.File("a"), "old");
     const fs::perms mine = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read;
@@ -164,6 +172,7 @@ TEST(ReplaceFile, KeepsPermissions)
 
 TEST(ReplaceFile, GivesACopyThePermissionsOfItsOriginal)
 {
+    SKIP_WITHOUT_RIGHTS();
     const TempFolder folder;
     WriteText(folder.File("a"), "secret");
     WriteText(folder.File("older copy"), "x");
@@ -254,7 +263,8 @@ TEST(ExplainRefusal, NamesAFolderThatIsMissing)
     const platform::Refusal refusal = platform::ExplainRefusal(file, error);
 
     EXPECT_EQ(refusal.path, folder.File("missing"));
-    EXPECT_EQ(refusal.reason, "No such file or directory");
+    EXPECT_EQ(refusal.reason, error.message());
+    EXPECT_EQ(error, std::errc::no_such_file_or_directory);
 }
 
 TEST(ExplainRefusal, NamesAFileThatStandsWhereTheFolderShould)
@@ -370,6 +380,8 @@ TEST(FileLock, OnADeletedFileKeepsNobodyOut)
     FileLock first, second, third;
     EXPECT_EQ(first.TryLock(folder.File("l")), FileLock::Answer::Taken);
     fs::remove(folder.File("l"));
+    if (fs::exists(folder.File("l")))
+        GTEST_SKIP() << "a deleted file keeps its name here as long as it is open";
 
     EXPECT_EQ(second.TryLock(folder.File("l")), FileLock::Answer::Taken);
     EXPECT_EQ(third.TryLock(folder.File("l")), FileLock::Answer::HeldByAnother);

@@ -31,7 +31,7 @@ protected:
     {
         std::vector<std::string> names;
         for (const auto& entry : std::filesystem::directory_iterator(WorkFolder()))
-            names.push_back(entry.path().filename());
+            names.push_back(platform::Utf8Path(entry.path().filename()));
         std::sort(names.begin(), names.end());
         return names;
     }

@@ -37,8 +37,8 @@ TEST_F(FormPosition, KeepsAWindowsPlace)
     ini.SaveFormPosition(kept);
 
     EXPECT_EQ(ini.key(), "mine");
-    EXPECT_EQ(
-        ReadText(file), "[Form]\nMaximised=0\nLeft=1000\nTop=2000\nWidth=3000\nHeight=4000\n");
+    EXPECT_EQ(ReadSystemText(file),
+        "[Form]\nMaximised=0\nLeft=1000\nTop=2000\nWidth=3000\nHeight=4000\n");
     Placement other = OnAScreen();
     other.left = other.top = 60;
     other.width = other.height = 900;
@@ -56,7 +56,7 @@ TEST_F(FormPosition, AMaximisedWindowKeepsThatOnlyAndAMinimisedOneNothing)
 
     window.state = WindowState::Maximised;
     ini.SaveFormPosition(window);
-    EXPECT_EQ(ReadText(file), "[Form]\nMaximised=1\n");
+    EXPECT_EQ(ReadSystemText(file), "[Form]\nMaximised=1\n");
 
     Placement other = OnAScreen();
     ini.LoadFormPosition(other, 100, 100);

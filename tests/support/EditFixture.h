@@ -10,7 +10,7 @@ namespace vypx::test {
 class Editing : public Searching {
 protected:
     static CatalogBox Plain(const std::string& text) { return { .text = text }; }
-    static std::string PalmItems() { return ReadText(PalmAppFile()); }
+    static std::string PalmItems() { return ReadSystemText(PalmAppFile()); }
 
     /// Nothing can be written there any more, nor read.
     static void Block(const std::string& file)

@@ -47,6 +47,15 @@ std::string ReadText(const std::string& path)
     return { bytes.begin(), bytes.end() };
 }
 
+std::string ReadSystemText(const std::string& path)
+{
+    std::string text = ReadText(path);
+#ifdef _WIN32
+    std::erase(text, '\r');
+#endif
+    return text;
+}
+
 void WriteBytes(const std::string& path, const Bytes& bytes)
 {
     WriteText(path, std::string(bytes.begin(), bytes.end()));

@@ -13,6 +13,8 @@ Bytes Hex(std::string_view digits);
 /// The whole file; fails the test when it can't be read.
 Bytes ReadBytes(const std::string& path);
 std::string ReadText(const std::string& path);
+/// The same of a text that the program made anew: the system's ends of lines come as "\n".
+std::string ReadSystemText(const std::string& path);
 
 void WriteBytes(const std::string& path, const Bytes& bytes);
 void WriteText(const std::string& path, std::string_view text);

@@ -62,14 +62,15 @@ protected:
     {
         return "[" + name + "]\nType=" + type + "\nCreator={" + creator + "}\n";
     }
-    static std::string Apps() { return ReadText(AppListFile()); }
+    static std::string Apps() { return ReadSystemText(AppListFile()); }
 
     /// Path of a file below the folder that is searched; its folders are made.
     static std::string InPalm(const std::string& name)
     {
-        const std::filesystem::path path = std::filesystem::path(SearchFolder) / name;
+        std::filesystem::path path =
+            platform::NativePath(SearchFolder) / platform::NativePath(name);
         std::filesystem::create_directories(path.parent_path());
-        return path.string();
+        return platform::Utf8Path(path.make_preferred());
     }
     static void Put(const std::string& name, const Bytes& file) { WriteBytes(InPalm(name), file); }
 

@@ -28,7 +28,10 @@ public:
     }
 
     std::string Path() const { return platform::Utf8Path(m_path); }
-    std::string File(const std::string& name) const { return platform::Utf8Path(m_path / name); }
+    std::string File(const std::string& name) const
+    {
+        return platform::Utf8Path((m_path / platform::NativePath(name)).make_preferred());
+    }
 
 private:
     std::filesystem::path m_path;

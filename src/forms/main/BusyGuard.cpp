@@ -59,6 +59,7 @@ void BusyGuard::End()
     if (--m_depth > 0)
         return;
     qApp->removeEventFilter(this);
+    emit Ended();
     if (const auto act = std::exchange(m_whenIdle, {}))
         act();
 }

@@ -8,6 +8,8 @@ namespace vypx {
 /// Keeps the user's input out of the program while long work lets pending events run: keys, clicks
 /// and drops go nowhere, but to a box that the work itself shows. Boxes take no drops.
 class BusyGuard : public QObject {
+    Q_OBJECT
+
 public:
     bool IsBusy() const { return m_depth > 0; }
 
@@ -16,6 +18,10 @@ public:
 
     /// Now, or as soon as the work has ended that is at hand.
     void WhenIdle(std::function<void()> act);
+
+signals:
+    /// The work is done, all that was nested in it too.
+    void Ended();
 
 private:
     void End();

@@ -13,6 +13,15 @@
 
 namespace vypx {
 
+namespace {
+
+bool IsTemplateName(const std::string& path)
+{
+    return HasTheRightExtension({ .path = path, .asTemplate = true });
+}
+
+} // namespace
+
 Documents::Documents(
     const View& view, Ask& ask, Loading& loading, IconCommands& icons, SettingsWindows& settings)
     : m_view(view)
@@ -28,6 +37,7 @@ Documents::Documents(
     connect(&settings, &SettingsWindows::DepthDone, this, &Documents::GoOn);
     connect(&settings, &SettingsWindows::DepthGivenUp, this, [this] {
         TemplateMode = false;
+        m_named.clear();
         if (!AsksForName())
             m_settings.TakeBackChoices();
     });
@@ -69,6 +79,7 @@ void Documents::New()
         false);
     PendingOpen = TemplateMode = false;
     PendingNew = true;
+    m_named.clear();
     if (PromptColorDepth)
         m_settings.AskForDepth();
     else
@@ -82,10 +93,27 @@ void Documents::Open()
 {
     for (ImagePanel* panel : m_view.panels)
         panel->ClearSizeLimit();
+    m_named.clear();
     OpenFile(Leaving::ForOpen);
 }
 
-void Documents::LoadTemplate() { OpenFile(Leaving::ForTemplate); }
+void Documents::LoadTemplate()
+{
+    m_named.clear();
+    OpenFile(Leaving::ForTemplate);
+}
+
+void Documents::OpenNamed(const std::string& path)
+{
+    m_named = path;
+    if (IsTemplateName(path)) {
+        OpenFile(Leaving::ForTemplate);
+        return;
+    }
+    // As a dropped one: the window for the depth is for the commands of the menu.
+    ForgetDropped();
+    Load();
+}
 
 void Documents::OpenFile(Leaving command)
 {
@@ -103,7 +131,7 @@ void Documents::OpenFile(Leaving command)
     if (PromptColorDepth)
         m_settings.AskForDepth();
     else
-        m_loading.LoadFile();
+        Load();
 }
 
 /// The depth is chosen: on to what was asked for.
@@ -118,8 +146,20 @@ void Documents::GoOn()
         GiveUp();
     } else {
         ForgetDropped();
-        m_loading.LoadFile();
+        Load();
     }
+}
+
+void Documents::Load()
+{
+    const std::string named = std::exchange(m_named, {});
+    DroppedFile = !named.empty();
+    if (DroppedFile) { // whatever came between it and the depth window
+        DroppedFileName = named;
+        TemplateMode = IsTemplateName(named);
+    }
+    m_loading.LoadFile();
+    DroppedFile = false;
 }
 
 /// A dropped file that waits for an import would take the place of the one that is to be chosen.
@@ -259,6 +299,7 @@ void Documents::ShowNoIcons()
 /// One was opened or made: with the depth that was chosen last, wherever.
 void Documents::DocumentBegan()
 {
+    m_named.clear();
     m_settings.KeepChoices();
     m_settings.ShowDepth();
     m_view.notes.DocumentEnded();

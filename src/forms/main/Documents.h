@@ -34,6 +34,11 @@ public:
     void Open();
     void LoadTemplate();
     void Close();
+    /// Opens a file as Open or Load Template would, by the ending of its name, without their
+    /// dialog and question: there is no document.
+    void OpenNamed(const std::string& path);
+    /// The depth window stands open for such a file.
+    bool AwaitsNamed() const { return !m_named.empty(); }
     /// Asks the question before a changed document is closed. True: it may be, or it is unchanged.
     bool MayCloseIconset();
     /// Closes the windows that lead to another document; what was chosen in them is taken back.
@@ -53,6 +58,7 @@ private:
     bool ChangedSinceAsked() const;
     void OpenFile(Leaving command);
     void GoOn();
+    void Load();
     void ForgetDropped();
     void ShowNewIconset();
     void MakeNewIconset(const QString& name);
@@ -72,6 +78,7 @@ private:
     SettingsWindows& m_settings;
     QPointer<frmNewIconset> m_newIconset;
     unsigned m_changesWhenAsked = 0;
+    std::string m_named; // path that the next load takes instead of asking; empty: it asks
 };
 
 } // namespace vypx

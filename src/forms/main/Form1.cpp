@@ -14,6 +14,7 @@
 #include "forms/main/HelpCommands.h"
 #include "forms/main/Installing.h"
 #include "forms/main/Menus.h"
+#include "forms/main/OutsideFiles.h"
 #include "forms/main/PanelKeys.h"
 #include "forms/main/PictureCommands.h"
 #include "forms/main/Saving.h"
@@ -72,6 +73,7 @@ struct Form1::Parts {
     Drops drops;
     ClipboardCommands clipboard;
     Session session;
+    OutsideFiles outside;
     HelpCommands help;
     Greeting greeting;
     FormKeys keys;
@@ -113,6 +115,7 @@ struct Form1::Parts {
         , clipboard({ form, panels, commands }, ask, pictures, icons)
         , session({ frame, form, panels, commands, views, *ui.lblWorking, sides, order }, busy,
               settings, windows, documents, catalogs, search)
+        , outside(form, ask, busy, search, documents, session)
         , help(form, commands)
         , greeting(form, commands, ask, session, appList)
         , keys(form, *ui.TreeView1, [this] { icons.RemoveSelected(); })
@@ -173,6 +176,7 @@ void Form1::StartUp(const QString& programFolder, const QString& userFolder)
     m_parts->session.StartUp(programFolder, userFolder);
     m_ui->TreeView1->setFocus();
     m_parts->greeting.Start();
+    m_parts->outside.Begin();
 }
 
 void Form1::ExitProgram() { m_parts->session.Exit(); }
@@ -204,6 +208,8 @@ void Form1::ImportSM() { m_parts->pictures.Import(SlotSM); }
 
 void Form1::DrawLG() { m_parts->panels[0]->Draw(); }
 void Form1::DrawSM() { m_parts->panels[1]->Draw(); }
+
+FileTaker& Form1::FilesFromOutside() { return m_parts->outside; }
 
 void Form1::ChkDragFile() { m_parts->drops.ChkDragFile(); }
 

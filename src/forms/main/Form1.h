@@ -13,6 +13,8 @@ class Form1;
 
 namespace vypx {
 
+class FileTaker;
+
 /// The main form: the tree of icons, the two panels and every command. It makes the parts that do
 /// the work, connects them, and is the door to the routines that others know it by.
 class Form1 : public QWidget {
@@ -61,6 +63,8 @@ public:
 
     /// Does with the file that was dropped (DroppedFileName) what its ending asks for.
     void ChkDragFile();
+    /// Takes the files that the desktop asks for.
+    FileTaker& FilesFromOutside();
 
 protected:
     void closeEvent(QCloseEvent* event) override;

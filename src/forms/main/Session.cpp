@@ -88,6 +88,7 @@ void Session::ShowInFrame()
 
 void Session::Exit()
 {
+    m_isLeaving = true;
     m_search.WhenIdle([this] { m_busy.WhenIdle([this] { End(); }); });
 }
 
@@ -106,6 +107,8 @@ void Session::End()
     SettingsSaved = true;
     DeleteWorkingFiles({ ".bak", ".bmp", ".bin" });
     m_copies.Leave();
+    if (m_atEnd)
+        m_atEnd();
     for (QWidget* window : QApplication::topLevelWidgets())
         window->close();
 }

@@ -15,6 +15,7 @@
 
 #include <QLabel>
 #include <QWidget>
+#include <functional>
 
 namespace vypx {
 
@@ -44,7 +45,11 @@ public:
     /// Leaves the program: at once, without a question about changes; during long work at its end.
     /// A search is stopped.
     void Exit();
+    /// An exit was asked for, which may have to wait.
+    bool IsLeaving() const { return m_isLeaving; }
     bool HasEnded() const { return m_hasEnded; }
+    /// `act` runs when the program has been left, its windows still there.
+    void AtEnd(std::function<void()> act) { m_atEnd = std::move(act); }
 
 private:
     void TakeWorkingFolder();
@@ -60,7 +65,8 @@ private:
     CatalogReading& m_catalogs;
     AppSearch& m_search;
     RunningCopies m_copies;
-    bool m_hasEnded = false;
+    std::function<void()> m_atEnd;
+    bool m_isLeaving = false, m_hasEnded = false;
 };
 
 } // namespace vypx

@@ -19,14 +19,14 @@ protected:
 };
 
 /// Its size is the target's, in the middle of the view.
-const QRect First(143, 153, 64, 44);
+const QRect FirstRectangle(143, 153, 64, 44);
 
 } // namespace
 
 TEST_F(CropDrag, TheFirstRectangleIsInTheMiddle)
 {
     EXPECT_EQ(View().size(), QSize(350, 350));
-    EXPECT_EQ(Rectangle(), First);
+    EXPECT_EQ(Rectangle(), FirstRectangle);
     EXPECT_EQ(RegionText(), "128 x 88 to 64 x 44 pixels");
 }
 
@@ -66,7 +66,7 @@ TEST_F(CropDrag, TheLeftButtonMovesIt)
 {
     DragLeft({ 175, 175 }, { 185, 168 });
 
-    EXPECT_EQ(Rectangle(), First.translated(10, -7));
+    EXPECT_EQ(Rectangle(), FirstRectangle.translated(10, -7));
     EXPECT_EQ(RegionText(), "128 x 88 to 64 x 44 pixels");
 }
 
@@ -74,11 +74,11 @@ TEST_F(CropDrag, ItFollowsEveryMotionWhereverTheDragBegan)
 {
     Mouse(QEvent::MouseButtonPress, { 5, 5 }, Qt::LeftButton);
     Mouse(QEvent::MouseMove, { 15, 5 }, Qt::LeftButton);
-    EXPECT_EQ(Rectangle(), First.translated(10, 0));
+    EXPECT_EQ(Rectangle(), FirstRectangle.translated(10, 0));
     Mouse(QEvent::MouseMove, { 15, 25 }, Qt::LeftButton);
-    EXPECT_EQ(Rectangle(), First.translated(10, 20));
+    EXPECT_EQ(Rectangle(), FirstRectangle.translated(10, 20));
     Mouse(QEvent::MouseMove, { 5, 5 }, Qt::LeftButton);
-    EXPECT_EQ(Rectangle(), First);
+    EXPECT_EQ(Rectangle(), FirstRectangle);
 }
 
 TEST_F(CropDrag, BeyondTheLeftAndUpperEdgeItIsPutToTheEdge)
@@ -92,7 +92,7 @@ TEST_F(CropDrag, OnPurposeAFastDragStopsBeforeTheRightAndLowerEdge)
 {
     DragLeft({ 0, 0 }, { 160, 100 }); // 143 + 64 + 160 are more than 350, 153 + 44 + 100 are not
 
-    EXPECT_EQ(Rectangle(), First.translated(0, 100));
+    EXPECT_EQ(Rectangle(), FirstRectangle.translated(0, 100));
 }
 
 TEST_F(CropDrag, PixelByPixelItReachesTheRightAndLowerEdge)
@@ -123,7 +123,7 @@ TEST_F(CropDrag, HorizontalMotionDoesNotResizeIt)
 {
     Drag(Qt::RightButton, { { 10, 175 }, { 300, 175 }, { 5, 175 } });
 
-    EXPECT_EQ(Rectangle(), First);
+    EXPECT_EQ(Rectangle(), FirstRectangle);
 }
 
 TEST_F(CropDrag, SmallStepsKeepTheAspect)
@@ -178,7 +178,7 @@ TEST_F(CropDrag, AMiddleButtonAndAMotionWithoutAButtonDoNothing)
     Drag(Qt::MiddleButton, { { 175, 175 }, { 185, 185 } });
     Mouse(QEvent::MouseMove, { 10, 10 }, Qt::NoButton);
 
-    EXPECT_EQ(Rectangle(), First);
+    EXPECT_EQ(Rectangle(), FirstRectangle);
 }
 
 TEST_F(CropDrag, AMotionBesideTheViewGoesOn)
@@ -193,18 +193,18 @@ TEST_F(CropDrag, ArrowKeysMoveItByAPixelAndWithShiftByTen)
     Key(Qt::Key_Right);
     Key(Qt::Key_Right);
     Key(Qt::Key_Down);
-    EXPECT_EQ(Rectangle(), First.translated(2, 1));
+    EXPECT_EQ(Rectangle(), FirstRectangle.translated(2, 1));
 
     Key(Qt::Key_Left, Qt::ShiftModifier);
     Key(Qt::Key_Up, Qt::ShiftModifier);
-    EXPECT_EQ(Rectangle(), First.translated(-8, -9));
+    EXPECT_EQ(Rectangle(), FirstRectangle.translated(-8, -9));
 }
 
 TEST_F(CropDrag, ArrowKeysOfTheNumberBlockMoveItToo)
 {
     Key(Qt::Key_Left, Qt::KeypadModifier);
 
-    EXPECT_EQ(Rectangle(), First.translated(-1, 0));
+    EXPECT_EQ(Rectangle(), FirstRectangle.translated(-1, 0));
 }
 
 TEST_F(CropDrag, PlusAndMinusResizeItByAPixelHoweverTyped)
@@ -216,7 +216,7 @@ TEST_F(CropDrag, PlusAndMinusResizeItByAPixelHoweverTyped)
 
     for (int i = 0; i < 3; ++i)
         Key(Qt::Key_Minus, i == 0 ? Qt::KeypadModifier : Qt::NoModifier);
-    EXPECT_EQ(Rectangle(), First);
+    EXPECT_EQ(Rectangle(), FirstRectangle);
 }
 
 TEST_F(CropDrag, HeldKeysStopAtTheSameEdges)
@@ -236,12 +236,12 @@ TEST_F(CropDrag, KeysBelongToTheViewAloneAndAClickGivesThemToIt)
 {
     Control("cmdOK").setFocus();
     QTest::keyClick(&Control("cmdOK"), Qt::Key_Plus);
-    EXPECT_EQ(Rectangle(), First);
+    EXPECT_EQ(Rectangle(), FirstRectangle);
 
     QTest::mouseClick(&View(), Qt::LeftButton, {}, { 20, 20 });
 
     EXPECT_EQ(Crop().focusWidget(), &View());
-    EXPECT_EQ(Rectangle(), First) << "a click is no drag";
+    EXPECT_EQ(Rectangle(), FirstRectangle) << "a click is no drag";
 }
 
 TEST_F(CropDrag, TheRectangleCanBeSeenOnAnyPicture)

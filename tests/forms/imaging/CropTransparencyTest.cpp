@@ -8,7 +8,7 @@ namespace vypx::test {
 
 namespace {
 
-const Rgb Red{ 255, 0, 0 }, Magenta{ 255, 0, 255 }, White{ 255, 255, 255 };
+const Rgb Red{ 255, 0, 0 }, Magenta{ 255, 0, 255 }, WhitePixel{ 255, 255, 255 };
 
 /// Red pictures, some of whose pixels are transparent, at 8 and at 16 bits. One of 700 x 500 is cut
 /// at 286, 206, 128 x 88 pixels to half of that.
@@ -136,9 +136,9 @@ TEST_P(CropTransparency, TheBorderIsNeverTransparent)
 
         const vypx::Picture stored = StoredLG();
         ASSERT_EQ(SizeOf(stored), QSize(64, 44));
-        EXPECT_NE(stored.At(0, 0), White);
+        EXPECT_NE(stored.At(0, 0), WhitePixel);
         EXPECT_EQ(Count(stored, stored.At(0, 0)), 64 * 10);
-        EXPECT_EQ(Count(stored, inTheirColour ? Magenta : White), 64 * 34);
+        EXPECT_EQ(Count(stored, inTheirColour ? Magenta : WhitePixel), 64 * 34);
     }
 }
 
@@ -149,7 +149,7 @@ TEST_P(CropTransparency, TheNextPictureHasNoneOfIt)
     vypx::Picture opaque(128, 88);
     for (int y = 0; y < 88; ++y)
         for (int x = 0; x < 128; ++x)
-            opaque.Set(x, y, x < 63 ? White : Magenta);
+            opaque.Set(x, y, x < 63 ? WhitePixel : Magenta);
     OpenCrop(opaque);
     Push("optStretch");
 

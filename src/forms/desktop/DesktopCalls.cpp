@@ -1,0 +1,116 @@
+#include "forms/desktop/DesktopCalls.h"
+
+#include "forms/desktop/FileUris.h"
+
+#include <memory>
+#include <utility>
+
+namespace vypx {
+
+namespace {
+
+constexpr qsizetype LongestShown = 200; // characters of a URI
+constexpr qsizetype MostShown = 10;     // URIs
+
+/// What is not to be opened, for the box.
+QString ShownUris(const QStringList& uris)
+{
+    QStringList lines;
+    for (const QString& uri : uris.first(std::min(uris.size(), MostShown)))
+        lines << (uri.size() > LongestShown ? uri.left(LongestShown) + "..." : uri);
+    if (uris.size() > MostShown)
+        lines << QObject::tr("and %1 more").arg(uris.size() - MostShown);
+    return lines.join('\n');
+}
+
+/// What was asked for in one call: answered when the last part is, or nobody cares any more.
+struct CallUnderWay {
+    DesktopCalls::Answer answer;
+    QString error;
+    int underWay = 0;
+
+    explicit CallUnderWay(DesktopCalls::Answer how)
+        : answer(std::move(how))
+    {
+    }
+    CallUnderWay(const CallUnderWay&) = delete;
+    CallUnderWay& operator=(const CallUnderWay&) = delete;
+    ~CallUnderWay() { answer(underWay > 0 ? "The program was left." : error); }
+};
+
+} // namespace
+
+DesktopCalls::DesktopCalls(
+    FileTaker& own, HandOver& handOver, Copies& copies, bool startedByDesktop)
+    : m_own(own)
+    , m_handOver(handOver)
+    , m_copies(copies)
+    , m_startedByDesktop(startedByDesktop)
+{
+}
+
+void DesktopCalls::Activate(const QString& token, const Answer& answer)
+{
+    if (std::exchange(m_startedByDesktop, false)) {
+        m_own.ComeUp(token);
+        answer({});
+        return;
+    }
+    m_copies.Start(token, [this, answer](bool started) {
+        const QString error = "No further copy of VY Pixelworks could be started.";
+        if (!started)
+            m_own.Tell(error);
+        answer(started ? QString() : error);
+    });
+}
+
+void DesktopCalls::Open(const QStringList& uris, const QString& token, const Answer& answer)
+{
+    if (uris.isEmpty()) {
+        Activate(token, answer);
+        return;
+    }
+    if (uris.size() > MostFiles) {
+        const QString error =
+            QString("No more than %1 files can be opened at once.").arg(MostFiles);
+        m_startedByDesktop = false;
+        m_own.Tell(error);
+        answer(error);
+        return;
+    }
+    QStringList paths, others;
+    for (const QString& uri : uris) {
+        if (const auto path = PathOfUri(uri))
+            paths << *path;
+        else
+            others << uri;
+    }
+    QString error;
+    if (!others.isEmpty()) {
+        error = "Only files of this computer can be opened, not:\n\n" + ShownUris(others);
+        m_own.Tell(error);
+    }
+    OpenPaths(paths, token,
+        [answer, error](const QString& further) { answer(error.isEmpty() ? further : error); });
+}
+
+void DesktopCalls::OpenPaths(const QStringList& paths, const QString& token, const Answer& answer)
+{
+    m_startedByDesktop = false;
+    const auto pending = std::make_shared<CallUnderWay>(answer);
+    QString unused = token; // it counts once
+    for (const QString& path : paths) {
+        if (!HasKnownEnding(path)) {
+            m_own.Tell("Incorrect file type.");
+            continue;
+        }
+        ++pending->underWay;
+        m_handOver.Place({ path, std::exchange(unused, {}) }, [pending, path](bool placed) {
+            --pending->underWay;
+            if (!placed)
+                pending->error = path + " was not opened.";
+        });
+    }
+}
+
+} // namespace vypx

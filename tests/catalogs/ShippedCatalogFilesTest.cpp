@@ -25,38 +25,38 @@ TEST_F(ShippedCatalogFiles, GetOnlyWhatTheirReadersStillSee)
     // 8191 characters of names with one more for each are seen whole.
     std::string own;
     for (int i = 0; i < 81; ++i)
-        own += Owner(
+        own += OwnerText(
             std::string(97, 'a') + std::to_string(10 + i), "OWN" + std::string(1, char('0' + i)));
     const std::string last(8191 - 81 * 100 - 1, 'z');
     ASSERT_EQ(last.size(), 90u);
 
-    const std::string tooLong = Owner(last + "y", "NEWA"), fits = Owner(last, "NEWB");
-    EXPECT_EQ(Merged(own, tooLong + fits + Owner("x", "NEWC")), own + fits);
+    const std::string tooLong = OwnerText(last + "y", "NEWA"), fits = OwnerText(last, "NEWB");
+    EXPECT_EQ(Merged(own, tooLong + fits + OwnerText("x", "NEWC")), own + fits);
 
     AppFolder = user.Path();
     EXPECT_EQ(ReadAppIni([](std::string_view) {}), std::nullopt) << "all names are seen";
     AppFolder.clear();
     ResetCatalogs();
 
-    WriteOwn("AppList.dat", Owner("Short", "SHRT"));
-    Bring("AppList.dat", tooLong + fits + Owner("x", "NEWC") + "; changed\n");
-    EXPECT_EQ(Own("AppList.dat"), Owner("Short", "SHRT") + tooLong + Owner("x", "NEWC"))
+    WriteOwn("AppList.dat", OwnerText("Short", "SHRT"));
+    Bring("AppList.dat", tooLong + fits + OwnerText("x", "NEWC") + "; changed\n");
+    EXPECT_EQ(Own("AppList.dat"), OwnerText("Short", "SHRT") + tooLong + OwnerText("x", "NEWC"))
         << "what had no room comes when there is some";
 }
 
 TEST_F(ShippedCatalogFiles, ThatCannotBeReadStayAndAreTakenUpLater)
 {
-    Bring("AppList.dat", Owner("One", "ONEA"));
+    Bring("AppList.dat", OwnerText("One", "ONEA"));
     DeleteOwn("AppList.dat");
     fs::create_directory(user.File("AppList.dat"));
 
-    Bring("AppList.dat", Owner("One", "ONEA") + Owner("New", "NEWA"));
+    Bring("AppList.dat", OwnerText("One", "ONEA") + OwnerText("New", "NEWA"));
     EXPECT_TRUE(fs::is_empty(user.File("AppList.dat")));
     DeleteOwn("AppList.dat");
-    WriteOwn("AppList.dat", Owner("Mine", "MINE"));
+    WriteOwn("AppList.dat", OwnerText("Mine", "MINE"));
     StartLater();
 
-    EXPECT_EQ(Own("AppList.dat"), Owner("Mine", "MINE") + Owner("New", "NEWA"));
+    EXPECT_EQ(Own("AppList.dat"), OwnerText("Mine", "MINE") + OwnerText("New", "NEWA"));
 }
 
 #ifndef _WIN32
@@ -65,13 +65,14 @@ TEST_F(ShippedCatalogFiles, BehindALinkAreChangedWhereTheyStand)
 {
     Bring("AppList.dat", "");
     const TempFolder elsewhere;
-    WriteText(elsewhere.File("apps"), Owner("Mine", "MINE"));
+    WriteText(elsewhere.File("apps"), OwnerText("Mine", "MINE"));
     DeleteOwn("AppList.dat");
     fs::create_symlink(elsewhere.File("apps"), user.File("AppList.dat"));
 
-    Bring("AppList.dat", Owner("New", "NEWA"));
+    Bring("AppList.dat", OwnerText("New", "NEWA"));
 
-    EXPECT_EQ(ReadText(elsewhere.File("apps")), Owner("Mine", "MINE") + Owner("New", "NEWA"));
+    EXPECT_EQ(
+        ReadText(elsewhere.File("apps")), OwnerText("Mine", "MINE") + OwnerText("New", "NEWA"));
     EXPECT_TRUE(fs::is_symlink(user.File("AppList.dat")));
 }
 
@@ -82,18 +83,18 @@ TEST_F(ShippedCatalogFiles, ThatTheUserMadeReadOnlyStayUntilTheyAreNot)
     {
         const CommonUser common;
         Start();
-        WriteOwn("AppList.dat", Owner("Mine", "MINE"));
+        WriteOwn("AppList.dat", OwnerText("Mine", "MINE"));
         fs::permissions(user.File("AppList.dat"), fs::perms(0444));
     }
-    Ship("AppList.dat", Owner("New", "NEWA"));
+    Ship("AppList.dat", OwnerText("New", "NEWA"));
     {
         const CommonUser common;
         StartLater();
-        EXPECT_EQ(Own("AppList.dat"), Owner("Mine", "MINE"));
+        EXPECT_EQ(Own("AppList.dat"), OwnerText("Mine", "MINE"));
 
         fs::permissions(user.File("AppList.dat"), fs::perms(0644));
         StartLater();
-        EXPECT_EQ(Own("AppList.dat"), Owner("Mine", "MINE") + Owner("New", "NEWA"));
+        EXPECT_EQ(Own("AppList.dat"), OwnerText("Mine", "MINE") + OwnerText("New", "NEWA"));
     }
 }
 
@@ -106,13 +107,13 @@ TEST_F(ShippedCatalogFiles, WaitForTheOtherOneThatCannotBeRead)
     DeleteOwn("PalmApp.dat");
     fs::create_directory(user.File("PalmApp.dat"));
 
-    Bring("AppList.dat", Owner("Hand", "HAND") + Owner("New", "NEWA"));
+    Bring("AppList.dat", OwnerText("Hand", "HAND") + OwnerText("New", "NEWA"));
     EXPECT_EQ(Own("AppList.dat"), "");
     DeleteOwn("PalmApp.dat");
-    WriteOwn("PalmApp.dat", Owner("Palm by hand", "HAND"));
+    WriteOwn("PalmApp.dat", OwnerText("Palm by hand", "HAND"));
     StartLater();
 
-    EXPECT_EQ(Own("AppList.dat"), Owner("New", "NEWA"));
+    EXPECT_EQ(Own("AppList.dat"), OwnerText("New", "NEWA"));
 }
 
 TEST_F(ShippedCatalogFiles, WithManySectionsOfOneNameAreReadOnceEach)
@@ -138,10 +139,10 @@ TEST_F(ShippedCatalogFiles, OfAnyBytesHarmNobody)
     for (int i = 0; i < 12; ++i)
         garbage += garbage;
 
-    EXPECT_EQ(Merged(Owner("Mine", "MINE"), garbage), Owner("Mine", "MINE"));
-    Merged(garbage, Owner("New", "NEWA"));
+    EXPECT_EQ(Merged(OwnerText("Mine", "MINE"), garbage), OwnerText("Mine", "MINE"));
+    Merged(garbage, OwnerText("New", "NEWA"));
     EXPECT_THAT(ReadText(user.File("AppList.dat")),
-        ::testing::AllOf(StartsWith(garbage), EndsWith(Owner("New", "NEWA"))));
+        ::testing::AllOf(StartsWith(garbage), EndsWith(OwnerText("New", "NEWA"))));
 }
 
 TEST_F(ShippedCatalogFiles, ThatAreTooLargeAreNotReplaced)
@@ -150,7 +151,7 @@ TEST_F(ShippedCatalogFiles, ThatAreTooLargeAreNotReplaced)
     Bring("AppList.dat", "");
     fs::resize_file(user.File("AppList.dat"), size + 1);
 
-    Bring("AppList.dat", Owner("New", "NEWA"));
+    Bring("AppList.dat", OwnerText("New", "NEWA"));
     EXPECT_EQ(fs::file_size(user.File("AppList.dat")), size + 1);
 
     fs::resize_file(user.File("AppList.dat"), size - 5);
@@ -161,13 +162,13 @@ TEST_F(ShippedCatalogFiles, ThatAreTooLargeAreNotReplaced)
 TEST_F(ShippedCatalogFiles, ThatWereMergedShowNoBoxAtAStart)
 {
     Ship("VY_Icons.dat", LauncherItem("Start (Large Icon)", "2000"));
-    Ship("PalmApp.dat", Owner("Palm Clock", "CLCK"));
+    Ship("PalmApp.dat", OwnerText("Palm Clock", "CLCK"));
     Bring("AppList.dat", "");
-    WriteOwn("AppList.dat", Owner("Mine", "MINE") + "[Own panel]\nType=panl\nCreator={PANL}\n");
-    WriteOwn("PalmApp.dat", Owner("Palm Own", "POWN"));
-    const std::string added = Owner("Their mine", "MINE") + Owner("Their panel", "PANL")
-        + "[Their own]\nType=panl\nCreator={POWN}\n" + Owner("New", "NEWA");
-    Ship("PalmApp.dat", Owner("Palm Clock", "CLCK") + added);
+    WriteOwn("AppList.dat", OwnerText("Mine", "MINE") + "[Own panel]\nType=panl\nCreator={PANL}\n");
+    WriteOwn("PalmApp.dat", OwnerText("Palm Own", "POWN"));
+    const std::string added = OwnerText("Their mine", "MINE") + OwnerText("Their panel", "PANL")
+        + "[Their own]\nType=panl\nCreator={POWN}\n" + OwnerText("New", "NEWA");
+    Ship("PalmApp.dat", OwnerText("Palm Clock", "CLCK") + added);
     Bring("AppList.dat", added);
 
     std::vector<std::string> boxes;
@@ -177,8 +178,8 @@ TEST_F(ShippedCatalogFiles, ThatWereMergedShowNoBoxAtAStart)
     ResetCatalogs();
 
     EXPECT_THAT(boxes, IsEmpty());
-    EXPECT_THAT(Own("AppList.dat"), EndsWith(Owner("New", "NEWA")));
-    EXPECT_EQ(Own("PalmApp.dat"), Owner("Palm Own", "POWN"));
+    EXPECT_THAT(Own("AppList.dat"), EndsWith(OwnerText("New", "NEWA")));
+    EXPECT_EQ(Own("PalmApp.dat"), OwnerText("Palm Own", "POWN"));
 }
 
 TEST_F(ShippedCatalogFiles, ThatAProgramShipsComeToAUserWithoutADuplicate)

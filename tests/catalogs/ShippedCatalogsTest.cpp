@@ -8,13 +8,13 @@ class CatalogsOfANewVersion : public Shipping { };
 
 TEST_F(CatalogsOfANewVersion, GetTheEntriesOfANewVersionAtTheirEnd)
 {
-    Bring("PalmApp.dat", "; shipped\n\n" + Owner("Palm Clock", "CLCK"));
-    const std::string own =
-        "; mine\n" + Owner("Palm Mine", "MINE") + Owner("Palm Clock", "CLCK") + "; the end\n";
+    Bring("PalmApp.dat", "; shipped\n\n" + OwnerText("Palm Clock", "CLCK"));
+    const std::string own = "; mine\n" + OwnerText("Palm Mine", "MINE")
+        + OwnerText("Palm Clock", "CLCK") + "; the end\n";
     WriteOwn("PalmApp.dat", own);
 
     Bring("PalmApp.dat",
-        "; shipped\n" + Owner("Palm New", "NEWA") + "; why\n" + Owner("Palm Clock", "CLCK")
+        "; shipped\n" + OwnerText("Palm New", "NEWA") + "; why\n" + OwnerText("Palm Clock", "CLCK")
             + "[Palm Other]\nType=panl\nCreator={NEWB}\nNote=x\n");
 
     EXPECT_EQ(Own("PalmApp.dat"),
@@ -24,70 +24,72 @@ TEST_F(CatalogsOfANewVersion, GetTheEntriesOfANewVersionAtTheirEnd)
 
 TEST_F(CatalogsOfANewVersion, DoNotGetBackWhatTheUserHasDeletedRenamedOrChanged)
 {
-    const std::string first = Owner("Deleted", "DELE") + Owner("Before", "RENA")
-        + Owner("Changed", "CHAN") + Owner("Kept", "KEPT");
+    const std::string first = OwnerText("Deleted", "DELE") + OwnerText("Before", "RENA")
+        + OwnerText("Changed", "CHAN") + OwnerText("Kept", "KEPT");
     Bring("AppList.dat", first);
     const std::string own =
-        Owner("After", "RENA") + Owner("Changed", "OWNA") + Owner("Kept", "KEPT");
+        OwnerText("After", "RENA") + OwnerText("Changed", "OWNA") + OwnerText("Kept", "KEPT");
     WriteOwn("AppList.dat", own);
 
-    Bring("AppList.dat", first + Owner("New", "NEWA"));
+    Bring("AppList.dat", first + OwnerText("New", "NEWA"));
 
-    EXPECT_EQ(Own("AppList.dat"), own + Owner("New", "NEWA"));
+    EXPECT_EQ(Own("AppList.dat"), own + OwnerText("New", "NEWA"));
 }
 
 TEST_F(CatalogsOfANewVersion, DoNotGetADeletedEntryBackUnderAnotherNameOrWithAnotherCreator)
 {
-    Bring("AppList.dat", Owner("One", "ONEA") + Owner("Two", "TWOA"));
+    Bring("AppList.dat", OwnerText("One", "ONEA") + OwnerText("Two", "TWOA"));
     WriteOwn("AppList.dat", "");
 
-    Bring("AppList.dat", Owner("One renamed", "ONEA") + Owner("Two", "TWOB"));
+    Bring("AppList.dat", OwnerText("One renamed", "ONEA") + OwnerText("Two", "TWOB"));
 
     EXPECT_EQ(Own("AppList.dat"), "");
 }
 
 TEST_F(CatalogsOfANewVersion, DoNotGetAnEntryBackThatAVersionBetweenLeftOut)
 {
-    Bring("AppList.dat", Owner("One", "ONEA"));
+    Bring("AppList.dat", OwnerText("One", "ONEA"));
     WriteOwn("AppList.dat", "");
-    Bring("AppList.dat", Owner("Two", "TWOA"));
+    Bring("AppList.dat", OwnerText("Two", "TWOA"));
 
-    Bring("AppList.dat", Owner("One", "ONEA") + Owner("Two", "TWOA"));
+    Bring("AppList.dat", OwnerText("One", "ONEA") + OwnerText("Two", "TWOA"));
 
-    EXPECT_EQ(Own("AppList.dat"), Owner("Two", "TWOA"));
+    EXPECT_EQ(Own("AppList.dat"), OwnerText("Two", "TWOA"));
 }
 
 TEST_F(CatalogsOfANewVersion, KeepAnEntryThatANewVersionLeavesOut)
 {
-    Bring("AppList.dat", Owner("One", "ONEA"));
+    Bring("AppList.dat", OwnerText("One", "ONEA"));
 
-    Bring("AppList.dat", Owner("Two", "TWOA"));
+    Bring("AppList.dat", OwnerText("Two", "TWOA"));
 
-    EXPECT_EQ(Own("AppList.dat"), Owner("One", "ONEA") + Owner("Two", "TWOA"));
+    EXPECT_EQ(Own("AppList.dat"), OwnerText("One", "ONEA") + OwnerText("Two", "TWOA"));
 }
 
 TEST_F(CatalogsOfANewVersion, GetNoSecondEntryOfAName)
 {
-    EXPECT_EQ(Merged(Owner("MINE", "ONEA"), Owner("mine", "TWOA") + Owner(" Mine ", "TREE")),
-        Owner("MINE", "ONEA"));
+    EXPECT_EQ(
+        Merged(OwnerText("MINE", "ONEA"), OwnerText("mine", "TWOA") + OwnerText(" Mine ", "TREE")),
+        OwnerText("MINE", "ONEA"));
 }
 
 TEST_F(CatalogsOfANewVersion, GetNoSecondEntryOfATypeAndCreator)
 {
-    EXPECT_EQ(Merged(Owner("Mine", "ONEA"), Owner("Other", "ONEA")), Owner("Mine", "ONEA"));
+    EXPECT_EQ(
+        Merged(OwnerText("Mine", "ONEA"), OwnerText("Other", "ONEA")), OwnerText("Mine", "ONEA"));
 }
 
 TEST_F(CatalogsOfANewVersion, ReadACreatorWithoutBracesAsTheirReadersDo)
 {
     const std::string own = "[Mine]\nCreator=ONEA\nType=appl\n[Short]\nType=appl\nCreator=AB\n";
 
-    EXPECT_EQ(Merged(own, Owner("Other", "ONEA") + Owner("Third", "AB  ")), own);
+    EXPECT_EQ(Merged(own, OwnerText("Other", "ONEA") + OwnerText("Third", "AB  ")), own);
 }
 
 TEST_F(CatalogsOfANewVersion, GetAnEntryWithAnotherCaseOfTheCreator)
 {
-    EXPECT_EQ(Merged(Owner("Mine", "ONEA"), Owner("Small", "oneA")),
-        Owner("Mine", "ONEA") + Owner("Small", "oneA"));
+    EXPECT_EQ(Merged(OwnerText("Mine", "ONEA"), OwnerText("Small", "oneA")),
+        OwnerText("Mine", "ONEA") + OwnerText("Small", "oneA"));
 }
 
 TEST_F(CatalogsOfANewVersion, GetNoEntryOfAnotherTypeWithACreatorThatIsThere)
@@ -96,24 +98,24 @@ TEST_F(CatalogsOfANewVersion, GetNoEntryOfAnotherTypeWithACreatorThatIsThere)
         "[Panel]\nType=panl\nCreator={ONEA}\n[Other panel]\nType=panl\nCreator={TWOA}\n";
     Ship("PalmApp.dat", "");
     Bring("AppList.dat", "");
-    WriteOwn("AppList.dat", Owner("Mine", "ONEA"));
+    WriteOwn("AppList.dat", OwnerText("Mine", "ONEA"));
     WriteOwn("PalmApp.dat", "[Untyped]\nCreator={TWOA}\n");
 
-    Bring(
-        "AppList.dat", panels + Owner("New", "NEWA") + "[New panel]\nType=panl\nCreator={NEWA}\n");
+    Bring("AppList.dat",
+        panels + OwnerText("New", "NEWA") + "[New panel]\nType=panl\nCreator={NEWA}\n");
 
-    EXPECT_EQ(Own("AppList.dat"), Owner("Mine", "ONEA") + Owner("New", "NEWA"));
+    EXPECT_EQ(Own("AppList.dat"), OwnerText("Mine", "ONEA") + OwnerText("New", "NEWA"));
 }
 
 TEST_F(CatalogsOfANewVersion, GetNothingThatTheOtherCatalogTellsAlready)
 {
     Ship("AppList.dat", "");
     Bring("PalmApp.dat", "");
-    WriteOwn("AppList.dat", Owner("Palm by hand", "HAND"));
+    WriteOwn("AppList.dat", OwnerText("Palm by hand", "HAND"));
 
-    Bring("PalmApp.dat", Owner("Palm Hand", "HAND") + Owner("Palm Else", "ELSE"));
+    Bring("PalmApp.dat", OwnerText("Palm Hand", "HAND") + OwnerText("Palm Else", "ELSE"));
 
-    EXPECT_EQ(Own("PalmApp.dat"), Owner("Palm Else", "ELSE"))
+    EXPECT_EQ(Own("PalmApp.dat"), OwnerText("Palm Else", "ELSE"))
         << "or each start would tell of a duplicate";
 }
 
@@ -138,16 +140,17 @@ TEST_F(CatalogsOfANewVersion, PassOverEntriesThatTellNothing)
                   "Type=appl\nCreator={NONE}\n[]\nType=appl\nCreator={NONE}\n[Empty]\n"
                   "[No creator]\nType=appl\nCreator=\n[No type]\nCreator={ONEA}\n"
                   "[Five]\nType=appl\nCreator=ABCDE\n[broken\nType=appl\n"
-                      + Owner("Whole", "WHOL")),
-        Owner("Whole", "WHOL"));
+                      + OwnerText("Whole", "WHOL")),
+        OwnerText("Whole", "WHOL"));
 }
 
 TEST_F(CatalogsOfANewVersion, OfRepeatedSectionsTakeTheFirst)
 {
-    const std::string own = Owner("Twice", "ONEA") + "; a\n" + Owner("Twice", "TWOA");
+    const std::string own = OwnerText("Twice", "ONEA") + "; a\n" + OwnerText("Twice", "TWOA");
 
-    EXPECT_EQ(Merged(own, Owner("New", "NEWA") + Owner("New", "NEWB") + Owner("twice", "TREE")),
-        own + Owner("New", "NEWA"));
+    EXPECT_EQ(Merged(own,
+                  OwnerText("New", "NEWA") + OwnerText("New", "NEWB") + OwnerText("twice", "TREE")),
+        own + OwnerText("New", "NEWA"));
 }
 
 TEST_F(CatalogsOfANewVersion, KeepLineEndsCommentsAndBytesOfAnyKind)
@@ -156,7 +159,7 @@ TEST_F(CatalogsOfANewVersion, KeepLineEndsCommentsAndBytesOfAnyKind)
                             "Creator= \"{ONEA}\"\r\nno key\r\n[\xC3\x84rger]\r\n;end";
 
     Merged(own,
-        Owner("caf\xE9", "TWOA") + Owner("Z\xFCrich", "TREE")
+        OwnerText("caf\xE9", "TWOA") + OwnerText("Z\xFCrich", "TREE")
             + "[K\xC3\xB6ln]\nType=appl\nCreator={FOUR}\n");
 
     EXPECT_EQ(ReadText(user.File("AppList.dat")),
@@ -166,17 +169,18 @@ TEST_F(CatalogsOfANewVersion, KeepLineEndsCommentsAndBytesOfAnyKind)
 
 TEST_F(CatalogsOfANewVersion, KeepTheBlanksOfACreator)
 {
-    EXPECT_EQ(Merged("", Owner("Blank", "A   ") + Owner("Blanks", " B  ")),
+    EXPECT_EQ(Merged("", OwnerText("Blank", "A   ") + OwnerText("Blanks", " B  ")),
         "[Blank]\nType=appl\nCreator={A   }\n[Blanks]\nType=appl\nCreator={ B  }\n");
 }
 
 TEST_F(CatalogsOfANewVersion, AreNotTouchedWhereNothingIsNew)
 {
-    Bring("AppList.dat", Owner("One", "ONEA"));
-    WriteOwn("AppList.dat", Owner("Mine", "MINE"));
+    Bring("AppList.dat", OwnerText("One", "ONEA"));
+    WriteOwn("AppList.dat", OwnerText("Mine", "MINE"));
     const auto before = platform::IdentityOf(user.File("AppList.dat"));
 
-    Bring("AppList.dat", "; another comment\n" + Owner("One", "ONEA") + Owner("Else", "MINE"));
+    Bring("AppList.dat",
+        "; another comment\n" + OwnerText("One", "ONEA") + OwnerText("Else", "MINE"));
 
     EXPECT_EQ(platform::IdentityOf(user.File("AppList.dat")), before);
 }
@@ -184,15 +188,15 @@ TEST_F(CatalogsOfANewVersion, AreNotTouchedWhereNothingIsNew)
 TEST_F(CatalogsOfANewVersion, LetAnEntryBeDeletedAfterItCame)
 {
     Bring("AppList.dat", "");
-    Bring("AppList.dat", Owner("New", "NEWA"));
-    ASSERT_EQ(Own("AppList.dat"), Owner("New", "NEWA"));
+    Bring("AppList.dat", OwnerText("New", "NEWA"));
+    ASSERT_EQ(Own("AppList.dat"), OwnerText("New", "NEWA"));
     WriteOwn("AppList.dat", "");
     StartLater();
     EXPECT_EQ(Own("AppList.dat"), "");
 
-    Bring("AppList.dat", Owner("New", "NEWA") + Owner("Newer", "NEWB"));
+    Bring("AppList.dat", OwnerText("New", "NEWA") + OwnerText("Newer", "NEWB"));
 
-    EXPECT_EQ(Own("AppList.dat"), Owner("Newer", "NEWB"));
+    EXPECT_EQ(Own("AppList.dat"), OwnerText("Newer", "NEWB"));
 }
 
 } // namespace

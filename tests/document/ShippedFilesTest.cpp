@@ -160,19 +160,19 @@ TEST_F(ShippedFiles, OfOneInstalledCopyAreEachUsersOwn)
         TakeShippedFiles(
             { .work = second.Path(), .shipped = shipped.Path() }, ShippedCatalogRules, version);
     };
-    Ship("AppList.dat", Owner("One", "ONEA"));
+    Ship("AppList.dat", OwnerText("One", "ONEA"));
     Ship("TIPOFDAY.TXT", "old\n");
     Start("1.0.0");
     startSecond("1.0.0");
-    WriteOwn("AppList.dat", Owner("Mine", "MINE"));
+    WriteOwn("AppList.dat", OwnerText("Mine", "MINE"));
     WriteText(second.File("TIPOFDAY.TXT"), "theirs\n");
-    Ship("AppList.dat", Owner("One", "ONEA") + Owner("New", "NEWA"));
+    Ship("AppList.dat", OwnerText("One", "ONEA") + OwnerText("New", "NEWA"));
     Ship("TIPOFDAY.TXT", "new\n");
 
     StartLater("1.1.0");
     startSecond("1.1.0");
 
-    EXPECT_EQ(Own("AppList.dat"), Owner("Mine", "MINE") + Owner("New", "NEWA"));
+    EXPECT_EQ(Own("AppList.dat"), OwnerText("Mine", "MINE") + OwnerText("New", "NEWA"));
     EXPECT_EQ(Own("TIPOFDAY.TXT"), "new\n");
     EXPECT_EQ(ReadText(second.File("TIPOFDAY.TXT")), "theirs\n");
     EXPECT_EQ(ReadText(shipped.File("TIPOFDAY.TXT")), "new\n");
@@ -180,7 +180,7 @@ TEST_F(ShippedFiles, OfOneInstalledCopyAreEachUsersOwn)
 
 TEST_F(ShippedFiles, AllComeBackWithoutTheUsersAndWhatIsKnownOfThem)
 {
-    Ship("AppList.dat", Owner("One", "ONEA"));
+    Ship("AppList.dat", OwnerText("One", "ONEA"));
     Ship("TIPOFDAY.TXT", "tip\n");
     Ship("samples/set.prc", "set");
     StartLater();
@@ -193,7 +193,7 @@ TEST_F(ShippedFiles, AllComeBackWithoutTheUsersAndWhatIsKnownOfThem)
         DeleteOwn(name);
     StartLater();
 
-    EXPECT_EQ(Own("AppList.dat"), Owner("One", "ONEA"));
+    EXPECT_EQ(Own("AppList.dat"), OwnerText("One", "ONEA"));
     EXPECT_EQ(Own("TIPOFDAY.TXT"), "tip\n");
     EXPECT_EQ(Own("samples/set.prc"), "set");
 }
@@ -201,13 +201,13 @@ TEST_F(ShippedFiles, AllComeBackWithoutTheUsersAndWhatIsKnownOfThem)
 TEST_F(ShippedFiles, ThatTheUserHasDeletedDoNotComeBack)
 {
     Ship("TIPOFDAY.TXT", "old\n");
-    Ship("PalmApp.dat", Owner("Palm Clock", "CLCK"));
+    Ship("PalmApp.dat", OwnerText("Palm Clock", "CLCK"));
     Start();
     DeleteOwn("TIPOFDAY.TXT");
     DeleteOwn("PalmApp.dat");
     StartLater();
     Ship("TIPOFDAY.TXT", "new\n");
-    Ship("PalmApp.dat", Owner("Palm Clock", "CLCK") + Owner("Palm New", "NEWA"));
+    Ship("PalmApp.dat", OwnerText("Palm Clock", "CLCK") + OwnerText("Palm New", "NEWA"));
 
     StartLater();
 

@@ -17,7 +17,7 @@ class KnownShipments : public Shipping { };
 
 TEST_F(KnownShipments, ThatHaveNotChangedAreNotLookedAtAgain)
 {
-    Ship("AppList.dat", Owner("One", "ONEA"));
+    Ship("AppList.dat", OwnerText("One", "ONEA"));
     Ship("samples/set.prc", "set");
     StartLater();
     StartLater();
@@ -36,21 +36,22 @@ TEST_F(KnownShipments, GivenByAVersionThatKeptOnlyTheirNamesAreAllTheUsers)
 {
     Ship("TIPOFDAY.TXT", "new\n");
     Ship("VYPX.chm", "help");
-    Ship("PalmApp.dat", Owner("Palm Clock", "CLCK") + Owner("Palm Gone", "GONE"));
+    Ship("PalmApp.dat", OwnerText("Palm Clock", "CLCK") + OwnerText("Palm Gone", "GONE"));
     WriteOwn("shipped.txt", "PalmApp.dat\nTIPOFDAY.TXT\nVYPX.chm\n");
     WriteOwn("TIPOFDAY.TXT", "old or changed\n");
-    WriteOwn("PalmApp.dat", Owner("Palm Clock", "CLCK"));
+    WriteOwn("PalmApp.dat", OwnerText("Palm Clock", "CLCK"));
 
     StartLater();
 
     EXPECT_EQ(Own("TIPOFDAY.TXT"), "old or changed\n");
-    EXPECT_EQ(Own("PalmApp.dat"), Owner("Palm Clock", "CLCK")) << "one may have been deleted";
+    EXPECT_EQ(Own("PalmApp.dat"), OwnerText("Palm Clock", "CLCK")) << "one may have been deleted";
     EXPECT_FALSE(Has("VYPX.chm"));
 
     Ship("PalmApp.dat",
-        Owner("Palm Clock", "CLCK") + Owner("Palm Gone", "GONE") + Owner("Palm New", "NEWA"));
+        OwnerText("Palm Clock", "CLCK") + OwnerText("Palm Gone", "GONE")
+            + OwnerText("Palm New", "NEWA"));
     StartLater();
-    EXPECT_EQ(Own("PalmApp.dat"), Owner("Palm Clock", "CLCK") + Owner("Palm New", "NEWA"));
+    EXPECT_EQ(Own("PalmApp.dat"), OwnerText("Palm Clock", "CLCK") + OwnerText("Palm New", "NEWA"));
 }
 
 TEST_F(KnownShipments, OfWhichNothingIsKnownStayAndOnlyWhatIsMissingIsGiven)
@@ -72,13 +73,14 @@ TEST_F(KnownShipments, LetAFileOfTheUsersHaveAllOfACatalogThatWasNeverGiven)
 {
     Ship("AppList.dat", "");
     Start();
-    WriteOwn("PalmApp.dat", Owner("Mine", "MINE")); // before it could be given
-    Ship("PalmApp.dat", Owner("Palm Clock", "CLCK") + Owner("Palm Else", "ELSE"));
+    WriteOwn("PalmApp.dat", OwnerText("Mine", "MINE")); // before it could be given
+    Ship("PalmApp.dat", OwnerText("Palm Clock", "CLCK") + OwnerText("Palm Else", "ELSE"));
 
     StartLater();
 
     EXPECT_EQ(Own("PalmApp.dat"),
-        Owner("Mine", "MINE") + Owner("Palm Clock", "CLCK") + Owner("Palm Else", "ELSE"));
+        OwnerText("Mine", "MINE") + OwnerText("Palm Clock", "CLCK")
+            + OwnerText("Palm Else", "ELSE"));
 }
 
 TEST_F(KnownShipments, AreNotOfAFileThatIsWrittenWhileItIsRead)

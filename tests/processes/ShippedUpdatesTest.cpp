@@ -207,8 +207,9 @@ TEST_P(UpdateFaults, OfWhatIsKnownBringNothingBackMoreThanOnce)
         Start(Kind(), at, StateName);
         const bool isChanged = Now() == updated;
         EXPECT_TRUE(isChanged || Now() == old) << at;
-        if (!Kills(Kind()))
+        if (!Kills(Kind())) {
             EXPECT_EQ(isChanged, at > operations / 2) << "nothing changes without the intent";
+        }
         int returns = 0;
         for (int start = 0; start < 3; ++start) {
             DeleteAll();

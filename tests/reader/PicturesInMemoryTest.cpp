@@ -37,7 +37,7 @@ protected:
     }
     LoadResult LoadInto(KeptPictures& kept, const std::string& path)
     {
-        return LoadFile({ .path = path, .pictures = &kept }, listener).result;
+        return vypx::LoadFile({ .path = path, .pictures = &kept }, listener).result;
     }
 };
 
@@ -140,7 +140,7 @@ TEST_F(PicturesInMemory, AFileAboveTheCallersLimitIsNotRead)
     const Bytes file = Iconset{ .resources = { { "tAIB", 3500, LowRecord(8) } } }.File();
     const std::string path = Written(file);
     const auto resultAt = [&](std::uintmax_t largest) {
-        return LoadFile({ .path = path, .largest = largest }, listener).result;
+        return vypx::LoadFile({ .path = path, .largest = largest }, listener).result;
     };
 
     EXPECT_EQ(resultAt(file.size()), LoadResult::Opened);

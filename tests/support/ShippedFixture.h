@@ -68,7 +68,7 @@ protected:
 };
 
 /// An entry of a catalog of applications or of the launcher's icons.
-inline std::string Owner(const std::string& name, const std::string& creator)
+inline std::string OwnerText(const std::string& name, const std::string& creator)
 {
     return "[" + name + "]\nType=appl\nCreator={" + creator + "}\n";
 }

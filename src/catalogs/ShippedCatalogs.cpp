@@ -29,17 +29,20 @@ constexpr CatalogPlace CatalogPlaces[] = {
     { VYIconsName, CatalogForm::Launcher, "" },
 };
 
-/// Empty for an entry without it.
+/// As the readers of catalogs have it: an empty one stands for a Creator too. Empty without the
+/// key.
 std::string CreatorOfSection(const IniText& text, const std::string& section)
 {
     const auto value = text.Value(section, "Creator");
     return value ? CreatorOfValue(*value) : std::string();
 }
 
+/// Empty for an entry without Type or Creator.
 std::string StoredOwner(const IniText& text, const std::string& section)
 {
     const std::string type(text.Value(section, "Type").value_or(""));
-    const std::string creator = CreatorOfSection(text, section);
+    const bool hasCreator = !text.Value(section, "Creator").value_or("").empty();
+    const std::string creator = hasCreator ? CreatorOfSection(text, section) : std::string();
     return type.empty() || creator.empty() ? std::string() : type + ' ' + creator;
 }
 

@@ -110,12 +110,10 @@ std::optional<ShippedState> ReadShippedState(const std::string& folder)
 bool WriteShippedState(
     const std::string& folder, const ShippedState& before, const ShippedState& now)
 {
-    const std::set<std::string> lines = StateLines(now);
-    if (lines != StateLines(before) && !ReplaceByLines(StateFile(folder), lines))
-        return false;
     if (LinesOf(NamesFile(folder)) != now.given)
         ReplaceByLines(NamesFile(folder), now.given);
-    return true;
+    const std::set<std::string> lines = StateLines(now);
+    return lines == StateLines(before) || ReplaceByLines(StateFile(folder), lines);
 }
 
 } // namespace vypx

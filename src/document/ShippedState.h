@@ -50,7 +50,7 @@ struct ShippedState {
 std::optional<ShippedState> ReadShippedState(const std::string& folder);
 
 /// Replaces the file of the state in one step, if it changes. False: it is as it was. The list of
-/// names follows as well as it can.
+/// names goes before it, as well as it can.
 bool WriteShippedState(
     const std::string& folder, const ShippedState& before, const ShippedState& now);
 

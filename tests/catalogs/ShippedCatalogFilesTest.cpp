@@ -18,7 +18,18 @@ using ::testing::IsEmpty;
 using ::testing::StartsWith;
 
 /// Catalogs that are large, odd, locked or elsewhere when a new version brings entries.
-class ShippedCatalogFiles : public Shipping { };
+class ShippedCatalogFiles : public Shipping {
+protected:
+    std::vector<std::string> BoxesOfARead() const
+    {
+        std::vector<std::string> boxes;
+        AppFolder = user.Path();
+        ReadCatalogs([&](std::string_view text) { boxes.emplace_back(text); });
+        AppFolder.clear();
+        ResetCatalogs();
+        return boxes;
+    }
+};
 
 TEST_F(ShippedCatalogFiles, GetOnlyWhatTheirReadersStillSee)
 {
@@ -171,13 +182,7 @@ TEST_F(ShippedCatalogFiles, ThatWereMergedShowNoBoxAtAStart)
     Ship("PalmApp.dat", OwnerText("Palm Clock", "CLCK") + added);
     Bring("AppList.dat", added);
 
-    std::vector<std::string> boxes;
-    AppFolder = user.Path();
-    ReadCatalogs([&](std::string_view text) { boxes.emplace_back(text); });
-    AppFolder.clear();
-    ResetCatalogs();
-
-    EXPECT_THAT(boxes, IsEmpty());
+    EXPECT_THAT(BoxesOfARead(), IsEmpty());
     EXPECT_THAT(Own("AppList.dat"), EndsWith(OwnerText("New", "NEWA")));
     EXPECT_EQ(Own("PalmApp.dat"), OwnerText("Palm Own", "POWN"));
 }
@@ -187,13 +192,7 @@ TEST_F(ShippedCatalogFiles, ThatAProgramShipsComeToAUserWithoutADuplicate)
     const std::string data(VYPX_SHIPPED_DATA);
     TakeShippedFiles({ .work = user.Path(), .shipped = data }, ShippedCatalogRules);
 
-    std::vector<std::string> boxes;
-    AppFolder = user.Path();
-    ReadCatalogs([&](std::string_view text) { boxes.emplace_back(text); });
-    AppFolder.clear();
-    ResetCatalogs();
-
-    EXPECT_THAT(boxes, IsEmpty());
+    EXPECT_THAT(BoxesOfARead(), IsEmpty());
     for (const char* name : { "AppList.dat", "PalmApp.dat", "VY_Icons.dat", "TIPOFDAY.TXT" })
         EXPECT_EQ(Own(name), ReadText(data + '/' + name));
 }

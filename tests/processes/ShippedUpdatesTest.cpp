@@ -135,11 +135,11 @@ TEST_F(UpdateStarts, OfManyAtOnceFillANewFolder)
 constexpr const char* Kinds[] = { "space", "short", "before", "within", "after" };
 
 /// Operations in the user's folder that fail once, or where the process dies: for each kind every
-/// fifth, so that all of them have their turn in some kind.
+/// third, so that all of them have their turn in some kind.
 class UpdateFaults : public UpdateStarts, public ::testing::WithParamInterface<int> {
 protected:
     static std::string Kind() { return Kinds[GetParam()]; }
-    static constexpr int EachFifth = 5;
+    static constexpr int Step = 3;
 };
 
 TEST_P(UpdateFaults, LeaveEachFileOldOrNewAndTheNextStartCompletesThem)
@@ -152,7 +152,7 @@ TEST_P(UpdateFaults, LeaveEachFileOldOrNewAndTheNextStartCompletesThem)
     const int operations = Operations();
     ASSERT_GE(operations, 25) << "open, write, sync, close and rename of five files at least";
 
-    for (int at = 1 + GetParam(); at <= operations; at += EachFifth) {
+    for (int at = 1 + GetParam() % Step; at <= operations; at += Step) {
         RestoreUsersFolder();
         EXPECT_EQ(Start(Kind(), at), Kills(Kind()) ? -1 : 0) << at;
 
@@ -181,7 +181,7 @@ TEST_P(UpdateFaults, AtTheFirstStartAreMadeGoodByTheNext)
     ASSERT_EQ(filled.at("PalmApp.dat"), OldPalm);
     const int operations = Operations();
 
-    for (int at = 1 + GetParam(); at <= operations; at += EachFifth) {
+    for (int at = 1 + GetParam() % Step; at <= operations; at += Step) {
         begin();
         EXPECT_EQ(Start(Kind(), at), Kills(Kind()) ? -1 : 0) << at;
         EXPECT_EQ(Start(), 0);
@@ -200,6 +200,7 @@ TEST_P(UpdateFaults, OfWhatIsKnownBringNothingBackMoreThanOnce)
     ASSERT_GE(operations, 10) << "open, write, sync, close and rename of two writes";
     ASSERT_EQ(operations % 2, 0);
 
+    int changedInSpite = 0;
     for (int at = 1; at <= operations; ++at) {
         if (Kills(Kind()) && at % 2 != 0)
             continue;
@@ -207,9 +208,7 @@ TEST_P(UpdateFaults, OfWhatIsKnownBringNothingBackMoreThanOnce)
         Start(Kind(), at, StateName);
         const bool isChanged = Now() == updated;
         EXPECT_TRUE(isChanged || Now() == old) << at;
-        if (!Kills(Kind())) {
-            EXPECT_EQ(isChanged, at > operations / 2) << "nothing changes without the intent";
-        }
+        changedInSpite += !Kills(Kind()) && isChanged && at <= operations / 2 ? 1 : 0;
         int returns = 0;
         for (int start = 0; start < 3; ++start) {
             DeleteAll();
@@ -219,6 +218,7 @@ TEST_P(UpdateFaults, OfWhatIsKnownBringNothingBackMoreThanOnce)
         EXPECT_LE(returns, 1) << at;
         EXPECT_EQ(Now(), Deleted()) << at;
     }
+    EXPECT_LE(changedInSpite, 1) << "where the passing file can't be locked";
 }
 
 TEST_F(UpdateStarts, ThatCanNeverWriteDownWhatTheyDidBringBackADeletedEntryOnce)

@@ -1,4 +1,5 @@
 #include "companion/BmpFile.h"
+#include "platform/Platform.h"
 #include "reader/PictureSink.h"
 #include "support/LoadFixture.h"
 
@@ -48,16 +49,16 @@ TEST_F(PicturesInMemory, AreThoseOfTheWorkingFilesAndNoneIsMade)
     for (const auto& entry : std::filesystem::directory_iterator(TestData("iconsets"))) {
         if (entry.path().extension() != ".prc")
             continue;
-        ASSERT_EQ(Load(entry.path()), LoadResult::Opened);
+        ASSERT_EQ(Load(platform::Utf8Path(entry.path())), LoadResult::Opened);
         std::map<std::string, Picture> expected;
         for (const auto& file : std::filesystem::directory_iterator(WorkFolder()))
-            expected[file.path().filename()] =
-                DecodeBmp(ReadBytes(file.path())).value_or(Picture());
+            expected[platform::Utf8Path(file.path().filename())] =
+                DecodeBmp(ReadBytes(platform::Utf8Path(file.path()))).value_or(Picture());
         const std::vector<IconRow> rows = IconTable;
         const std::vector<BitmapEntry> bitmaps = BitmapTable;
 
         KeptPictures kept;
-        ASSERT_EQ(LoadInto(kept, entry.path()), LoadResult::Opened);
+        ASSERT_EQ(LoadInto(kept, platform::Utf8Path(entry.path())), LoadResult::Opened);
 
         EXPECT_EQ(kept.pictures, expected) << entry.path();
         EXPECT_EQ(IconTable, rows) << "rows name them as if there were files";

@@ -1,13 +1,34 @@
 # bash completion of pixelworks-cli                                        -*- shell-script -*-
 # It needs no other completion; where the package bash-completion is, its own helpers are not used.
 
-# Paths that begin with the current word: folders, and with a pattern files whose names end so.
+# Sets typed to the path that a word means: without its opening quote and its backslashes.
+_pixelworks_cli_unquoted() { # WORD
+    local rest=$1
+    typed=
+    case $rest in
+    \'* | \"*)
+        typed=${rest:1}
+        return
+        ;;
+    esac
+    while [[ $rest =~ ^([^\\]*)\\(.)(.*)$ ]]; do
+        typed+=${BASH_REMATCH[1]}${BASH_REMATCH[2]}
+        rest=${BASH_REMATCH[3]}
+    done
+    typed+=$rest
+}
+
+# Paths that begin with the current word: folders, and with a pattern files whose names end so. Bash
+# puts quotes and backslashes back itself.
 _pixelworks_cli_paths() { # CURRENT [PATTERN]
-    local path
+    local path typed real
     compopt -o filenames 2>/dev/null || true
+    _pixelworks_cli_unquoted "$1"
     while IFS= read -r path; do
-        [[ -d $path || (-n ${2-} && ${path,,} =~ $2) ]] && COMPREPLY+=("$path")
-    done < <(compgen -f -- "$1")
+        real=$path
+        [[ $1 == "~/"* ]] && real=$HOME/${path#"~/"}
+        [[ -d $real || (-n ${2-} && ${real,,} =~ $2) ]] && COMPREPLY+=("$path")
+    done < <(compgen -f -- "$typed")
 }
 
 _pixelworks_cli_words() { # CURRENT WORDS

@@ -1,6 +1,7 @@
 #include "cli/Extract.h"
 
 #include "cli/DocumentJson.h"
+#include "cli/ListedResource.h"
 #include "cli/OpenIconset.h"
 #include "cli/PictureFiles.h"
 #include "cli/WritePng.h"
@@ -12,6 +13,7 @@
 #include <algorithm>
 #include <map>
 #include <nlohmann/json.hpp>
+#include <optional>
 
 namespace vypx {
 
@@ -36,11 +38,16 @@ std::map<std::string, IndexJson> IconsByResource()
     return icons;
 }
 
+const char* DensityOf(const PictureHeader& header) { return header.highDensity ? "high" : "low"; }
+
 void PutResource(IndexJson& entry, const PictureHeader& header)
 {
     entry["resourceType"] = header.resourceKey.substr(0, 4);
     entry["resourceId"] = ResourceId(header.resourceKey);
-    entry["density"] = header.highDensity ? "high" : "low";
+    if (header.file.empty())
+        entry["density"] = nullptr;
+    else
+        entry["density"] = DensityOf(header);
 }
 
 IndexJson IndexOf(const std::vector<ExtractedPicture>& pictures)
@@ -81,16 +88,58 @@ std::string WriteIndex(OutputFolder& folder, const std::vector<ExtractedPicture>
 }
 
 /// What keeps the folder from being what was asked for, in words; empty: nothing does.
-std::string WhyNotExtracted(const ReadEnd& end, const PictureFiles& files, OutputFolder& folder)
+std::string WhyNotExtracted(const PictureFiles& files)
 {
     if (!files.Failure().empty())
         return files.Failure();
-    const auto isThere = [](const ExtractedPicture& picture) { return !picture.file.empty(); };
     if (LoadedAsTemplate)
         return "it is a template, which has no pictures";
-    if (end.IsOpened() && std::none_of(files.Pictures().begin(), files.Pictures().end(), isThere))
+    const auto isThere = [](const ExtractedPicture& picture) { return !picture.file.empty(); };
+    if (std::none_of(files.Pictures().begin(), files.Pictures().end(), isThere))
         return "there is no picture in it";
-    return end.IsOpened() ? WriteIndex(folder, files.Pictures()) : std::string();
+    return {};
+}
+
+/// Resources of the open file that should have pictures and of which none came.
+void NoteMissingResources(PictureFiles& files)
+{
+    const ByteView file = ByteView(FileCashe).Part(1, FileCashe.size() - 2);
+    for (const ListedResource& resource : ListedResources(file)) {
+        if (resource.HasPictures())
+            files.NoteMissing(resource.Name(), "nothing of it can be read");
+        else if (resource.type == "abmp")
+            files.NoteMissing(resource.Name(), "pictures of this kind are not read");
+    }
+}
+
+void TellPassedOver(const PictureFiles& files)
+{
+    for (const ExtractedPicture& picture : files.Pictures()) {
+        if (!picture.file.empty())
+            continue;
+        const PictureHeader& header = picture.header;
+        const std::string density =
+            header.file.empty() ? std::string() : std::string(" (") + DensityOf(header) + ")";
+        Tell(header.resourceKey + density + " is passed over: " + picture.whyNot);
+    }
+}
+
+/// Fills the folder. Empty: it is what was asked for; else why not, in words that may be none where
+/// the load has told it.
+std::optional<std::string> Fill(OutputFolder& folder, const ExtractOptions& options)
+{
+    PictureFiles files(folder);
+    const ReadEnd end = ReadIconset(options.read, files);
+    TellEnd(end);
+    if (!end.IsOpened())
+        return std::string();
+    if (files.Failure().empty() && !LoadedAsTemplate)
+        NoteMissingResources(files);
+    TellPassedOver(files);
+    std::string whyNot = WhyNotExtracted(files);
+    if (whyNot.empty())
+        whyNot = WriteIndex(folder, files.Pictures());
+    return whyNot.empty() ? std::nullopt : std::optional(std::move(whyNot));
 }
 
 } // namespace
@@ -98,18 +147,12 @@ std::string WhyNotExtracted(const ReadEnd& end, const PictureFiles& files, Outpu
 int Extract(const ExtractOptions& options)
 {
     OutputFolder folder;
-    if (!folder.Use(options.folder, "DIR"))
-        return 2;
-    PictureFiles files(folder);
-    const ReadEnd end = ReadIconset(options.read, files);
-    TellEnd(end);
-    for (const ExtractedPicture& picture : files.Pictures())
-        if (picture.file.empty())
-            Tell(picture.header.resourceKey + (picture.header.highDensity ? " (high)" : " (low)")
-                + " is passed over: " + picture.whyNot);
-    const std::string whyNot = WhyNotExtracted(end, files, folder);
-    if (!end.IsOpened() || !whyNot.empty()) {
-        Tell(whyNot);
+    const OutputFolder::Use use = folder.Take(options.folder, "DIR");
+    if (use != OutputFolder::Use::Serves)
+        return use == OutputFolder::Use::IsTaken ? 2 : 1;
+    const std::optional<std::string> whyNot = Fill(folder, options);
+    if (whyNot) {
+        Tell(*whyNot);
         return 1;
     }
     folder.Keep();

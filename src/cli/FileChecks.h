@@ -2,6 +2,7 @@
 
 #include "cli/Findings.h"
 #include "cli/ListedResource.h"
+#include "writer/IconIndex.h"
 
 #include <span>
 
@@ -18,6 +19,10 @@ void CheckList(ByteView file, std::span<const ListedResource> resources, Finding
 
 /// The records of the icon index that is read: the first one of the list.
 void CheckIndex(ByteView file, std::span<const ListedResource> resources, Findings& findings);
+
+/// The same records against what a save of the open document would write.
+void CheckWrittenIndex(ByteView file, std::span<const ListedResource> resources,
+    const IconIndex& written, Findings& findings);
 
 /// The bitmap records of a resource of pictures, the ones included that are never shown.
 void CheckPictures(const std::string& resource, ByteView data, Findings& findings);

@@ -1,5 +1,6 @@
 #include "cli/FirstIcons.h"
 
+#include "cli/Sheet.h"
 #include "document/Document.h"
 #include "document/Labels.h"
 
@@ -84,19 +85,27 @@ void FirstIcons::Take(const PictureHeader& header, Picture picture)
 {
     if (picture.IsNull())
         return;
-    // The high-res picture comes behind the low-res one and takes its place.
-    m_kept.insert_or_assign(
-        m_ranks.at(header.resourceKey), MaskedPicture{ std::move(picture), header.transparent });
+    const std::size_t rank = m_ranks.at(header.resourceKey);
+    // Where a resource stands there once more, its second picture counts, as in the program; but a
+    // low-res one never takes a high-res one's place.
+    const auto before = m_kept.find(rank);
+    if (before != m_kept.end() && before->second.highDensity && !header.highDensity)
+        return;
+    m_kept.insert_or_assign(rank,
+        Kept{ FitInto({ std::move(picture), header.transparent }, m_side, m_side),
+            header.highDensity });
     if (m_kept.size() > m_most)
         m_kept.erase(std::prev(m_kept.end()));
 }
 
-std::vector<MaskedPicture> FirstIcons::Pictures() const
+std::vector<MaskedPicture> FirstIcons::TakePictures()
 {
     std::vector<MaskedPicture> pictures;
-    for (const auto& [rank, picture] : m_kept)
-        if (rank < m_firstSpare || m_kept.begin()->first >= m_firstSpare)
-            pictures.push_back(picture);
+    const bool spareOnly = !m_kept.empty() && m_kept.begin()->first >= m_firstSpare;
+    for (auto& [rank, kept] : m_kept)
+        if (rank < m_firstSpare || spareOnly)
+            pictures.push_back(std::move(kept.picture));
+    m_kept.clear();
     return pictures;
 }
 

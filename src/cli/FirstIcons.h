@@ -16,8 +16,11 @@ namespace vypx {
 /// counts only where no other icon has a picture.
 class FirstIcons : public PictureSink {
 public:
-    explicit FirstIcons(std::size_t most)
+    /// At most so many icons, for a sheet whose sides are `side` pixels: larger ones are shrunk to
+    /// it as they come.
+    FirstIcons(std::size_t most, int side)
         : m_most(most)
+        , m_side(side)
     {
     }
 
@@ -25,18 +28,24 @@ public:
     bool Wants(const PictureHeader& header) override;
     void Take(const PictureHeader& header, Picture picture) override;
 
-    /// In their order; at most so many as were asked for.
-    std::vector<MaskedPicture> Pictures() const;
+    /// In their order; at most so many as were asked for. Nothing is left here.
+    std::vector<MaskedPicture> TakePictures();
 
 private:
+    struct Kept {
+        MaskedPicture picture;
+        bool highDensity = false;
+    };
+
     void RankResources();
     bool HasAll() const;
 
     std::size_t m_most;
+    int m_side;
     bool m_isRanked = false;
     std::size_t m_firstSpare = 0;                         ///< ranks from here on are second choice
     std::unordered_map<std::string, std::size_t> m_ranks; ///< of resources
-    std::map<std::size_t, MaskedPicture> m_kept;          ///< by rank
+    std::map<std::size_t, Kept> m_kept;                   ///< by rank
 };
 
 } // namespace vypx

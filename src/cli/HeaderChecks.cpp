@@ -1,7 +1,7 @@
 #include "cli/FileChecks.h"
 #include "companion/PalmDatabase.h"
 #include "reader/ResourceList.h"
-#include "settings/Settings.h"
+#include "writer/CompileIconset.h"
 
 #include <algorithm>
 #include <set>
@@ -63,26 +63,24 @@ void CheckPlace(
                 + std::to_string(LargestChunk));
 }
 
-std::string VersionText(ByteView data)
+/// Whether anything stands behind the zero that ends the text.
+bool HasMoreThanText(ByteView data)
 {
-    std::string text = data.Text(0, data.Size());
-    text.resize(std::min(text.find('\0'), text.size()));
-    return text;
+    const std::string text = data.Text(0, data.Size());
+    const std::size_t end = text.find('\0');
+    return end != std::string::npos && text.find_first_not_of('\0', end) != std::string::npos;
 }
 
 /// What a save does with a resource that is no icon's.
 void CheckKept(ByteView file, const ListedResource& resource, Findings& findings)
 {
     const std::string name = resource.Name();
-    constexpr int UsualId = 1000;
     if (resource.type == "abmp")
         findings.Add(name, "its pictures are of a kind that is not read: a save leaves it out");
-    else if (resource.type == "tver" && resource.id == UsualId) {
-        if (const std::string text = VersionText(resource.Data(file)); text != VersionString)
-            findings.Add(name,
-                "its text \"" + text + "\" becomes \"" + VersionString
-                    + "\" at a save, as the options have it");
-    } else if (resource.type == "iTbl" && resource.id != UsualId)
+    else if (name == VersionKey) {
+        if (HasMoreThanText(resource.Data(file)))
+            findings.Add(name, "a save leaves out what stands behind the zero of its text");
+    } else if (resource.type == "iTbl" && name != IndexKey)
         findings.Add(name, "a save gives it the ID 1000");
     else if (!resource.HasPictures() && resource.type != "iTbl")
         findings.Add(name, "a save leaves out what is no icon");
@@ -100,7 +98,7 @@ void CheckHeader(ByteView file, Findings& findings)
             "for another one");
     if ((attributes & ~ResourceDatabase) != 0)
         findings.Add("header", "a save keeps no attribute but that of a resource database");
-    if (file.U16(DatabaseVersionOffset) > 1)
+    if (file.U16(DatabaseVersionOffset) != 1)
         findings.Add("header", "a save makes its version 1");
     if (file.U32(AppInfoOffset) != 0)
         findings.Add("header", "a save leaves the application info out");

@@ -9,6 +9,7 @@
 #include "reader/LoadFile.h"
 #include "settings/Settings.h"
 
+#include <cstdio>
 #include <filesystem>
 #include <iostream>
 
@@ -24,7 +25,7 @@ namespace fs = std::filesystem;
 bool UseFolders(const OpenOptions& options)
 {
     OutputFolder folder;
-    if (!folder.Use(options.workFolder, "the work folder"))
+    if (folder.Take(options.workFolder, "the work folder") != OutputFolder::Use::Serves)
         return false;
     folder.Keep();
     const fs::path work = platform::NativePath(options.workFolder);
@@ -44,12 +45,37 @@ void UseSettings(const OpenOptions& options)
     LowResOnly = options.only == "low";
 }
 
+std::string EscapedByte(unsigned code)
+{
+    char text[sizeof "\\x1B"];
+    std::snprintf(text, sizeof text, "\\x%02X", code);
+    return text;
+}
+
 } // namespace
+
+std::string WithoutControls(std::string_view utf8)
+{
+    std::string made;
+    for (std::size_t i = 0; i < utf8.size(); ++i) {
+        const auto code = static_cast<unsigned char>(utf8[i]);
+        const auto next = static_cast<unsigned char>(i + 1 < utf8.size() ? utf8[i + 1] : 0);
+        if ((code < 0x20 && code != '\n') || code == 0x7F) {
+            made += EscapedByte(code);
+        } else if (code == 0xC2 && next >= 0x80 && next < 0xA0) {
+            made += EscapedByte(next); // U+0080 to U+009F
+            ++i;
+        } else {
+            made += utf8[i];
+        }
+    }
+    return made;
+}
 
 void Tell(std::string_view text)
 {
     if (!text.empty())
-        std::cerr << "pixelworks-cli: " << text << '\n';
+        std::cerr << "pixelworks-cli: " << WithoutControls(text) << '\n';
 }
 
 bool OpenIconset(const OpenOptions& options, CollectedMessages& messages)

@@ -26,7 +26,11 @@ public:
     std::vector<std::string> texts;
 };
 
-/// A line on standard error (UTF-8); nothing for an empty text.
+/// UTF-8 with its control characters as `\x1B`, so that no name speaks to a terminal; line feeds
+/// stay.
+std::string WithoutControls(std::string_view utf8);
+
+/// A line on standard error (UTF-8), without controls; nothing for an empty text.
 void Tell(std::string_view text);
 
 /// Reads the catalogs and opens the iconset, with the settings of a first run. False, and a word to

@@ -36,22 +36,27 @@ OutputFolder::~OutputFolder()
             fs::remove(*path, ignored); // a folder only if it is empty
 }
 
-bool OutputFolder::Use(const std::string& folder, const std::string& word)
+OutputFolder::Use OutputFolder::Take(const std::string& folder, const std::string& word)
 {
     std::error_code error;
     m_folder = platform::NativePath(folder);
-    if (fs::exists(m_folder, error)
-        && !(fs::is_directory(m_folder, error) && fs::is_empty(m_folder, error))) {
-        Tell(word + " is not empty: " + folder);
-        return false;
+    const fs::file_status status = fs::status(m_folder, error);
+    const bool exists = fs::exists(status), isFolder = fs::is_directory(status);
+    if (exists && !(isFolder && fs::is_empty(m_folder, error))) {
+        Tell(word
+            + (!isFolder    ? " is no folder: "
+                    : error ? " can't be read: "
+                            : " is not empty: ")
+            + folder);
+        return Use::IsTaken;
     }
     m_made = MissingFolders(m_folder);
     fs::create_directories(m_folder, error);
     if (!fs::is_directory(m_folder, error)) {
         Tell("can't make " + word + ": " + folder);
-        return false;
+        return Use::CannotBeMade;
     }
-    return true;
+    return Use::Serves;
 }
 
 std::string OutputFolder::NewFile(const std::string& name)

@@ -16,9 +16,10 @@ public:
     OutputFolder& operator=(const OutputFolder&) = delete;
     ~OutputFolder();
 
-    /// Makes the folder (UTF-8) if it is missing. False, and a word to standard error, when it
-    /// can't serve; `word` is what the user calls it.
-    bool Use(const std::string& folder, const std::string& word);
+    enum class Use { Serves, IsTaken, CannotBeMade };
+    /// Makes the folder (UTF-8) if it is missing, or says to standard error why it can't serve;
+    /// `word` is what the user calls it.
+    Use Take(const std::string& folder, const std::string& word);
     /// Path (UTF-8) of a file in it, which goes with the folder from now on.
     std::string NewFile(const std::string& name);
     /// All of it stays.

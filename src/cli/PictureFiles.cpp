@@ -3,6 +3,7 @@
 #include "cli/Extract.h"
 #include "cli/WritePng.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vypx {
@@ -44,10 +45,18 @@ void PictureFiles::Take(const PictureHeader& header, Picture picture)
     const int times = ++m_times[header.resourceKey + density];
     const std::string name =
         header.resourceKey + (times > 1 ? "-" + std::to_string(times) : "") + density;
-    m_failure =
-        WritePng(m_folder.NewFile(name), WithOpacity({ std::move(picture), header.transparent }));
+    m_failure = WritePng(m_folder.NewFile(name),
+        WithOpacity({ std::move(picture), header.transparent }), FileWay::Anew);
     if (m_failure.empty())
         m_pictures.push_back({ .header = header, .file = name });
+}
+
+void PictureFiles::NoteMissing(const std::string& resourceKey, std::string whyNot)
+{
+    const bool came = std::any_of(m_pictures.begin(), m_pictures.end(),
+        [&](const ExtractedPicture& picture) { return picture.header.resourceKey == resourceKey; });
+    if (!came)
+        PassOver({ .resourceKey = resourceKey }, std::move(whyNot));
 }
 
 void PictureFiles::PassOver(const PictureHeader& header, std::string whyNot)

@@ -11,9 +11,9 @@ namespace vypx {
 
 /// A picture that went into a folder, or why it did not.
 struct ExtractedPicture {
-    PictureHeader header;
-    std::string file;   ///< bare name; empty: it was passed over
-    std::string whyNot; ///< in words; empty: the file is there
+    PictureHeader header; ///< without a file's name: nothing of the resource was read, but its key
+    std::string file;     ///< bare name; empty: it was passed over
+    std::string whyNot;   ///< in words; empty: the file is there
 };
 
 /// Writes the pictures of a load into a folder as they come.
@@ -24,6 +24,9 @@ public:
     bool GoOn() override { return m_failure.empty(); }
     bool Wants(const PictureHeader& header) override;
     void Take(const PictureHeader& header, Picture picture) override;
+
+    /// Notes a resource of pictures that gave none, unless one of it came.
+    void NoteMissing(const std::string& resourceKey, std::string whyNot);
 
     const std::vector<ExtractedPicture>& Pictures() const { return m_pictures; }
     /// What ended the writing before its time, in words for the user (UTF-8); empty: nothing did.

@@ -4,12 +4,15 @@
 #include "catalogs/CatalogFiles.h"
 #include "cli/OpenIconset.h"
 #include "companion/Latin1.h"
+#include "document/Document.h"
 #include "document/WorkingFolder.h"
 #include "platform/Platform.h"
+#include "settings/LetterCase.h"
 #include "settings/Settings.h"
 
-#include <cstdio>
 #include <filesystem>
+#include <map>
+#include <utility>
 
 namespace vypx {
 
@@ -25,53 +28,73 @@ void UseCatalogs(const std::string& folder)
         Tell(NoteOf(cut));
 }
 
+/// Collects the boxes' texts, and the file's bytes before a failure can take them away.
+class ReadListener : public CollectedMessages {
+public:
+    explicit ReadListener(bool keepBytes)
+        : m_keepBytes(keepBytes)
+    {
+    }
+
+    void DuplicateResource(const std::string& resource) override { duplicates.push_back(resource); }
+    void DocumentNamed() override
+    {
+        if (m_keepBytes)
+            file.assign(FileCashe.begin() + 1, FileCashe.end() - 1);
+    }
+
+    std::vector<std::string> duplicates;
+    Bytes file;
+
+private:
+    bool m_keepBytes;
+};
+
 } // namespace
 
-bool IsWithinLimits(const PictureHeader& header)
+bool IsWithinLimits(std::int64_t width, std::int64_t height, std::int64_t rowBytes)
 {
-    const std::int64_t height = header.height;
-    return header.width * height <= MostPixels && header.rowBytes * height <= MostPixels * 2;
+    return width * height <= MostPixels && rowBytes * height <= MostPixels * 2;
 }
 
-ReadEnd ReadIconset(const ReadOptions& options, PictureSink& pictures)
+bool IsTemplate(const ReadOptions& options) { return LowerCase(options.file).ends_with(".vpt"); }
+
+ReadEnd ReadIconset(const ReadOptions& options, PictureSink& pictures, bool keepBytes)
 {
     SetDefaultSettings();
     SetDefaultColorDepth("16-Bit");
     UseCatalogs(options.appFolder);
-    LoadRequest request{
+    const LoadRequest request{
         .path = options.file,
-        .asTemplate = true,
+        .asTemplate = IsTemplate(options),
         .chosenBefore = true, // whatever its name ends in; and no folder is cleaned
         .pictures = &pictures,
         .largest = LargestIconset,
     };
-    request.asTemplate = HasTheRightExtension(request);
-    CollectedMessages messages;
-    const LoadReport report = LoadFile(request, messages);
-    return { report, std::move(messages.texts) };
+    ReadListener listener(keepBytes);
+    const LoadReport report = LoadFile(request, listener);
+    return { report, std::move(listener.texts), std::move(listener.duplicates),
+        std::move(listener.file) };
 }
 
 void TellEnd(const ReadEnd& end)
 {
+    std::map<std::string_view, int> times;
     for (const std::string& text : end.messages)
-        Tell(Printable(text));
+        ++times[text];
+    for (const std::string& text : end.messages) {
+        const int count = std::exchange(times[text], 0);
+        if (count > 0)
+            Tell(Printable(text) + (count > 1 ? " (" + std::to_string(count) + " times)" : ""));
+    }
     Tell(NoteOf(end.report));
 }
 
 std::string Printable(std::string_view latin1)
 {
-    std::string printable;
-    for (const char letter : latin1) {
-        const auto code = static_cast<unsigned char>(letter);
-        const bool isControl = code < 0x20 || (code >= 0x7F && code < 0xA0);
-        if (isControl) {
-            char text[sizeof "\\x1B"];
-            std::snprintf(text, sizeof text, "\\x%02X", unsigned{ code });
-            printable += text;
-        } else {
-            printable += Utf8FromLatin1({ &letter, 1 });
-        }
-    }
+    std::string printable = WithoutControls(Utf8FromLatin1(latin1));
+    for (std::size_t at = 0; (at = printable.find('\n', at)) != std::string::npos;)
+        printable.replace(at, 1, "\\x0A");
     return printable;
 }
 

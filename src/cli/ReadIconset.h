@@ -1,5 +1,6 @@
 #pragma once
 
+#include "companion/ByteView.h"
 #include "companion/IconsetLimits.h"
 #include "reader/LoadFile.h"
 #include "reader/PictureSink.h"
@@ -27,22 +28,34 @@ inline constexpr std::uintmax_t LargestIconset = DataOffsetEnd + MaxResourceSize
 /// The largest picture that is decoded: 2048 x 2048 pixels, or one as large in another shape.
 inline constexpr std::int64_t MostPixels = 2048 * 2048;
 /// Whether a picture claims no more than MostPixels, its rows' padding counted.
-bool IsWithinLimits(const PictureHeader& header);
+bool IsWithinLimits(std::int64_t width, std::int64_t height, std::int64_t rowBytes);
+inline bool IsWithinLimits(const PictureHeader& header)
+{
+    return IsWithinLimits(header.width, header.height, header.rowBytes);
+}
 
 /// How a look at an iconset ended. The document is open if `report` says so.
 struct ReadEnd {
     LoadReport report;
     std::vector<std::string> messages; ///< texts that the windows would show in boxes (Latin-1)
+    /// Resources whose icon would have had a label that was taken; of each such message one.
+    std::vector<std::string> duplicates;
+    Bytes file; ///< that was read; empty where that was none of the right type, or not wanted
 
     bool IsOpened() const { return report.result == LoadResult::Opened; }
 };
 
-/// Opens the file with the settings of a first run, its pictures going to `pictures`. One whose
-/// name ends in ".vpt" is read as a template. What is to be said of the catalogs goes to standard
-/// error.
-ReadEnd ReadIconset(const ReadOptions& options, PictureSink& pictures);
+/// Whether the file is read as a template: its name ends in ".vpt", in any letter case.
+bool IsTemplate(const ReadOptions& options);
 
-/// Tells on standard error what a look came to, as far as a user has to know.
+/// Opens the file with the settings of a first run, its pictures going to `pictures`. What is to be
+/// said of the catalogs goes to standard error. `keepBytes`: the file's own are given back as well.
+///
+/// A picture whose pixel size no bitmap has breaks the file, whether `pictures` wants it or not.
+ReadEnd ReadIconset(const ReadOptions& options, PictureSink& pictures, bool keepBytes = false);
+
+/// Tells on standard error what a look came to, as far as a user has to know: each text once, with
+/// how often it came.
 void TellEnd(const ReadEnd& end);
 
 /// Latin-1 bytes as UTF-8, control characters as `\x1B`, so that no file speaks to a terminal.

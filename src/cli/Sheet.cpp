@@ -55,25 +55,6 @@ Grid BestGrid(std::span<const MaskedPicture> pictures, int side)
     return best;
 }
 
-/// The picture in a size that a part holds.
-MaskedPicture Shrunk(const MaskedPicture& picture, const Grid& grid)
-{
-    const int width = picture.pixels.Width(), height = picture.pixels.Height();
-    if (width <= grid.boxWidth && height <= grid.boxHeight)
-        return picture;
-    const double scale = std::min(
-        static_cast<double>(grid.boxWidth) / width, static_cast<double>(grid.boxHeight) / height);
-    const int newWidth = std::clamp(static_cast<int>(width * scale), 1, grid.boxWidth);
-    const int newHeight = std::clamp(static_cast<int>(height * scale), 1, grid.boxHeight);
-    MaskedPicture small{ Picture(newWidth, newHeight), picture.transparent };
-    if (picture.transparent)
-        ScaleImg(picture.pixels, small.pixels, width, height, newWidth, newHeight,
-            { .transparent = *picture.transparent });
-    else
-        ScaleImg(picture.pixels, small.pixels, width, height, newWidth, newHeight);
-    return small;
-}
-
 /// Draws it in the middle of the part whose upper left corner is `left`, `top`.
 void Draw(const MaskedPicture& picture, const Grid& grid, int left, int top, OpacityPicture& sheet)
 {
@@ -92,6 +73,24 @@ void Draw(const MaskedPicture& picture, const Grid& grid, int left, int top, Opa
 
 int IconsOnSheet(int side) { return side < 128 ? 1 : side < 512 ? 4 : 16; }
 
+MaskedPicture FitInto(MaskedPicture picture, int width, int height)
+{
+    const int oldWidth = picture.pixels.Width(), oldHeight = picture.pixels.Height();
+    if (oldWidth <= width && oldHeight <= height)
+        return picture;
+    const double scale =
+        std::min(static_cast<double>(width) / oldWidth, static_cast<double>(height) / oldHeight);
+    const int newWidth = std::clamp(static_cast<int>(oldWidth * scale), 1, width);
+    const int newHeight = std::clamp(static_cast<int>(oldHeight * scale), 1, height);
+    MaskedPicture small{ Picture(newWidth, newHeight), picture.transparent };
+    if (picture.transparent)
+        ScaleImg(picture.pixels, small.pixels, oldWidth, oldHeight, newWidth, newHeight,
+            { .transparent = *picture.transparent });
+    else
+        ScaleImg(picture.pixels, small.pixels, oldWidth, oldHeight, newWidth, newHeight);
+    return small;
+}
+
 OpacityPicture MakeSheet(std::span<const MaskedPicture> pictures, int side)
 {
     const Grid grid = BestGrid(pictures, side);
@@ -101,7 +100,7 @@ OpacityPicture MakeSheet(std::span<const MaskedPicture> pictures, int side)
         const int row = i / grid.columns, column = i % grid.columns;
         const int inThisRow = std::min(count - row * grid.columns, grid.columns);
         const int indent = (grid.columns - inThisRow) * (grid.boxWidth + grid.gapX) / 2;
-        Draw(Shrunk(pictures[static_cast<std::size_t>(i)], grid), grid,
+        Draw(FitInto(pictures[static_cast<std::size_t>(i)], grid.boxWidth, grid.boxHeight), grid,
             indent + column * (grid.boxWidth + grid.gapX), row * (grid.boxHeight + grid.gapY),
             sheet);
     }

@@ -11,6 +11,9 @@ namespace vypx {
 /// 16.
 int IconsOnSheet(int side);
 
+/// The picture, made smaller in its shape where it is larger than `width` x `height` pixels.
+MaskedPicture FitInto(MaskedPicture picture, int width, int height);
+
 /// A picture of at most `side` x `side` pixels, 1 or more, that shows the pictures in rows: in as
 /// many columns as make them largest. Each is as many times as large as its part of the sheet
 /// holds, a whole number, with every pixel a square of one colour; one that is larger than its part

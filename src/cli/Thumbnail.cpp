@@ -27,16 +27,17 @@ int Thumbnail(const ThumbnailOptions& options)
         Tell("OUT is FILE itself");
         return 2;
     }
-    FirstIcons icons(static_cast<std::size_t>(IconsOnSheet(options.size)));
+    FirstIcons icons(static_cast<std::size_t>(IconsOnSheet(options.size)), options.size);
     const ReadEnd end = ReadIconset(options.read, icons);
     TellEnd(end);
-    const std::vector<MaskedPicture> pictures = icons.Pictures();
+    const std::vector<MaskedPicture> pictures = icons.TakePictures();
     if (pictures.empty()) {
         if (end.IsOpened())
             Tell("there is no picture in it");
         return 1;
     }
-    if (const std::string why = WritePng(options.out, MakeSheet(pictures, options.size));
+    if (const std::string why =
+            WritePng(options.out, MakeSheet(pictures, options.size), FileWay::Replace);
         !why.empty()) {
         Tell(why);
         return 1;

@@ -1,76 +1,46 @@
 #include "cli/Validate.h"
 
+#include "cli/DocumentChecks.h"
 #include "cli/FileChecks.h"
+#include "companion/DatabaseHeader.h"
 #include "companion/Latin1.h"
-#include "document/Document.h"
-#include "document/Slot.h"
 #include "platform/Platform.h"
-#include "reader/ResourceList.h"
-#include "writer/CompileIconset.h"
-#include "writer/SaveChecks.h"
-#include "writer/TemplateExport.h"
 
+#include <filesystem>
 #include <iostream>
 
 namespace vypx {
 
 namespace {
 
-/// Judges the pictures that a load decodes.
-class JudgedPictures : public PictureSink {
-public:
-    explicit JudgedPictures(Findings& findings)
-        : m_findings(findings)
-    {
-    }
+namespace fs = std::filesystem;
 
-    bool GoOn() override { return true; }
-    bool Wants(const PictureHeader& header) override
-    {
-        JudgeSize(header);
-        if (!IsWithinLimits(header))
-            m_findings.Add(PlaceOf(header), "it claims more pixels than are looked at");
-        return IsWithinLimits(header);
-    }
-    void Take(const PictureHeader& header, Picture picture) override
-    {
-        if (picture.IsNull())
-            m_findings.Add(PlaceOf(header), "it gives no picture, and none is saved");
-    }
-
-private:
-    static std::string PlaceOf(const PictureHeader& header)
-    {
-        return header.file.substr(0, header.file.rfind('.'));
-    }
-    /// Against the slots of the icons that show it.
-    void JudgeSize(const PictureHeader& header);
-
-    Findings& m_findings;
-};
-
-void JudgedPictures::JudgeSize(const PictureHeader& header)
+/// Why a load could not read the file at all; empty: it could.
+std::string WhyNotRead(const std::string& file)
 {
-    const Slot& slot = header.highDensity ? SlotLG : SlotSM;
-    for (const IconRow& row : IconTable) {
-        if (row.ResourceKey != header.resourceKey)
-            continue;
-        const std::optional<SizeClass> size = SizeToImport(row.IconLabel);
-        if (!size)
-            continue;
-        const PixelSize limit = slot.LimitOf(*size);
-        if (header.width > limit.width || header.height > limit.height)
-            m_findings.Add(PlaceOf(header),
-                "it has " + std::to_string(header.width) + " x " + std::to_string(header.height)
-                    + " pixels, more than the " + std::to_string(limit.width) + " x "
-                    + std::to_string(limit.height) + " of \"" + row.IconLabel + "\"");
-    }
+    std::error_code error;
+    const fs::path path = platform::NativePath(file);
+    const fs::file_status status = fs::status(path, error);
+    if (!fs::exists(status))
+        return error && error != std::errc::no_such_file_or_directory ? error.message()
+                                                                      : "there is no such file";
+    if (fs::is_directory(status))
+        return "it is a folder";
+    if (!fs::is_regular_file(status))
+        return "it is a pipe or a device and no file";
+    const std::uintmax_t size = fs::file_size(path, error);
+    if (!error && size > LargestIconset)
+        return "it has " + std::to_string(size) + " bytes, and no more than "
+            + std::to_string(LargestIconset) + " are looked at";
+    return platform::ReadWholeFile(file, LargestIconset) ? "" : "it can't be read";
 }
 
 void JudgeBytes(ByteView file, Findings& findings)
 {
-    if (file.Size() < DatabaseHeaderSize)
+    if (file.Size() < DatabaseHeaderSize) {
+        findings.Add("header", "the file ends within it");
         return;
+    }
     CheckHeader(file, findings);
     const std::vector<ListedResource> resources = ListedResources(file);
     CheckList(file, resources, findings);
@@ -82,53 +52,27 @@ void JudgeBytes(ByteView file, Findings& findings)
     }
 }
 
-/// The rows of the tree, as the window would show them.
-void JudgeIcons(Findings& findings)
-{
-    for (const IconRow& row : IconTable) {
-        if (row.IconLabel.empty())
-            continue;
-        if (row.IconKind == KindDelete)
-            findings.Add(row.ResourceKey,
-                "it is an orphan, as the index does not name it: a save leaves it out");
-        else if (row.IconKind == KindUnknown && !row.owner.IsKnown())
-            findings.Add(row.ResourceKey, "no application is known for it");
-        const bool hasPicture = ImageFileValid(row.LowResFile) || ImageFileValid(row.HighResFile);
-        if (!hasPicture && !LoadedAsTemplate)
-            findings.Add(row.ResourceKey, "it has no picture: a save leaves it out");
-    }
-}
-
-/// What a save would say of the open document.
-void JudgeSave(Findings& findings)
-{
-    const auto whyNot = LoadedAsTemplate ? WhyNotExported() : WhyNotSaved();
-    if (whyNot) {
-        findings.Add("save", *whyNot);
-        return;
-    }
-    const std::string note =
-        NoteOf(ReportOn(PictureRows(LoadedAsTemplate), CollectWrittenIndex(LoadedAsTemplate)));
-    if (!note.empty())
-        findings.Add("save", note);
-}
-
 } // namespace
 
 Findings Judged(const ReadOptions& options)
 {
     Findings findings;
-    JudgedPictures pictures(findings);
-    const ReadEnd end = ReadIconset(options, pictures);
+    JudgedPictures pictures(findings, IsTemplate(options));
+    const ReadEnd end = ReadIconset(options, pictures, true);
     for (const std::string& text : end.messages)
         findings.Add("load", text);
-    if (const std::string note = NoteOf(end.report); !note.empty())
-        findings.Add("load", Latin1FromUtf8(note));
-    if (const auto bytes = platform::ReadWholeFile(options.file, LargestIconset))
-        JudgeBytes(*bytes, findings);
+    for (const std::string& resource : end.duplicates)
+        findings.Add(resource, "the label of its icon is another one's already");
+    if (const std::string note = NoteOf(end.report); !note.empty()) {
+        const std::string why = end.file.empty() ? WhyNotRead(options.file) : std::string();
+        findings.Add("load", Latin1FromUtf8(why.empty() ? note : note + " (" + why + ")"));
+    }
+    if (end.file.empty())
+        return findings; // it is no iconset
+    JudgeBytes(end.file, findings);
     if (end.IsOpened()) {
-        JudgeIcons(findings);
-        JudgeSave(findings);
+        CheckIcons(findings);
+        CheckSave(end.file, pictures, findings);
     }
     return findings;
 }

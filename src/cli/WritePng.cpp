@@ -10,12 +10,13 @@ std::string WhyNotWritten(const std::string& path, std::error_code error)
     return refusal.path + ": " + refusal.reason;
 }
 
-std::string WritePng(const std::string& path, const OpacityPicture& picture)
+std::string WritePng(const std::string& path, const OpacityPicture& picture, FileWay way)
 {
     const PngFile png = PngOf(picture);
     if (!png.whyNot.empty())
         return png.whyNot;
-    const std::error_code error = platform::ReplaceFile(path, png.bytes);
+    const std::error_code error = way == FileWay::Replace ? platform::ReplaceFile(path, png.bytes)
+                                                          : platform::WriteNewFile(path, png.bytes);
     return error ? WhyNotWritten(path, error) : std::string();
 }
 

@@ -1,10 +1,12 @@
 #include "cli/CommandLine.h"
+#include "cli/OpenIconset.h"
 #include "platform/CommandLine.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <exception>
 #include <iostream>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -39,10 +41,12 @@ int main(int argc, char** argv)
         tool.parse(arguments);
         return EndOf(chosen.run());
     } catch (const CLI::ParseError& error) {
-        const bool askedForHelp = tool.exit(error) == 0;
+        std::ostringstream errors; // which repeat what was given
+        const bool askedForHelp = tool.exit(error, std::cout, errors) == 0;
+        std::cerr << vypx::WithoutControls(errors.str());
         return askedForHelp ? EndOf(0) : 2;
     } catch (const std::exception& error) {
-        std::cerr << "pixelworks-cli: " << error.what() << '\n';
+        std::cerr << "pixelworks-cli: " << vypx::WithoutControls(error.what()) << '\n';
         return 1;
     }
 }

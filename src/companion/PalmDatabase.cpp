@@ -1,7 +1,7 @@
 #include "companion/PalmDatabase.h"
 
 #include "companion/BitmapFamilies.h"
-#include "companion/IconsetLimits.h"
+#include "companion/DatabaseLayout.h"
 #include "companion/Numbers.h"
 #include "platform/Platform.h"
 
@@ -14,9 +14,7 @@ namespace vypx {
 
 namespace {
 
-constexpr std::size_t HeaderSize = 78, EntrySize = 10;
-// A reader that asks where the data behind the last resource begin finds a whole entry of zeros.
-constexpr std::size_t Gap = EntrySize;
+constexpr std::size_t EntrySize = 10; // of the resource list
 
 void Append16(Bytes& bytes, unsigned value)
 {
@@ -80,23 +78,24 @@ struct Output {
 Bytes Database(
     std::span<const ResourceRow> resources, const Output& output, const FamilyMaker& family)
 {
+    DatabaseLayout layout(resources.size(), output.path);
+    if (output.path.empty())
+        throw CompileFailure{ {}, "there is no file name" };
     Bytes file = Header(output.databaseName, resources.size());
     std::size_t entry = file.size();
-    file.resize(HeaderSize + EntrySize * resources.size() + Gap);
+    file.resize(layout.Begin());
     for (const ResourceRow& row : resources) {
-        file.resize((file.size() + 1) / 2 * 2);
+        const std::size_t offset = layout.Begin();
+        file.resize(offset);
         Bytes listed;
         AppendText(listed, std::string_view(row.key).substr(0, 4), 4);
         Append16(listed, static_cast<unsigned>(ResourceId(row.key)));
-        Append32(listed, static_cast<std::uint32_t>(file.size()));
+        Append32(listed, static_cast<std::uint32_t>(offset));
         std::copy(listed.begin(), listed.end(), file.begin() + static_cast<std::ptrdiff_t>(entry));
         entry += EntrySize;
-        if (file.size() >= DataOffsetEnd)
-            throw CompileFailure{ output.path, "no resource can begin behind the first 16 MiB" };
         const Bytes body =
             row.IsPlainFile() ? ReadWorkingBytes(output.workFolder, row.key + ".bin") : family(row);
-        if (body.size() + 1 > std::size_t{ MaxResourceSize }) // the last one is read 1 longer
-            throw CompileFailure{ output.path, row.key + " would be 10000000 bytes or more" };
+        layout.End(row.key, body.size());
         file.insert(file.end(), body.begin(), body.end());
     }
     return file;
@@ -107,10 +106,6 @@ std::optional<CompileFailure> Write(
     std::span<const ResourceRow> resources, const Output& output, const FamilyMaker& family)
 {
     try {
-        if (resources.size() > MaxResources)
-            return CompileFailure{ output.path, "an iconset holds 2000 resources at most" };
-        if (output.path.empty())
-            return CompileFailure{ {}, "there is no file name" };
         const Bytes file = Database(resources, output, family);
         if (const std::error_code error = platform::ReplaceFile(output.path, file)) {
             const platform::Refusal refusal = platform::ExplainRefusal(output.path, error);

@@ -151,10 +151,9 @@ Bytes EncodeLowDensity(const Picture& picture, const RecordForm& form,
     }
     record = Finish(std::move(record), picture, form, transparent.has_value(), 2);
     if (leadsOn) {
-        const std::size_t next = record.size() / 4;
-        if (next > UINT16_MAX)
+        if (!CanLeadOn(record.size()))
             throw RecordTooLarge();
-        Put16(record, 10, static_cast<int>(next));
+        Put16(record, 10, static_cast<int>(record.size() / 4));
     }
     return record;
 }

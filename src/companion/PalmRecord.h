@@ -4,6 +4,8 @@
 #include "companion/Palettes.h"
 #include "companion/Picture.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <stdexcept>
 
@@ -48,6 +50,9 @@ public:
     {
     }
 };
+
+/// Whether a low-density record of that many bytes can lead to what follows it.
+constexpr bool CanLeadOn(std::size_t bytes) { return bytes / 4 <= UINT16_MAX; }
 
 /// A low-density record. With `leadsOn` it leads to what follows right behind it. Throws
 /// RecordTooLarge.

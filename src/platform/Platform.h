@@ -74,6 +74,10 @@ std::error_code ReplaceFile(
     const std::string& path, std::span<const std::uint8_t> bytes, const std::string& like = {},
     const std::function<bool()>& goOn = [] { return true; });
 
+/// Makes a file that is not there yet; a failure leaves none. Nothing is synced: for files that are
+/// of no use before another one that is.
+std::error_code WriteNewFile(const std::string& path, std::span<const std::uint8_t> bytes);
+
 /// A failed ReplaceFile in words for the user.
 struct Refusal {
     std::string path;   ///< the file, or its folder where it is the folder that refuses

@@ -197,6 +197,21 @@ std::error_code ReplaceFile(const std::string& path, std::span<const std::uint8_
     return error;
 }
 
+std::error_code WriteNewFile(const std::string& path, std::span<const std::uint8_t> bytes)
+{
+    const int file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    if (file < 0)
+        return LastError();
+    std::error_code error;
+    if (!WriteAll(file, bytes))
+        error = LastError();
+    if (::close(file) != 0 && !error)
+        error = LastError();
+    if (error)
+        ::unlink(path.c_str());
+    return error;
+}
+
 FileLock::Answer FileLock::TryLock(const std::string& path)
 {
     Unlock();

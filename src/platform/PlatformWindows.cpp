@@ -43,9 +43,9 @@ bool StandsAt(HANDLE file, const std::string& path)
     return open && there && open->volume == there->volume && open->file == there->file;
 }
 
-/// Nobody else can open, read or delete the file while it is written.
-std::error_code WritePassingFile(
-    const std::filesystem::path& name, std::span<const std::uint8_t> bytes)
+/// Makes a file that nobody else can open, read or delete while it is written.
+std::error_code WriteFileAnew(
+    const std::filesystem::path& name, std::span<const std::uint8_t> bytes, bool flush)
 {
     const HANDLE file = ::CreateFileW(
         name.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
@@ -60,7 +60,7 @@ std::error_code WritePassingFile(
         else
             bytes = bytes.subspan(written);
     }
-    if (!error && !::FlushFileBuffers(file))
+    if (!error && flush && !::FlushFileBuffers(file))
         error = LastError();
     ::CloseHandle(file);
     return error;
@@ -125,7 +125,7 @@ std::error_code ReplaceFile(const std::string& path, std::span<const std::uint8_
     constexpr DWORD Pause = 10; // milliseconds
     for (int i = 0; i < Tries; ++i) {
         const std::filesystem::path passing = NewPassingFile(target);
-        error = WritePassingFile(passing, bytes);
+        error = WriteFileAnew(passing, bytes, true);
         const bool isWritten = !error;
         if (isWritten)
             error = goOn() ? Rename(passing, target)
@@ -137,6 +137,16 @@ std::error_code ReplaceFile(const std::string& path, std::span<const std::uint8_
             return error;
         ::Sleep(Pause);
     }
+    return error;
+}
+
+std::error_code WriteNewFile(const std::string& path, std::span<const std::uint8_t> bytes)
+{
+    const std::filesystem::path name = NativePath(path);
+    const bool isThere = ::GetFileAttributesW(name.c_str()) != INVALID_FILE_ATTRIBUTES;
+    const std::error_code error = WriteFileAnew(name, bytes, false);
+    if (error && !isThere)
+        ::DeleteFileW(name.c_str());
     return error;
 }
 

@@ -1,6 +1,5 @@
 #include "reader/BitmapDecoder.h"
 
-#include "companion/DensityMark.h"
 #include "companion/PixelLibrary.h"
 #include "document/Document.h"
 #include "document/Slot.h"
@@ -9,16 +8,9 @@
 #include "reader/Progress.h"
 #include "settings/Settings.h"
 
-#include <algorithm>
-
 namespace vypx {
 
 namespace {
-
-int PixelSizeAt(ByteView resource, std::size_t position)
-{
-    return resource.U8(position + PixelSizeOffset);
-}
 
 Rgb EntryOf(Palette palette, int index)
 {
@@ -51,94 +43,21 @@ BitmapDecoder::BitmapDecoder(WalkState& load, LoadListener& listener)
 
 void BitmapDecoder::DecodeBitmapFamily()
 {
-    m_size = m_load.ResourceBytes.size() - 1;
-    m_walk = {};
-    for (;;) {
-        if (m_walk.lastLowFound && m_walk.highDepth == 0)
-            m_walk.highDone = true; // there is no high-density member
-        if (m_walk.lowDone && m_walk.highDone)
-            return;
-        const Walk before = m_walk;
-        OuterPass();
-        // A pass that found out nothing leaves the next one nothing to do: links that lead nowhere.
-        if (m_walk == before)
-            return;
-    }
+    const ByteView resource =
+        ByteView(m_load.ResourceBytes).Part(1, m_load.ResourceBytes.size() - 1);
+    WalkFamily(resource, [&](const ShownRecord& shown) { Pick(resource, shown); });
 }
 
-void BitmapDecoder::OuterPass()
+void BitmapDecoder::Pick(ByteView resource, const ShownRecord& shown)
 {
-    const ByteView resource = Resource();
-    std::size_t position = 0;
-    while (position < m_size) {
-        const int pixelSize = PixelSizeAt(resource, position);
-        if (pixelSize == DensityMarkPixelSize) {
-            DecodeHighDensity(position + DensityMarkSize);
-            return;
-        }
-        if (m_walk.lowDone)
-            return; // after the low-density member only the mark can follow
-        if (m_walk.lastLowFound) {
-            m_walk.lowDone = true;
-            Pick(m_walk.lowPos, m_walk.lowSize, false);
-            position = m_walk.lowPos + m_walk.lowSize;
-            continue;
-        }
-        m_walk.lowPos = position;
-        m_walk.lowDepth = pixelSize;
-        const std::size_t next = resource.U16(position + 10) * std::size_t{ 4 };
-        if (next == 0) {
-            m_walk.lastLowFound = true;
-            m_walk.lowSize = m_size - position;
-            return;
-        }
-        m_walk.lowSize = next;
-        position += next;
-    }
-}
-
-void BitmapDecoder::DecodeHighDensity(std::size_t position)
-{
-    if (m_walk.highDone)
-        return;
-    if (m_walk.lowDepth == 0)
-        m_walk.lowDone = true; // the mark came first: there is no low-density member
-    const ByteView resource = Resource();
-    while (position < m_size) {
-        const std::size_t next = resource.U24(position + 21);
-        if (next == 0 || !m_walk.lastLowFound)
-            m_walk.highSize = m_size - position;
-        if (!m_walk.lastLowFound) {
-            m_walk.highDepth = PixelSizeAt(resource, position);
-            if (next == 0) {
-                m_walk.lastLowFound = true;
-                return;
-            }
-        } else if (PixelSizeAt(resource, position) == m_walk.highDepth) {
-            // On purpose: of two with that pixel size the first is taken.
-            m_walk.highDone = true;
-            Pick(position, m_walk.highSize, true);
-            return;
-        } else if (next == 0) {
-            return;
-        }
-        position += next;
-    }
-}
-
-void BitmapDecoder::Pick(std::size_t position, std::size_t size, bool highDensity)
-{
+    const bool highDensity = shown.highDensity;
     const std::string file =
         m_load.ResourceName + std::string(highDensity ? HighResSuffix : "") + ".bmp";
     if (const auto rows = m_rowsByKey.find(m_load.ResourceName); rows != m_rowsByKey.end())
         for (const std::size_t row : rows->second)
             (highDensity ? IconTable[row].HighResFile : IconTable[row].LowResFile) = file;
 
-    // On purpose: twice as long as the resource. A decoder that runs past the record reads zeros
-    // up to there.
-    const auto bytes = Resource().Part(position, size).Span();
-    Bytes bitmapBytes(2 * m_size);
-    std::copy(bytes.begin(), bytes.end(), bitmapBytes.begin());
+    const Bytes bitmapBytes = shown.BytesOf(resource);
     const BitmapRecord record{ .bytes = bitmapBytes, .highDensity = highDensity };
     const BitmapEntry& entry = NoteTransparency(record, file);
     std::error_code error;
@@ -163,11 +82,12 @@ void BitmapDecoder::HandOver(const BitmapRecord& record, const BitmapEntry& entr
         .depth = record.PixelSize(),
         .transparent = TransparentColour(entry),
     };
-    if (!m_load.pictures->Wants(header))
-        return;
-    const PixelBuffer pixels = ExpandPixels(record.Pixels(), record.Form());
+    const bool isWanted = m_load.pictures->Wants(header);
     if (!IsPixelSize(header.depth))
         throw NoPixelSize();
+    if (!isWanted)
+        return;
+    const PixelBuffer pixels = ExpandPixels(record.Pixels(), record.Form());
     m_load.pictures->Take(header, PictureOf(pixels, header.depth, header.width, header.height));
 }
 

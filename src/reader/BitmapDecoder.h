@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document/Document.h"
-#include "reader/BitmapRecord.h"
+#include "reader/FamilyWalk.h"
 #include "reader/LoadListener.h"
 #include "reader/WalkState.h"
 
@@ -29,28 +29,14 @@ public:
     void DecodeBitmapFamily();
 
 private:
-    /// What the walk over a family knows. Positions and sizes in bytes of the resource.
-    struct Walk {
-        bool lastLowFound = false, lowDone = false, highDone = false;
-        int lowDepth = 0, highDepth = 0;
-        std::size_t lowPos = 0, lowSize = 0, highSize = 0;
-
-        friend bool operator==(const Walk&, const Walk&) = default;
-    };
-
-    void OuterPass();
-    void DecodeHighDensity(std::size_t position);
-    void Pick(std::size_t position, std::size_t size, bool highDensity);
+    void Pick(ByteView resource, const ShownRecord& shown);
     const BitmapEntry& NoteTransparency(const BitmapRecord& record, const std::string& file);
     void HandOver(const BitmapRecord& record, const BitmapEntry& entry);
     std::error_code WriteWorkingBmp(const BitmapRecord& record, const std::string& file);
-    ByteView Resource() const { return ByteView(m_load.ResourceBytes).Part(1, m_size); }
 
     WalkState& m_load;
     LoadListener& m_listener;
     std::unordered_map<std::string, std::vector<std::size_t>> m_rowsByKey; // of IconTable
-    std::size_t m_size = 0;                                                // of the resource
-    Walk m_walk;
 };
 
 } // namespace vypx

@@ -7,8 +7,6 @@ namespace vypx {
 
 namespace {
 
-constexpr std::int32_t RecordSize = 16;
-
 /// Size from the own and the next offset; the rest of the file where that gives none.
 std::int32_t SizeOfIndex(const WalkState& walk)
 {
@@ -38,19 +36,19 @@ void ReadIconTableResource(WalkState& walk, LoadListener& listener)
     if (walk.NextOffset > IconFileSize)
         walk.NextOffset = 0;
     walk.ResourceSize = SizeOfIndex(walk);
-    if (walk.ResourceSize % RecordSize != 0) {
+    if (walk.ResourceSize % IndexRecordSize != 0) {
         listener.Message("Error reading iTbl");
         return;
     }
 
-    const std::int32_t count = walk.ResourceSize / RecordSize;
+    const std::int32_t count = walk.ResourceSize / IndexRecordSize;
     if (count < 0)
         throw PastTheEnd();
-    if (count > INT16_MAX)
+    if (count > MaxIndexRecords)
         throw BrokenFile("record count beyond 16 bits with sign");
     Itbl.assign(static_cast<std::size_t>(count) + 1, {});
     std::size_t index = static_cast<std::size_t>(walk.ResourceOffset) + 1;
-    for (std::size_t row = 1; row < Itbl.size(); ++row, index += RecordSize)
+    for (std::size_t row = 1; row < Itbl.size(); ++row, index += IndexRecordSize)
         Itbl[row] = ReadRecord(index);
 }
 

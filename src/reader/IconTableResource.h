@@ -3,7 +3,12 @@
 #include "reader/LoadListener.h"
 #include "reader/WalkState.h"
 
+#include <cstdint>
+
 namespace vypx {
+
+inline constexpr std::int32_t IndexRecordSize = 16; ///< bytes
+inline constexpr std::int32_t MaxIndexRecords = INT16_MAX;
 
 /// Reads the `iTbl` resource whose list entry stands at FCin into Itbl, and sets ResourceOffset,
 /// NextOffset and ResourceSize. It is a sequence of records, big-endian, without header or count:

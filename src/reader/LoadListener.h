@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace vypx {
@@ -13,6 +14,10 @@ public:
 
     /// A box with this text (Latin-1) and an OK button; returns when it was answered.
     virtual void Message(std::string_view text) = 0;
+
+    /// The message that follows warns of a label that is taken; `resource` is the one that wants
+    /// it.
+    virtual void DuplicateResource(const std::string& /*resource*/) { }
 
     /// The file was chosen: close the application list editor, empty the size and colour texts,
     /// show the panels by HighResOnly and LowResOnly.

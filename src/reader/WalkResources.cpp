@@ -44,6 +44,7 @@ private:
     void AddUnmatched(const IconMatcher::Note& note);
     void WriteRow(std::string label, std::string_view kind, const Owner& owner);
     void LocateData();
+    void TellDuplicate();
     void GiveUp();
 
     WalkState& m_state;
@@ -128,7 +129,7 @@ bool Walk::AddMatches(const std::vector<IconMatcher::Match>& matches)
     bool matched = false;
     for (const IconMatcher::Match& match : matches) {
         if (!Tree.Add({ .key = match.label, .image = ImageOfKind(match.kind) })) {
-            m_listener.Message(DuplicateMessage);
+            TellDuplicate();
             continue;
         }
         WriteRow(match.label, match.kind, match.owner);
@@ -141,7 +142,7 @@ void Walk::AddUnmatched(const IconMatcher::Note& note)
 {
     const auto label = [&] { return UnmatchedLabel(m_state.ResourceName, note.text); };
     while (!Tree.Add({ .key = label(), .image = ImageUnknown })) {
-        m_listener.Message(DuplicateMessage);
+        TellDuplicate();
         m_state.ResourceName += "(Dup)";
     }
     const bool orphan = IsOrphanLabel(label());
@@ -178,6 +179,12 @@ void Walk::LocateData()
     }
     m_state.NextOffset = ReadDataOffset(m_state.FCin + EntrySize);
     m_state.ResourceSize = m_state.NextOffset - m_state.ResourceOffset;
+}
+
+void Walk::TellDuplicate()
+{
+    m_listener.DuplicateResource(m_state.ResourceName);
+    m_listener.Message(DuplicateMessage);
 }
 
 void Walk::GiveUp()

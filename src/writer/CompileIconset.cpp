@@ -14,8 +14,6 @@ namespace vypx {
 
 namespace {
 
-constexpr std::string_view VersionKey = "tver1000", IndexKey = "iTbl1000";
-
 std::span<const std::uint8_t> BytesOf(std::string_view text)
 {
     return { reinterpret_cast<const std::uint8_t*>(text.data()), text.size() };

@@ -6,9 +6,13 @@
 #include "writer/SaveReport.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace vypx {
+
+/// The two resources of an iconset that are no pictures.
+inline constexpr std::string_view VersionKey = "tver1000", IndexKey = "iTbl1000";
 
 /// A compile writes to a newly chosen name: no backup is made of what stands there.
 inline bool SavingAs = false;

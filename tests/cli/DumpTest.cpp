@@ -165,7 +165,7 @@ TEST_F(Dump, AWorkFolderThatCannotBeMadeIsWrongUse)
     const ToolRun taken = DumpOf(Written(TwoIcons().File()));
     EXPECT_EQ(taken.exitCode, 2);
     EXPECT_EQ(taken.errors,
-        "pixelworks-cli: the work folder is not empty: " + folder.File("work") + "\n");
+        "pixelworks-cli: the work folder is no folder: " + folder.File("work") + "\n");
 
     const ToolRun below = RunTool({ "dump", folder.File("set.prc"), "--app-folder", folder.Path(),
         "--work", folder.File("work/below") });

@@ -93,14 +93,15 @@ bool IsClean(const TempFolder& folder, int thumbnail, int extract)
 int Judge(int number, const TempFolder& folder)
 {
     const std::string path = folder.File("set.prc");
-    WriteBytes(path, Mutated(number));
+    const Bytes file = Mutated(number);
+    WriteBytes(path, file);
     const ReadOptions read{ .file = path, .appFolder = {} };
     const int thumbnail = vypx::Thumbnail({ .read = read, .out = folder.File("out.png") });
     const int extract = vypx::Extract({ .read = read, .folder = folder.File("x") });
     const int validate = vypx::Validate(read);
     const bool areCodes = thumbnail >= 0 && thumbnail <= 1 && extract >= 0 && extract <= 1
         && validate >= 0 && validate <= 1;
-    const bool isClean = IsClean(folder, thumbnail, extract);
+    const bool isClean = IsClean(folder, thumbnail, extract) && ReadBytes(path) == file;
     std::filesystem::remove(folder.File("out.png"));
     std::filesystem::remove_all(folder.File("x"));
     return areCodes && isClean ? 0 : 1;
@@ -144,7 +145,8 @@ TEST(MutatedFiles, LeaveNothingThroughTheToolEither)
     const TempFolder folder, temp;
     const std::string environment = "--chdir='" + temp.Path() + "' TMPDIR='" + temp.Path() + "'";
     for (int i = 0; i < FilesOfTheTool; ++i) {
-        WriteBytes(folder.File("set.prc"), Mutated(i + 100'000));
+        const Bytes bytes = Mutated(i + 100'000);
+        WriteBytes(folder.File("set.prc"), bytes);
         const std::string file = folder.File("set.prc");
         const ToolRun shown = RunTool({ "thumbnail", file, folder.File("out.png") }, environment);
         const ToolRun extracted = RunTool({ "extract", file, folder.File("x") }, environment);
@@ -152,6 +154,7 @@ TEST(MutatedFiles, LeaveNothingThroughTheToolEither)
         for (const ToolRun* run : { &shown, &extracted, &judged })
             EXPECT_TRUE(run->exitCode == 0 || run->exitCode == 1) << i;
         EXPECT_TRUE(IsClean(folder, shown.exitCode, extracted.exitCode)) << i;
+        EXPECT_EQ(ReadBytes(file), bytes) << i;
         EXPECT_TRUE(NamesIn(temp.Path()).empty()) << i;
         std::filesystem::remove_all(folder.File("x"));
         std::filesystem::remove(folder.File("out.png"));

@@ -41,6 +41,20 @@ struct PlainBitmap {
         record[header] = corner;
         return record;
     }
+    /// A low-density one of the index alone, packed in runs of 255 bytes, of which the width is a
+    /// multiple.
+    Bytes InRuns() const
+    {
+        Bytes record = Record();
+        record.resize(18);
+        PutU16(record, 6, 0x8000);
+        record[13] = 1;
+        for (int runs = 0; runs < width / 255 * height; ++runs)
+            record.insert(record.end(), { 255, index });
+        PutU16(record, 16, static_cast<unsigned>(record.size() - 16));
+        record.resize((record.size() + 3) / 4 * 4);
+        return record;
+    }
 };
 
 /// For the commands that only look at FILE: a folder of the test in which FILE is `set.prc`.
@@ -79,10 +93,13 @@ protected:
             names.insert(entry.path().filename().string());
         return names;
     }
-    /// A file with the attribute of a resource database, which the support's own lacks.
+    /// A file with the attribute and the version of a resource database, which the support's own
+    /// lack.
     static Bytes WithAttribute(Bytes file)
     {
         PutU16(file, 32, 1);
+        if (file[34] == 0 && file[35] == 0)
+            PutU16(file, 34, 1);
         return file;
     }
 

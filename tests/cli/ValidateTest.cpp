@@ -1,7 +1,5 @@
-#include "ReadingFixture.h"
+#include "ValidateFixture.h"
 
-#include <algorithm>
-#include <sstream>
 #include <sys/stat.h>
 
 namespace vypx::test {
@@ -13,68 +11,71 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
-class Validate : public ReadingFixture {
-protected:
-    /// Lines of standard output on FILE, with the attribute that the support's files lack.
-    std::vector<std::string> LinesOf(const Bytes& file)
-    {
-        WriteBytes(folder.File("set.prc"), file.size() < 78 ? file : WithAttribute(file));
-        const ToolRun run = RunTool({ "validate", folder.File("set.prc") });
-        EXPECT_EQ(run.errors, "");
-        std::vector<std::string> lines;
-        std::istringstream output(run.output);
-        for (std::string line; std::getline(output, line);)
-            lines.push_back(line);
-        EXPECT_EQ(run.exitCode, lines.empty() ? 0 : 1);
-        EXPECT_EQ(Listing(), (std::set<std::string>{ "set.prc" }));
-        return lines;
-    }
-    std::vector<std::string> LinesOf(const Iconset& set) { return LinesOf(set.File()); }
-    /// A sound set whose first picture resource is another.
-    static Iconset With(const Bytes& family)
-    {
-        Iconset set = SoundSet();
-        set.resources[0].data = family;
-        return set;
-    }
-    static Iconset WithIndex(std::initializer_list<Bytes> records)
-    {
-        Iconset set = SoundSet();
-        set.resources[3].data = Join(records);
-        return set;
-    }
-};
+using Validate = ValidateFixture;
 
 TEST_F(Validate, ASoundSetHasNothing) { EXPECT_THAT(LinesOf(SoundSet()), IsEmpty()); }
 
-TEST_F(Validate, WhatWeSaveHasNothingButWhatNoCatalogKnows)
+/// Files just saved, of the sample that is shipped, by the catalogs that are shipped.
+TEST_F(Validate, WhatWeSaveIsClean)
 {
-    const ToolRun saved = RunTool({ "convert", VYPX_SHIPPED_DATA "/samples/first-set.prc",
-        folder.File("out.prc"), "--app-folder", VYPX_SHIPPED_DATA, "--work", folder.File("w") });
-    ASSERT_EQ(saved.exitCode, 0) << saved.errors;
+    const std::vector<std::vector<std::string>> ways{ {}, { "--depth", "8-Bit" },
+        { "--depth", "4-Bit" }, { "--packbits" }, { "--export-template" } };
+    for (const std::vector<std::string>& way : ways) {
+        const std::string out =
+            folder.File(way.empty() || way[0] != "--export-template" ? "out.prc" : "out.vpt");
+        std::filesystem::remove_all(folder.File("w"));
+        std::vector<std::string> arguments{ "convert", VYPX_SHIPPED_DATA "/samples/first-set.prc",
+            out, "--app-folder", VYPX_SHIPPED_DATA, "--work", folder.File("w") };
+        arguments.insert(arguments.end(), way.begin(), way.end());
+        const ToolRun saved = RunTool(arguments);
+        ASSERT_EQ(saved.exitCode, 0) << saved.errors;
 
-    const ToolRun run = RunTool({ "validate", folder.File("out.prc") });
+        const ToolRun run = RunTool({ "validate", out });
+        const ToolRun withFolder = RunTool({ "validate", out, "--app-folder", VYPX_SHIPPED_DATA });
 
-    EXPECT_EQ(run.output,
-        "iTbl1000: record 1 (appl CMPS) is of an application that no catalog knows\n"
-        "iTbl1000: record 2 (appl LEAF) is of an application that no catalog knows\n");
+        EXPECT_EQ(run.output, "") << ::testing::PrintToString(way);
+        EXPECT_EQ(run.exitCode, 0);
+        EXPECT_EQ(withFolder.output, "") << ::testing::PrintToString(way);
+    }
+}
+
+TEST_F(Validate, ATemplateWithPicturesLosesThem)
+{
+    WriteBytes(folder.File("t.vpt"), WithAttribute(SoundSet().File()));
+
+    const ToolRun run = RunTool({ "validate", folder.File("t.vpt") });
+
+    EXPECT_THAT(run.output,
+        HasSubstr("tAIB3500-d144: it has 64 x 44 pixels, where a template has one white one: a "
+                  "load forgets it\n"));
 }
 
 TEST_F(Validate, WhatIsNoIconsetIsTold)
 {
     EXPECT_THAT(LinesOf(Bytes(10, 0)), ElementsAre("load: Error! Invalid file!"));
-    EXPECT_THAT(LinesOf(Iconset{ .type = "appl" }),
-        Contains("load: This file doesn't appear to be a valid Vantry IconSet"));
+    Iconset other = SoundSet();
+    other.type = "appl";
+    EXPECT_THAT(
+        LinesOf(other), ElementsAre("load: This file doesn't appear to be a valid Vantry IconSet"));
 }
 
 TEST_F(Validate, WhatCannotBeReadIsTold)
 {
-    const auto outputOf = [&] { return RunTool({ "validate", folder.File("set.prc") }).output; };
-    EXPECT_EQ(outputOf(), "load: The file could not be read.\n");
-    ASSERT_EQ(::mkfifo(folder.File("set.prc").c_str(), 0600), 0);
-    EXPECT_EQ(outputOf(), "load: The file could not be read.\n");
-    EXPECT_EQ(RunTool({ "validate", "/dev/zero" }).exitCode, 1);
-    EXPECT_EQ(RunTool({ "validate", folder.Path() }).exitCode, 1);
+    const auto outputOf = [](const std::string& file) {
+        const ToolRun run = RunTool({ "validate", file });
+        EXPECT_EQ(run.exitCode, 1);
+        return run.output;
+    };
+    const std::string file = folder.File("set.prc"), words = "load: The file could not be read. ";
+    EXPECT_EQ(outputOf(file), words + "(there is no such file)\n");
+    ASSERT_EQ(::mkfifo(file.c_str(), 0600), 0);
+    EXPECT_EQ(outputOf(file), words + "(it is a pipe or a device and no file)\n");
+    EXPECT_EQ(outputOf("/dev/zero"), words + "(it is a pipe or a device and no file)\n");
+    EXPECT_EQ(outputOf(folder.Path()), words + "(it is a folder)\n");
+    WriteText(folder.File("large.prc"), "");
+    std::filesystem::resize_file(folder.File("large.prc"), 26'777'217);
+    EXPECT_EQ(outputOf(folder.File("large.prc")),
+        words + "(it has 26777217 bytes, and no more than 26777216 are looked at)\n");
     EXPECT_EQ(RunTool({ "validate" }).exitCode, 2);
 }
 
@@ -95,6 +96,9 @@ TEST_F(Validate, TheHeaderIsJudged)
     WriteBytes(folder.File("set.prc"), file);
     EXPECT_THAT(RunTool({ "validate", folder.File("set.prc") }).output,
         HasSubstr("header: the attributes don't say that it is a resource database"));
+    EXPECT_THAT(RunTool({ "validate", folder.File("set.prc") }).output,
+        HasSubstr("header: a save makes its version 1\n"))
+        << "of version 0";
     PutU16(file, 34, 7);
     PutU32(file, 52, 1);
     PutU32(file, 56, 1);
@@ -139,14 +143,24 @@ TEST_F(Validate, WhatASaveDoesNotKeepIsTold)
     set.resources.push_back({ "abmp", 3600, LowRecord(8) });
     set.resources.push_back({ "tAIB", 3500, Family(1) });
     set.resources.push_back({ "iTbl", 1001, Bytes(16, 0) });
-    set.resources[2].data = { '1', '.', '0', 0 };
+    set.resources[2].data = { '1', '.', '0', 0, 'x', 0 };
 
     EXPECT_THAT(LinesOf(set),
         ::testing::IsSupersetOf({ "code1: a save leaves out what is no icon",
             "abmp3600: its pictures are of a kind that is not read: a save leaves it out",
             "tAIB3500: it stands in the list more than once: a save keeps one",
             "iTbl1001: only the first index of the list is read",
-            "tver1000: its text \"1.0\" becomes \"3.20\" at a save, as the options have it" }));
+            "tver1000: a save leaves out what stands behind the zero of its text" }));
+}
+
+TEST_F(Validate, ALabelThatIsTakenIsToldOfItsResource)
+{
+    Iconset set = SoundSet();
+    set.resources.push_back({ "Tbmp", 3500, Family(1) });
+
+    EXPECT_THAT(LinesOf(set),
+        ::testing::IsSupersetOf({ "load: Warning, file contains a duplicate resource!",
+            "Tbmp3500: the label of its icon is another one's already" }));
 }
 
 TEST_F(Validate, TheIndexIsJudged)
@@ -155,10 +169,7 @@ TEST_F(Validate, TheIndexIsJudged)
                     IndexRecord("appl", "NONE", 3502, 0), IndexRecord("abcd", "date", 0, 0) })),
         ElementsAre("iTbl1000: record 2 (appl NONE) names the large icon 3502, which is not in the "
                     "file",
-            "iTbl1000: record 2 (appl NONE) is of an application that no catalog knows",
-            "iTbl1000: record 3 (abcd date) names no icon",
-            "iTbl1000: record 3 (abcd date) is of a type that a save may leave out",
-            "iTbl1000: record 3 (abcd date) is of an application that no catalog knows"));
+            "iTbl1000: record 3 (abcd date) names no icon: a save leaves it out"));
     EXPECT_THAT(LinesOf(WithIndex({ IndexRecord("appl", "date", 3500, 3501), { 0 } })),
         ::testing::IsSupersetOf({ "load: Error reading iTbl",
             "iTbl1000: it has 17 bytes, which are no records of 16" }));
@@ -183,52 +194,33 @@ TEST_F(Validate, AnIdThatASaveCannotNameLosesItsApplication)
             "does not name it."));
 }
 
-TEST_F(Validate, BitmapsAreJudged)
+TEST_F(Validate, OwnersThatASaveLosesAreTold)
 {
-    const auto lineOf = [&](std::size_t at, std::uint8_t value) {
-        PlainBitmap low{ .width = 32, .height = 22, .index = 1 };
-        PlainBitmap high{ .index = 1, .high = true };
-        Bytes family = Join({ low.Record(false), Separator(), high.Record() });
-        family[at] = value;
-        return LinesOf(With(family));
+    const Bytes known = IndexRecord("appl", "date", 3500, 3501);
+    EXPECT_THAT(LinesOf(WithIndex({ known, IndexRecord("appl", "UNKN", 3500, 0) })),
+        ElementsAre("iTbl1000: record 2 (appl UNKN) names the large icon 3500: a save names none"))
+        << "the known one has it";
+
+    Iconset set = SoundSet();
+    set.resources.insert(set.resources.begin() + 2, { "tAIB", 3502, Family(0x11, 30, 22) });
+    const auto linesWith = [&](std::initializer_list<Bytes> records) {
+        set.resources[4].data = Join(records);
+        return LinesOf(set);
     };
-    const std::size_t high = 16 + 32 * 22 + 16;
-    EXPECT_THAT(lineOf(9, 3),
-        ElementsAre("tAIB3500: its version is 3, which a handheld takes for another kind"));
-    EXPECT_THAT(lineOf(high + 9, 2),
-        ElementsAre("tAIB3500-d144: its version is 2, which a handheld takes for another kind"));
-    EXPECT_THAT(lineOf(high + 15, 72), ElementsAre("tAIB3500-d144: its density is 72 and not 144"));
-    EXPECT_THAT(lineOf(6, 0x40), ElementsAre("tAIB3500: its colour table is read as pixels"));
-    EXPECT_THAT(lineOf(6, 0x80),
-        ElementsAre("tAIB3500: its compression 255 is not known: it is read as not compressed"));
-    EXPECT_THAT(lineOf(high + 1, 65),
-        ::testing::IsSupersetOf({ "tAIB3500-d144: its rows are too short for 65 pixels",
-            "tAIB3500-d144: it gives no picture, and none is saved",
-            "tAIB3500-d144: it has 65 x 44 pixels, more than the 64 x 44 of \"Palm Date Book "
-            "(Large Icon)\"" }));
-    EXPECT_THAT(lineOf(high + 8, 7),
-        ::testing::IsSupersetOf({ "load: The file could not be read.",
-            "tAIB3500-d144: it has 7 bits a pixel: it can't be read" }));
-    EXPECT_THAT(lineOf(10, 0xFF), Contains("tAIB3500: the chain of its bitmaps leads out of it"));
+    EXPECT_THAT(linesWith({ known, IndexRecord("appl", "UNK1", 3502, 0) }), IsEmpty())
+        << "an owner that no catalog knows is neither refused nor lost";
+    EXPECT_THAT(linesWith({ known, IndexRecord("appl", "UNK1", 3502, 0),
+                    IndexRecord("appl", "UNK2", 3502, 0) }),
+        ElementsAre("iTbl1000: record 2 (appl UNK1) names the large icon 3502: a save names none"));
+    EXPECT_THAT(linesWith({ known, IndexRecord("appl", "UNK1", 3502, 3502) }),
+        ElementsAre("iTbl1000: record 2 (appl UNK1) names the large icon 3502: a save names none"));
 }
 
-TEST_F(Validate, ATransparentColourBeyondThePaletteIsTold)
+TEST_F(Validate, WhatTheCatalogsDecideOfASaveIsCalledSo)
 {
-    Bytes record = LowRecord(4);
-    record[6] = 0x20;
-    record[12] = 16;
-    EXPECT_THAT(LinesOf(With(record)),
-        ::testing::IsSupersetOf({ "load: The file could not be read.",
-            "tAIB3500: its transparent colour 16 is beyond the palette of 4 bits" }));
-}
-
-TEST_F(Validate, FurtherDepthsAndAMissingDensityAreTold)
-{
-    EXPECT_THAT(LinesOf(With(Join({ LowRecord(1, false), LowRecord(8) }))),
-        ElementsAre("tAIB3500: it has 2 depths, of which only that of 8 bits is read and kept"));
-    EXPECT_THAT(LinesOf(With(Join({ Separator(), PlainBitmap{ .high = true }.Record() }))),
-        ElementsAre("tAIB3500: it has no low-density bitmap: a handheld with a low-density screen "
-                    "shows nothing"));
+    EXPECT_THAT(LinesOf(WithIndex({ IndexRecord("appl", "UNKN", 3500, 3501) })),
+        ElementsAre("save: Error! Can't save an iconset that only contains unknown icons. (with "
+                    "these catalogs; see --app-folder)"));
 }
 
 TEST_F(Validate, NoByteOfAFileSpeaksToTheTerminal)

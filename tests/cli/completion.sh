@@ -39,4 +39,13 @@ offers "--stretch" import --st
 offers "" import --exp
 offers "--export-template" convert --exp
 offers "" unknown ""
+HOME=$folder
+offers "~/a set.PDB|~/my sets|~/set.prc|~/t.vpt" validate "~/"
+offers "~/my sets" dump --app-folder "~/m"
+offers "a set.PDB" validate 'a\ '
+offers "a set.PDB" validate '"a s'
+offers "a set.PDB" validate "'a s"
+offers "my sets" extract set.prc 'my\ s'
+mkdir "my sets/in ner"
+offers "my sets/in ner" extract set.prc 'my\ sets/in\ '
 exit "$failed"

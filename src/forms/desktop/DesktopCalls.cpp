@@ -78,20 +78,23 @@ void DesktopCalls::Open(const QStringList& uris, const QString& token, const Ans
         answer(error);
         return;
     }
-    QStringList paths, others;
+    QStringList paths, unreadable, others;
     for (const QString& uri : uris) {
         if (const auto path = PathOfUri(uri))
             paths << *path;
         else
-            others << uri;
+            (HasUnreadableName(uri) ? unreadable : others) << uri;
     }
-    QString error;
-    if (!others.isEmpty()) {
-        error = "Only files of this computer can be opened, not:\n\n" + ShownUris(others);
+    QStringList errors;
+    if (!others.isEmpty())
+        errors << "Only files of this computer can be opened, not:\n\n" + ShownUris(others);
+    if (!unreadable.isEmpty())
+        errors << "Names that are not in UTF-8 can't be read:\n\n" + ShownUris(unreadable);
+    for (const QString& error : errors)
         m_own.Tell(error);
-    }
-    OpenPaths(paths, token,
-        [answer, error](const QString& further) { answer(error.isEmpty() ? further : error); });
+    OpenPaths(paths, token, [answer, error = errors.join("\n\n")](const QString& further) {
+        answer(error.isEmpty() ? further : error);
+    });
 }
 
 void DesktopCalls::OpenPaths(const QStringList& paths, const QString& token, const Answer& answer)

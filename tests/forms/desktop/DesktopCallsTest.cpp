@@ -2,7 +2,6 @@
 
 #include "forms/desktop/DesktopCalls.h"
 #include "forms/desktop/FileEvents.h"
-#include "forms/desktop/FileUris.h"
 
 #include <QCoreApplication>
 #include <QFileOpenEvent>
@@ -91,6 +90,16 @@ TEST_F(DesktopCallsTest, WhatIsNoFileOfThisComputerIsToldAndAnsweredAndTheRestOp
     EXPECT_EQ(own.told, QStringList(text));
     EXPECT_EQ(Taken(), QStringList("/tmp/a.prc"));
     EXPECT_EQ(answers, QStringList(text));
+}
+
+TEST_F(DesktopCallsTest, ANameThatIsNoTextHasATextOfItsOwn)
+{
+    Open({ "file:///tmp/%ff.prc", "http://x/a.prc" });
+
+    const QStringList texts{ "Only files of this computer can be opened, not:\n\nhttp://x/a.prc",
+        "Names that are not in UTF-8 can't be read:\n\nfile:///tmp/%ff.prc" };
+    EXPECT_EQ(own.told, texts);
+    EXPECT_EQ(answers, QStringList(texts.join("\n\n")));
 }
 
 TEST_F(DesktopCallsTest, ABoxNeverGetsLongerThanAScreen)
@@ -188,31 +197,6 @@ TEST_F(StartedByDesktop, ACallThatAnotherCopyHeardIsNotWaitedFor)
     Activate();
 
     EXPECT_EQ(copies.startedEmpty.size(), 1);
-}
-
-TEST(PathOfUri, DecodesPercentSigns)
-{
-    EXPECT_EQ(PathOfUri("file:///tmp/a%20b%25%23.prc"), "/tmp/a b%#.prc");
-    EXPECT_EQ(PathOfUri("file:///tmp/%C3%A4.prc"), QString("/tmp/\u00e4.prc"));
-    EXPECT_EQ(PathOfUri("file://localhost/tmp/a.prc"), "/tmp/a.prc");
-    EXPECT_EQ(PathOfUri("file:/tmp/a.prc"), "/tmp/a.prc");
-}
-
-TEST(PathOfUri, RefusesWhatIsNoFileOfThisComputer)
-{
-    for (const char* const uri : { "", "file:", "file://", "file://server/share/a.prc",
-             "http://x/a.prc", "/tmp/a.prc", "a.prc", "file:a.prc", "file:///tmp/a.prc?x",
-             "file:///tmp/a.prc#x", "file:///a%zz.prc", "file:///a%00.prc", "file:///a%ff.prc",
-             "file://user@localhost/a.prc", "file://localhost:80/a.prc" })
-        EXPECT_EQ(PathOfUri(uri), std::nullopt) << uri;
-}
-
-TEST(HasKnownEnding, LooksAtTheLastThreeCharactersAlone)
-{
-    for (const char* const path : { "/a.prc", "/a.PRC", "/a.pdb", "/a.vpt", "/aprc" })
-        EXPECT_TRUE(HasKnownEnding(path)) << path;
-    for (const char* const path : { "/a.png", "/a.prc~", "/", "" })
-        EXPECT_FALSE(HasKnownEnding(path)) << path;
 }
 
 class FileEventsTest : public ::testing::Test {

@@ -3,6 +3,7 @@
 #include "support/Files.h"
 
 #include <chrono>
+#include <gmock/gmock.h>
 #include <thread>
 
 namespace vypx::test {
@@ -91,6 +92,39 @@ TEST_F(FilesFromDesktop, ACopyOfOneThatTheBusStartedIsNotTakenForOneItself)
     WaitForCopies(2);
 }
 
+TEST_F(FilesFromDesktop, ACopyThatInheritedTheMarkOfAStartByTheBusStartsAFurtherOne)
+{
+    StartBus();
+    const auto copy = StartCopy({ "DBUS_STARTER_BUS_TYPE=session" });
+    WaitForCopies(1);
+    ASSERT_TRUE(WaitForWindow(Empty));
+
+    EXPECT_EQ(Activate(), Done);
+
+    WaitForCopies(2);
+}
+
+TEST_F(FilesFromDesktop, WhatBringsAWindowUpComesToTheNewCopyInItsOwnVariables)
+{
+    StartBus();
+    const auto copy = StartCopy({ "DBUS_STARTER_BUS_TYPE=session",
+        "DBUS_STARTER_ADDRESS=unix:path=/x", "XDG_ACTIVATION_TOKEN=old" });
+    const std::string name = WaitForCopies(1).at(0);
+    ASSERT_TRUE(WaitForWindow(Empty));
+
+    EXPECT_EQ(
+        Call("org.freedesktop.Application.Activate", { "{'desktop-startup-id': <'x_TIME7'>}" }),
+        Done);
+
+    auto copies = WaitForCopies(2);
+    std::erase(copies, name);
+    const auto environment = EnvironmentOf(copies.at(0));
+    const std::string all = testing::PrintToString(environment);
+    EXPECT_THAT(environment, testing::Contains("DESKTOP_STARTUP_ID=x_TIME7"));
+    EXPECT_EQ(all.find("XDG_ACTIVATION_TOKEN"), std::string::npos);
+    EXPECT_EQ(all.find("DBUS_STARTER"), std::string::npos);
+}
+
 TEST_F(FilesFromDesktop, ManyFilesAtOnceComeToACopyEach)
 {
     StartBus();
@@ -148,8 +182,9 @@ TEST_F(FilesFromDesktop, AnOwnerThatCrashesAmidAHandOverIsToldToTheClient)
     const std::string otherName = copies[0] == ownerName ? copies[1] : copies[0];
     Stop(otherName); // so that the hand-over takes its time
 
+    const auto listener = Listen("IsFree");
     const auto client = BeginOpen({ Set("b.prc") });
-    std::this_thread::sleep_for(std::chrono::milliseconds(700));
+    WaitForCall(*listener, "IsFree");
     Crash(ownerName);
 
     std::string answer;
@@ -255,6 +290,24 @@ TEST_F(FilesFromDesktop, OddCallsAreAnsweredByErrors)
     EXPECT_EQ(WaitForCopies(1).size(), 1u);
 }
 
+TEST_F(FilesFromDesktop, ACopyTakesNothingThatWouldAskOrIsNoIconset)
+{
+    StartBus();
+    const auto copy = StartCopy();
+    const std::string name = WaitForCopies(1).at(0);
+    const auto take = [&](const std::string& path, const std::string& token) {
+        return Send(name.substr(0, name.find_last_not_of("0123456789") + 1) + ".Take",
+            { "string:" + path, "string:" + token, "string:" });
+    };
+
+    for (const char* const path : { "", "a.prc", "/tmp/photo.png" })
+        EXPECT_EQ(take(path, ""), "error") << path;
+    EXPECT_TRUE(IsFree(name));
+    EXPECT_NE(take(Set("a.prc"), std::string(100000, 'x')), "error");
+
+    EXPECT_TRUE(WaitForWindow(TitleOf("a.prc")));
+}
+
 /// Without a bus: starts as ever, and ends when it is told to.
 class WithoutABus : public DesktopFixture {
 protected:
@@ -264,6 +317,9 @@ protected:
 
         EXPECT_TRUE(WaitForWindow(Empty));
         EXPECT_EQ(ReadText(File("errors")), "");
+
+        EXPECT_TRUE(WaitUntil([&] { return Windows(Empty) == 0; }, [&] { screen.Key("alt+F4"); }));
+        EXPECT_EQ(copy->Wait(), 0);
     }
 };
 

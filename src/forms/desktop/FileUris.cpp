@@ -4,9 +4,11 @@
 #include "reader/LoadFile.h"
 
 #include <QByteArray>
+#include <QObject>
 #include <QRegularExpression>
 #include <QStringDecoder>
 #include <QUrl>
+#include <algorithm>
 
 namespace vypx {
 
@@ -14,6 +16,9 @@ namespace {
 
 /// Longer ones name no file on any system.
 constexpr qsizetype LongestUri = 64 * 1024;
+
+constexpr qsizetype LongestShown = 200; // characters of a name
+constexpr qsizetype MostShown = 10;     // names
 
 /// QUrl would take a percent sign without its two digits for itself.
 bool HasBadPercentSign(const QString& uri)
@@ -65,6 +70,16 @@ bool HasKnownEnding(const QString& path)
     const std::string text = path.toStdString();
     return HasTheRightExtension({ .path = text })
         || HasTheRightExtension({ .path = text, .asTemplate = true });
+}
+
+QString ShownNames(const QStringList& names)
+{
+    QStringList lines;
+    for (const QString& name : names.first(std::min(names.size(), MostShown)))
+        lines << (name.size() > LongestShown ? name.left(LongestShown) + "..." : name);
+    if (names.size() > MostShown)
+        lines << QObject::tr("and %1 more").arg(names.size() - MostShown);
+    return lines.join('\n');
 }
 
 } // namespace vypx

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <optional>
 
 namespace vypx {
@@ -15,5 +16,8 @@ bool HasUnreadableName(const QString& uri);
 
 /// Whether a file of that path can be opened, by the last three characters: iconsets and templates.
 bool HasKnownEnding(const QString& path);
+
+/// For a box: the first of them, a line each, and how many more there are.
+QString ShownNames(const QStringList& names);
 
 } // namespace vypx

@@ -22,12 +22,12 @@ protected:
     {
     }
 
-    void Open(const QStringList& uris, const QString& token = {})
+    void Open(const QStringList& uris, const Activation& activation = {})
     {
-        calls.Open(uris, token, Answer());
+        calls.Open(uris, activation, Answer());
         copies.RunAll();
     }
-    void Activate(const QString& token = {}) { calls.Activate(token, Answer()); }
+    void Activate(const Activation& activation = {}) { calls.Activate(activation, Answer()); }
     DesktopCalls::Answer Answer()
     {
         return [this](const QString& error) { answers << error; };
@@ -66,11 +66,11 @@ TEST_F(DesktopCallsTest, EachFileOfACallIsAFileOfItsOwn)
     EXPECT_EQ(answers, Done);
 }
 
-TEST_F(DesktopCallsTest, TheTokenCountsForTheFirstFile)
+TEST_F(DesktopCallsTest, WhatBringsAWindowUpCountsForTheFirstFile)
 {
-    Open({ "file:///a.prc", "file:///b.prc" }, "token-1");
+    Open({ "file:///a.prc", "file:///b.prc" }, { "token-1", "id-1" });
 
-    EXPECT_THAT(own.taken, ElementsAre(OutsideFile{ "/a.prc", "token-1" }));
+    EXPECT_THAT(own.taken, ElementsAre(OutsideFile{ "/a.prc", { "token-1", "id-1" } }));
 }
 
 TEST_F(DesktopCallsTest, AnotherEndingIsTold)
@@ -144,10 +144,10 @@ TEST_F(DesktopCallsTest, AFileThatCouldNotBePlacedIsAnsweredAsAnError)
 
 TEST_F(DesktopCallsTest, ActivateStartsAFurtherCopy)
 {
-    Activate("token-2");
+    Activate({ "token-2", "id-2" });
 
-    EXPECT_EQ(copies.startedEmpty, QStringList("token-2"));
-    EXPECT_TRUE(own.cameUp.isEmpty());
+    EXPECT_THAT(copies.startedEmpty, ElementsAre(Activation{ "token-2", "id-2" }));
+    EXPECT_TRUE(own.cameUp.empty());
     EXPECT_EQ(answers, Done);
 }
 
@@ -155,7 +155,7 @@ TEST_F(DesktopCallsTest, OpenWithoutFilesIsActivate)
 {
     Open({});
 
-    EXPECT_EQ(copies.startedEmpty.size(), 1);
+    EXPECT_EQ(copies.startedEmpty.size(), 1u);
     EXPECT_EQ(answers, Done);
 }
 
@@ -171,13 +171,13 @@ TEST_F(DesktopCallsTest, AnActivateThatFailsIsToldAndAnswered)
 
 TEST_F(StartedByDesktop, TheFirstActivateBringsThisCopyUpAndTheNextStartsOne)
 {
-    Activate("first");
-    EXPECT_EQ(own.cameUp, QStringList("first"));
-    EXPECT_TRUE(copies.startedEmpty.isEmpty());
+    Activate({ "first", {} });
+    EXPECT_THAT(own.cameUp, ElementsAre(Activation{ "first", {} }));
+    EXPECT_TRUE(copies.startedEmpty.empty());
 
-    Activate("second");
+    Activate({ "second", {} });
 
-    EXPECT_EQ(copies.startedEmpty, QStringList("second"));
+    EXPECT_THAT(copies.startedEmpty, ElementsAre(Activation{ "second", {} }));
 }
 
 TEST_F(StartedByDesktop, AnOpenIsTheCallItWasStartedFor)
@@ -187,7 +187,7 @@ TEST_F(StartedByDesktop, AnOpenIsTheCallItWasStartedFor)
 
     Activate();
 
-    EXPECT_EQ(copies.startedEmpty.size(), 1);
+    EXPECT_EQ(copies.startedEmpty.size(), 1u);
 }
 
 TEST_F(StartedByDesktop, ACallThatAnotherCopyHeardIsNotWaitedFor)
@@ -196,7 +196,7 @@ TEST_F(StartedByDesktop, ACallThatAnotherCopyHeardIsNotWaitedFor)
 
     Activate();
 
-    EXPECT_EQ(copies.startedEmpty.size(), 1);
+    EXPECT_EQ(copies.startedEmpty.size(), 1u);
 }
 
 class FileEventsTest : public ::testing::Test {

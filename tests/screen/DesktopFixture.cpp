@@ -7,8 +7,8 @@
 #include <algorithm>
 #include <csignal>
 #include <filesystem>
+#include <fstream>
 #include <regex>
-#include <sstream>
 
 namespace vypx::test {
 
@@ -123,7 +123,7 @@ std::unique_ptr<Child> DesktopFixture::StartCopy(const std::vector<std::string>&
 
 std::vector<std::string> DesktopFixture::EnvironmentOf(const std::string& copy)
 {
-    std::istringstream text(ReadText("/proc/" + std::to_string(ProcessOf(copy)) + "/environ"));
+    std::ifstream text("/proc/" + std::to_string(ProcessOf(copy)) + "/environ");
     std::vector<std::string> all;
     for (std::string variable; std::getline(text, variable, '\0');)
         all.push_back(variable);

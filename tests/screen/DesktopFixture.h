@@ -10,6 +10,13 @@
 
 namespace vypx::test {
 
+/// What a client is answered that is answered nothing.
+inline const std::string Done = "()";
+
+/// The title of a copy without a file, and of one with it.
+inline const std::string Empty = "VY Pixelworks";
+inline std::string TitleOf(const std::string& file) { return file + " - " + Empty; }
+
 /// The real program, in as many copies as it likes, on a screen and a session bus of their own,
 /// with a home of their own. No bus of this machine is touched.
 class DesktopFixture : public ::testing::Test {

@@ -5,6 +5,7 @@
 #include "forms/desktop/BusStart.h"
 
 #include <QCoreApplication>
+#include <QDBusServiceWatcher>
 #include <QEventLoop>
 
 namespace vypx {
@@ -12,12 +13,13 @@ namespace vypx {
 namespace {
 
 // Of RequestName: not to stand in line, and the answer of who does.
-constexpr uint NotInLine = 4, InLine = 0, OwnsIt = 1;
+constexpr uint NotInLine = 4, InLine = 0, StandsInLine = 2;
 constexpr int NameLimit = 2000; // milliseconds
 
 } // namespace
 
 struct BusDesktop::Offered {
+    bool isStartedByBus = TakeStartByBus();
     QDBusConnection bus;
     BusCopies copies;
     HandOver handOver;
@@ -28,7 +30,7 @@ struct BusDesktop::Offered {
         : bus(connection)
         , copies(bus)
         , handOver(own, copies)
-        , calls(own, handOver, copies, TakeStartByBus())
+        , calls(own, handOver, copies, isStartedByBus)
         , object(own, calls)
     {
     }
@@ -49,20 +51,27 @@ BusDesktop::~BusDesktop() = default;
 
 void BusDesktop::TakeNames()
 {
+    if (m_offered->isStartedByBus)
+        ForgetStartAfterFirstCall();
     Ask("RequestName", { CopyName(QCoreApplication::applicationPid()), NotInLine }, [](uint) {});
     Ask("RequestName", { BusName(), InLine }, [this](uint answer) {
-        if (answer == OwnsIt)
-            ForgetStartAfterFirstCall();
-        else
+        if (answer == StandsInLine)
             m_offered->calls.ForgetStart(); // another copy hears the call
     });
 }
 
-/// What the bus held for the one that it started comes before its answer to any later question. So
-/// a program that was merely started by such a one does not wait for a call for ever.
+/// A program that was merely started by one that the bus had started must not wait for a call for
+/// ever. With the name the bus sends what it held for it, before the answer to whatever is asked
+/// later. Asked only when the bus's signal of the name is here: until the event loop runs, Qt keeps
+/// calls and signals back, but not answers, which would then come first.
 void BusDesktop::ForgetStartAfterFirstCall()
 {
-    Ask("GetId", {}, [this](uint) { m_offered->calls.ForgetStart(); });
+    auto* const watcher = new QDBusServiceWatcher(
+        BusName(), m_offered->bus, QDBusServiceWatcher::WatchForRegistration, this);
+    connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, [this, watcher] {
+        watcher->deleteLater();
+        Ask("GetId", {}, [this](uint) { m_offered->calls.ForgetStart(); });
+    });
 }
 
 void BusDesktop::Ask(const QString& method, const QVariantList& arguments,

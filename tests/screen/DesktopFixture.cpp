@@ -7,7 +7,8 @@
 #include <algorithm>
 #include <csignal>
 #include <filesystem>
-#include <sstream>
+#include <fstream>
+#include <regex>
 
 namespace vypx::test {
 
@@ -84,7 +85,8 @@ void DesktopFixture::StartBus()
 {
     std::filesystem::create_directories(File("services"));
     WriteText(File("services/" + BusName + ".service"),
-        "[D-BUS Service]\nName=" + BusName + "\nExec=" + File("program/vy-pixelworks") + "\n");
+        std::regex_replace(ReadText(VYPX_SERVICE_FILE), std::regex("Exec=.*"),
+            "Exec=" + File("program/vy-pixelworks")));
     WriteText(File("bus.conf"),
         "<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN\" "
         "\"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">"
@@ -110,10 +112,38 @@ std::vector<std::string> DesktopFixture::InSession(std::vector<std::string> comm
     return all;
 }
 
-std::unique_ptr<Child> DesktopFixture::StartCopy()
+std::unique_ptr<Child> DesktopFixture::StartCopy(const std::vector<std::string>& environment)
 {
-    return screen.Start(InSession(
-        { "sh", "-c", "exec \"$0\" 2>>\"$1\"", File("program/vy-pixelworks"), File("errors") }));
+    std::vector<std::string> command{ "env" };
+    command.insert(command.end(), environment.begin(), environment.end());
+    command.insert(command.end(),
+        { "sh", "-c", "exec \"$0\" 2>>\"$1\"", File("program/vy-pixelworks"), File("errors") });
+    return screen.Start(InSession(command));
+}
+
+std::vector<std::string> DesktopFixture::EnvironmentOf(const std::string& copy)
+{
+    std::ifstream text("/proc/" + std::to_string(ProcessOf(copy)) + "/environ");
+    std::vector<std::string> all;
+    for (std::string variable; std::getline(text, variable, '\0');)
+        all.push_back(variable);
+    return all;
+}
+
+std::unique_ptr<Child> DesktopFixture::Listen(const std::string& method) const
+{
+    auto listener = screen.Start(InSession({ "dbus-monitor", "--session", "member=" + method }));
+    listener->ReadLine(); // it says that it listens
+    return listener;
+}
+
+void DesktopFixture::WaitForCall(const Child& listener, const std::string& method)
+{
+    std::string line;
+    do
+        line = listener.ReadLine();
+    while (!line.empty() && line.find("member=" + method) == std::string::npos);
+    ASSERT_NE(line, "") << "the bus has ended";
 }
 
 std::vector<std::string> DesktopFixture::Copies() const

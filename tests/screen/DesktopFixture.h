@@ -10,6 +10,13 @@
 
 namespace vypx::test {
 
+/// What a client is answered that is answered nothing.
+inline const std::string Done = "()";
+
+/// The title of a copy without a file, and of one with it.
+inline const std::string Empty = "VY Pixelworks";
+inline std::string TitleOf(const std::string& file) { return file + " - " + Empty; }
+
 /// The real program, in as many copies as it likes, on a screen and a session bus of their own,
 /// with a home of their own. No bus of this machine is touched.
 class DesktopFixture : public ::testing::Test {
@@ -19,13 +26,14 @@ protected:
 
     /// Before a copy is started: what stands in the settings file.
     void WriteSettings(const std::string& text);
-    /// A session bus that starts the program by its service file.
+    /// A session bus that starts the program by its service file, the one that is installed.
     void StartBus();
     /// Where copies look for a bus. They find none before StartBus.
     void UseAddress(const std::string& address) { m_address = address; }
 
     /// A copy as a user starts it. What it writes to its standard error goes to File("errors").
-    std::unique_ptr<Child> StartCopy();
+    /// `environment`: what is added ("A=1").
+    std::unique_ptr<Child> StartCopy(const std::vector<std::string>& environment = {});
     /// Waits for the copy to be on the bus as one of `count`; gives the names of all.
     std::vector<std::string> WaitForCopies(std::size_t count);
     std::vector<std::string> Copies() const;
@@ -33,6 +41,11 @@ protected:
     static void Crash(const std::string& copy);
     static void Stop(const std::string& copy);
     static void Continue(const std::string& copy);
+    /// What the copy was started with ("A=1").
+    static std::vector<std::string> EnvironmentOf(const std::string& copy);
+    /// Listens to the calls of that method from now on, and waits for the next one.
+    std::unique_ptr<Child> Listen(const std::string& method) const;
+    static void WaitForCall(const Child& listener, const std::string& method);
 
     /// What a client of the bus is answered, on one line; "error" where it is an error.
     std::string Call(const std::string& method, const std::vector<std::string>& arguments,

@@ -9,13 +9,6 @@ namespace vypx::test {
 
 namespace {
 
-/// What a client is answered that is answered nothing.
-const std::string Done = "()";
-
-constexpr const char* Empty = "VY Pixelworks";
-
-std::string TitleOf(const std::string& file) { return file + " - VY Pixelworks"; }
-
 using FilesFromDesktop = DesktopFixture;
 
 TEST_F(FilesFromDesktop, ARunningCopyWithoutADocumentOpensTheFile)
@@ -49,46 +42,6 @@ TEST_F(FilesFromDesktop, ASecondFileGoesToANewCopyAndAThirdToAFreeOne)
     EXPECT_TRUE(WaitForWindow(TitleOf("a.prc")));
     WaitForCopies(3);
     EXPECT_EQ(Windows(Empty), 0u);
-}
-
-TEST_F(FilesFromDesktop, TheBusStartsTheProgramForAFile)
-{
-    StartBus();
-
-    EXPECT_EQ(Open({ Set("a.prc") }), Done);
-
-    EXPECT_TRUE(WaitForWindow(TitleOf("a.prc")));
-    WaitForCopies(1);
-}
-
-TEST_F(FilesFromDesktop, TheBusStartsTheProgramOnceAndTheNextActivateOnceMore)
-{
-    StartBus();
-
-    EXPECT_EQ(Activate(), Done);
-    EXPECT_TRUE(WaitForWindow(Empty));
-    WaitForCopies(1);
-
-    EXPECT_EQ(Activate(), Done);
-
-    WaitForCopies(2);
-    EXPECT_TRUE(WaitForWindow(Empty, 2));
-}
-
-TEST_F(FilesFromDesktop, ACopyOfOneThatTheBusStartedIsNotTakenForOneItself)
-{
-    StartBus();
-    Activate();
-    WaitForCopies(1);
-    Activate();
-    const auto copies = WaitForCopies(2);
-    const std::string first = Owner();
-    Crash(first); // the second one hears the next call
-
-    ASSERT_TRUE(WaitUntil([&] { return Copies().size() == 1; }));
-    EXPECT_EQ(Activate(), Done);
-
-    WaitForCopies(2);
 }
 
 TEST_F(FilesFromDesktop, ManyFilesAtOnceComeToACopyEach)
@@ -148,8 +101,9 @@ TEST_F(FilesFromDesktop, AnOwnerThatCrashesAmidAHandOverIsToldToTheClient)
     const std::string otherName = copies[0] == ownerName ? copies[1] : copies[0];
     Stop(otherName); // so that the hand-over takes its time
 
+    const auto listener = Listen("IsFree");
     const auto client = BeginOpen({ Set("b.prc") });
-    std::this_thread::sleep_for(std::chrono::milliseconds(700));
+    WaitForCall(*listener, "IsFree");
     Crash(ownerName);
 
     std::string answer;
@@ -255,28 +209,22 @@ TEST_F(FilesFromDesktop, OddCallsAreAnsweredByErrors)
     EXPECT_EQ(WaitForCopies(1).size(), 1u);
 }
 
-/// Without a bus: starts as ever, and ends when it is told to.
-class WithoutABus : public DesktopFixture {
-protected:
-    void ExpectAnOrdinaryStart()
-    {
-        const auto copy = StartCopy();
-
-        EXPECT_TRUE(WaitForWindow(Empty));
-        EXPECT_EQ(ReadText(File("errors")), "");
-    }
-};
-
-TEST_F(WithoutABus, AnAddressWhereNobodyIsChangesNothing)
+TEST_F(FilesFromDesktop, ACopyTakesNothingThatWouldAskOrIsNoIconset)
 {
-    UseAddress("unix:path=" + File("nobody"));
-    ExpectAnOrdinaryStart();
-}
+    StartBus();
+    const auto copy = StartCopy();
+    const std::string name = WaitForCopies(1).at(0);
+    const auto take = [&](const std::string& path, const std::string& token) {
+        return Send(name.substr(0, name.find_last_not_of("0123456789") + 1) + ".Take",
+            { "string:" + path, "string:" + token, "string:" });
+    };
 
-TEST_F(WithoutABus, AnAddressThatIsNoneChangesNothing)
-{
-    UseAddress("nonsense");
-    ExpectAnOrdinaryStart();
+    for (const char* const path : { "", "a.prc", "/tmp/photo.png" })
+        EXPECT_EQ(take(path, ""), "error") << path;
+    EXPECT_TRUE(IsFree(name));
+    EXPECT_NE(take(Set("a.prc"), std::string(100000, 'x')), "error");
+
+    EXPECT_TRUE(WaitForWindow(TitleOf("a.prc")));
 }
 
 } // namespace

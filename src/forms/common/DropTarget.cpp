@@ -1,8 +1,9 @@
 #include "forms/common/DropTarget.h"
 
+#include "forms/common/ThisMachine.h"
+
 #include <QDropEvent>
 #include <QMimeData>
-#include <QSysInfo>
 #include <QTimer>
 #include <QUrl>
 #include <QWidget>
@@ -12,13 +13,11 @@ namespace vypx {
 
 namespace {
 
-/// Path of the file; empty where it is none of this machine. Some programs name the machine.
+/// Path of the file; empty where it is none of this machine.
 QString LocalFileOf(QUrl url)
 {
-    const QString host = url.host();
-    for (const QString& here : { QString("localhost"), QSysInfo::machineHostName() })
-        if (host.compare(here, Qt::CaseInsensitive) == 0)
-            url.setHost({});
+    if (IsThisMachine(url.host()))
+        url.setHost({});
 #ifndef Q_OS_WIN // where the files of a named machine are at hand
     if (!url.host().isEmpty())
         return {};

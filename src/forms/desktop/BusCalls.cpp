@@ -1,6 +1,7 @@
 #include "forms/desktop/BusCalls.h"
 
 #include "forms/desktop/BusNames.h"
+#include "forms/desktop/FileUris.h"
 
 #include <QDBusArgument>
 #include <QDBusVariant>
@@ -9,14 +10,24 @@ namespace vypx {
 
 namespace {
 
-/// What lets a window come to the front, of the desktop's platform data.
-QString TokenOf(const QVariant& platformData)
+/// Bytes of a token, of which some ten times less is usual: it goes into environments.
+constexpr qsizetype LongestToken = 4096;
+
+QString Bounded(const QString& token)
+{
+    return token.toUtf8().size() <= LongestToken ? token : QString();
+}
+
+Activation ActivationOf(const QVariant& token, const QVariant& startupId)
+{
+    return { .token = Bounded(token.toString()), .startupId = Bounded(startupId.toString()) };
+}
+
+/// Of what the desktop sends with each call.
+Activation ActivationOf(const QVariant& platformData)
 {
     const QVariantMap data = qdbus_cast<QVariantMap>(platformData);
-    for (const char* const key : { "activation-token", "desktop-startup-id" })
-        if (const QString token = data.value(key).toString(); !token.isEmpty())
-            return token;
-    return {};
+    return ActivationOf(data.value("activation-token"), data.value("desktop-startup-id"));
 }
 
 DesktopCalls::Answer AnswerTo(
@@ -45,7 +56,7 @@ const std::vector<BusCalls::Method>& BusCalls::Methods()
         { ApplicationInterface, "Open", "asa{sv}", "", &BusCalls::Open },
         { ApplicationInterface, "ActivateAction", "sava{sv}", "", &BusCalls::ActivateAction },
         { CopyInterface(), "IsFree", "", "b", &BusCalls::IsFree },
-        { CopyInterface(), "Take", "ss", "b", &BusCalls::Take },
+        { CopyInterface(), "Take", "sss", "b", &BusCalls::Take },
     };
     return all;
 }
@@ -90,12 +101,12 @@ bool BusCalls::handleMessage(const QDBusMessage& message, const QDBusConnection&
 
 void BusCalls::Activate(const QDBusMessage& call, const Sender& reply)
 {
-    m_calls.Activate(TokenOf(call.arguments().at(0)), AnswerTo(call, reply));
+    m_calls.Activate(ActivationOf(call.arguments().at(0)), AnswerTo(call, reply));
 }
 
 void BusCalls::Open(const QDBusMessage& call, const Sender& reply)
 {
-    m_calls.Open(call.arguments().at(0).toStringList(), TokenOf(call.arguments().at(1)),
+    m_calls.Open(call.arguments().at(0).toStringList(), ActivationOf(call.arguments().at(1)),
         AnswerTo(call, reply));
 }
 
@@ -111,8 +122,15 @@ void BusCalls::IsFree(const QDBusMessage& call, const Sender& reply)
 
 void BusCalls::Take(const QDBusMessage& call, const Sender& reply)
 {
-    const QString path = call.arguments().at(0).toString();
-    reply(call.createReply(m_own.Take({ path, call.arguments().at(1).toString() })));
+    const QVariantList arguments = call.arguments();
+    const QString path = arguments.at(0).toString();
+    if (!path.startsWith('/') || !HasKnownEnding(path)) {
+        reply(call.createErrorReply(
+            QDBusError::InvalidArgs, "The path must be absolute and that of an iconset."));
+        return;
+    }
+    const Activation activation = ActivationOf(arguments.at(1), arguments.at(2));
+    reply(call.createReply(m_own.Take({ path, activation })));
 }
 
 } // namespace vypx

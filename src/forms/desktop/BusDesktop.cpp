@@ -1,13 +1,12 @@
 #include "forms/desktop/BusDesktop.h"
 
 #include "forms/desktop/BusNames.h"
+#include "forms/desktop/BusQuestion.h"
+#include "forms/desktop/BusStart.h"
 
 #include <QCoreApplication>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
 #include <QEventLoop>
-#include <QThread>
-#include <QTimer>
 
 namespace vypx {
 
@@ -15,13 +14,12 @@ namespace {
 
 // Of RequestName: not to stand in line, and the answer of who does.
 constexpr uint NotInLine = 4, InLine = 0, StandsInLine = 2;
-// Milliseconds.
-constexpr int NameLimit = 2000;
-constexpr int FinishLimit = 60000; // a copy that was given a file may hang
+constexpr int NameLimit = 2000; // milliseconds
 
 } // namespace
 
 struct BusDesktop::Offered {
+    bool isStartedByBus = TakeStartByBus();
     QDBusConnection bus;
     BusCopies copies;
     HandOver handOver;
@@ -32,59 +30,55 @@ struct BusDesktop::Offered {
         : bus(connection)
         , copies(bus)
         , handOver(own, copies)
-        , calls(own, handOver, copies, IsStartedByBus())
+        , calls(own, handOver, copies, isStartedByBus)
         , object(own, calls)
     {
     }
 };
 
-/// A bus that hangs would hold whoever connects to it.
 BusDesktop::BusDesktop(FileTaker& own)
-    : m_own(own)
-{
-    QThread* const connecting = QThread::create([] { QDBusConnection::sessionBus(); });
-    connect(connecting, &QThread::finished, this, &BusDesktop::Connected);
-    connect(connecting, &QThread::finished, connecting, &QObject::deleteLater);
-    connecting->start();
-}
-
-BusDesktop::~BusDesktop() = default;
-
-void BusDesktop::Connected()
 {
     const QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
-    m_offered = std::make_unique<Offered>(bus, m_own);
+    m_offered = std::make_unique<Offered>(bus, own);
     // Before the names: with the first of them calls may come.
     if (m_offered->bus.registerVirtualObject(BusPath(), &m_offered->object))
         TakeNames();
 }
 
+BusDesktop::~BusDesktop() = default;
+
 void BusDesktop::TakeNames()
 {
-    const QString own = CopyName(QCoreApplication::applicationPid());
-    Ask("RequestName", own, NotInLine, [](uint) {});
-    Ask("RequestName", BusName(), InLine, [this](uint answer) {
+    if (m_offered->isStartedByBus)
+        ForgetStartAfterFirstCall();
+    Ask("RequestName", { CopyName(QCoreApplication::applicationPid()), NotInLine }, [](uint) {});
+    Ask("RequestName", { BusName(), InLine }, [this](uint answer) {
         if (answer == StandsInLine)
             m_offered->calls.ForgetStart(); // another copy hears the call
     });
 }
 
-void BusDesktop::Ask(const QString& method, const QString& name, uint flags,
+/// A program that was merely started by one that the bus had started must not wait for a call for
+/// ever. With the name the bus sends what it held for it, before the answer to whatever is asked
+/// later. Asked only when the bus's signal of the name is here: until the event loop runs, Qt keeps
+/// calls and signals back, but not answers, which would then come first.
+void BusDesktop::ForgetStartAfterFirstCall()
+{
+    auto* const watcher = new QDBusServiceWatcher(
+        BusName(), m_offered->bus, QDBusServiceWatcher::WatchForRegistration, this);
+    connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, [this, watcher] {
+        watcher->deleteLater();
+        Ask("GetId", {}, [this](uint) { m_offered->calls.ForgetStart(); });
+    });
+}
+
+void BusDesktop::Ask(const QString& method, const QVariantList& arguments,
     const std::function<void(uint answer)>& done)
 {
-    QDBusMessage call = QDBusMessage::createMethodCall(
-        "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", method);
-    call << name;
-    if (method == "RequestName")
-        call << flags;
-    auto* const watcher =
-        new QDBusPendingCallWatcher(m_offered->bus.asyncCall(call, NameLimit), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher, done] {
-        watcher->deleteLater();
-        done(watcher->reply().arguments().value(0).toUInt());
-    });
+    AskOnBus(m_offered->bus, CallToBus(method, arguments), NameLimit, *this,
+        [done](const QDBusMessage& answer) { done(answer.arguments().value(0).toUInt()); });
 }
 
 /// What the bus sent to a name before it was given up is here when the answer to that is.
@@ -94,18 +88,13 @@ void BusDesktop::Finish()
         return;
     QEventLoop loop;
     int released = 0;
-    const auto endIfDone = [&] {
-        if (released == 2 && m_offered->handOver.IsIdle())
-            loop.quit();
-    };
-    connect(&m_offered->handOver, &HandOver::BecameIdle, &loop, endIfDone);
     for (const QString& name : { BusName(), CopyName(QCoreApplication::applicationPid()) })
-        Ask("ReleaseName", name, 0, [&](uint) {
-            ++released;
-            endIfDone();
+        Ask("ReleaseName", { name }, [&](uint) {
+            if (++released == 2)
+                loop.quit();
         });
-    QTimer::singleShot(FinishLimit, &loop, &QEventLoop::quit);
-    loop.exec();
+    loop.exec(); // each is answered within a time limit
+    m_offered->handOver.Finish({});
 }
 
 } // namespace vypx

@@ -6,14 +6,15 @@
 #include "forms/desktop/DesktopCalls.h"
 #include "forms/desktop/HandOver.h"
 
-#include <QDBusConnection>
 #include <QObject>
+#include <QVariantList>
+#include <functional>
 #include <memory>
 
 namespace vypx {
 
-/// Offers the program on the session's bus. Without a bus, or with one that does not answer,
-/// nothing happens.
+/// Offers the program on the session's bus. Without a bus nothing happens. Connecting waits for the
+/// bus; one that hangs has held Qt's own menu bar by then.
 class BusDesktop : public QObject {
     Q_OBJECT
 
@@ -28,13 +29,12 @@ public:
 private:
     struct Offered;
 
-    void Connected();
     void TakeNames();
-    void Ask(const QString& method, const QString& name, uint flags,
+    void ForgetStartAfterFirstCall();
+    void Ask(const QString& method, const QVariantList& arguments,
         const std::function<void(uint answer)>& done);
 
-    FileTaker& m_own;
-    std::unique_ptr<Offered> m_offered; // null: no bus, or not yet
+    std::unique_ptr<Offered> m_offered; // null: no bus
 };
 
 } // namespace vypx

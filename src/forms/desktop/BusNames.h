@@ -20,7 +20,7 @@ inline QString CopyName(qint64 process) { return CopyPrefix() + QString::number(
 inline const QString ApplicationInterface = "org.freedesktop.Application";
 /// What copies say to each other:
 ///   IsFree() -> b            whether it would take a file now
-///   Take(s path, s token) -> b   whether it has taken it
+///   Take(s path, s activation-token, s desktop-startup-id) -> b   whether it has taken it
 inline QString CopyInterface() { return BusName() + ".Copy"; }
 
 } // namespace vypx

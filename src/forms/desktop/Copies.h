@@ -8,8 +8,8 @@
 namespace vypx {
 
 /// The other running copies of the program and the way to start more of them. Nothing here waits:
-/// every call ends with one of `done`, at once or later, within a time limit unless it says
-/// otherwise.
+/// every call ends with one of `done`, at once or later. There is a time limit but where a copy was
+/// sent a file: from then on it is the copy's, until that refuses it or dies.
 class Copies {
 public:
     /// What came of a copy that was started for a file.
@@ -25,14 +25,14 @@ public:
     virtual void List(std::function<void(QStringList)> done) = 0;
     /// Whether that copy answers and would take a file.
     virtual void Ask(const QString& copy, std::function<void(bool)> done) = 0;
-    /// Gives a copy that has just answered the file. True: it has taken it. No time limit: once it
-    /// was sent the file is the copy's, until that refuses it or dies.
+    /// Sends a copy that has just answered the file. True: it has taken it.
     virtual void Give(
         const QString& copy, const OutsideFile& file, std::function<void(bool)> done) = 0;
-    /// Starts a copy and gives it the file.
-    virtual void StartFor(const OutsideFile& file, std::function<void(Started)> done) = 0;
-    /// Starts a copy without a file; `token` as in OutsideFile.
-    virtual void Start(const QString& token, std::function<void(bool)> done) = 0;
+    /// Starts a copy and sends it the file; `sent` (once, or never) is told just before.
+    virtual void StartFor(
+        const OutsideFile& file, std::function<void()> sent, std::function<void(Started)> done) = 0;
+    /// Starts a copy without a file.
+    virtual void Start(const Activation& activation, std::function<void(bool)> done) = 0;
 };
 
 } // namespace vypx

@@ -25,7 +25,7 @@ struct Desktop::Road {
         : events(own, copies)
     {
     }
-    void Finish() { } // whoever is to take a file is started at once
+    void Finish() { events.Finish(); }
 #endif
 };
 

@@ -9,20 +9,6 @@ namespace vypx {
 
 namespace {
 
-constexpr qsizetype LongestShown = 200; // characters of a URI
-constexpr qsizetype MostShown = 10;     // URIs
-
-/// What is not to be opened, for the box.
-QString ShownUris(const QStringList& uris)
-{
-    QStringList lines;
-    for (const QString& uri : uris.first(std::min(uris.size(), MostShown)))
-        lines << (uri.size() > LongestShown ? uri.left(LongestShown) + "..." : uri);
-    if (uris.size() > MostShown)
-        lines << QObject::tr("and %1 more").arg(uris.size() - MostShown);
-    return lines.join('\n');
-}
-
 /// What was asked for in one call: answered when the last part is, or nobody cares any more.
 struct CallUnderWay {
     DesktopCalls::Answer answer;
@@ -49,14 +35,14 @@ DesktopCalls::DesktopCalls(
 {
 }
 
-void DesktopCalls::Activate(const QString& token, const Answer& answer)
+void DesktopCalls::Activate(const Activation& activation, const Answer& answer)
 {
     if (std::exchange(m_startedByDesktop, false)) {
-        m_own.ComeUp(token);
+        m_own.ComeUp(activation);
         answer({});
         return;
     }
-    m_copies.Start(token, [this, answer](bool started) {
+    m_copies.Start(activation, [this, answer](bool started) {
         const QString error = "No further copy of VY Pixelworks could be started.";
         if (!started)
             m_own.Tell(error);
@@ -64,10 +50,10 @@ void DesktopCalls::Activate(const QString& token, const Answer& answer)
     });
 }
 
-void DesktopCalls::Open(const QStringList& uris, const QString& token, const Answer& answer)
+void DesktopCalls::Open(const QStringList& uris, const Activation& activation, const Answer& answer)
 {
     if (uris.isEmpty()) {
-        Activate(token, answer);
+        Activate(activation, answer);
         return;
     }
     if (uris.size() > MostFiles) {
@@ -78,27 +64,31 @@ void DesktopCalls::Open(const QStringList& uris, const QString& token, const Ans
         answer(error);
         return;
     }
-    QStringList paths, others;
+    QStringList paths, unreadable, others;
     for (const QString& uri : uris) {
         if (const auto path = PathOfUri(uri))
             paths << *path;
         else
-            others << uri;
+            (HasUnreadableName(uri) ? unreadable : others) << uri;
     }
-    QString error;
-    if (!others.isEmpty()) {
-        error = "Only files of this computer can be opened, not:\n\n" + ShownUris(others);
+    QStringList errors;
+    if (!others.isEmpty())
+        errors << "Only files of this computer can be opened, not:\n\n" + ShownNames(others);
+    if (!unreadable.isEmpty())
+        errors << "Names that are not in UTF-8 can't be read:\n\n" + ShownNames(unreadable);
+    for (const QString& error : errors)
         m_own.Tell(error);
-    }
-    OpenPaths(paths, token,
-        [answer, error](const QString& further) { answer(error.isEmpty() ? further : error); });
+    OpenPaths(paths, activation, [answer, error = errors.join("\n\n")](const QString& further) {
+        answer(error.isEmpty() ? further : error);
+    });
 }
 
-void DesktopCalls::OpenPaths(const QStringList& paths, const QString& token, const Answer& answer)
+void DesktopCalls::OpenPaths(
+    const QStringList& paths, const Activation& activation, const Answer& answer)
 {
     m_startedByDesktop = false;
     const auto pending = std::make_shared<CallUnderWay>(answer);
-    QString unused = token; // it counts once
+    Activation unused = activation; // it counts once
     for (const QString& path : paths) {
         if (!HasKnownEnding(path)) {
             m_own.Tell("Incorrect file type.");

@@ -21,13 +21,13 @@ public:
     /// `startedByDesktop`: the call for which this copy was started has yet to come.
     DesktopCalls(FileTaker& own, HandOver& handOver, Copies& copies, bool startedByDesktop);
 
-    /// A further copy, or this one where it was started for that. `token` as in OutsideFile.
-    void Activate(const QString& token, const Answer& answer);
+    /// A further copy, or this one where it was started for that.
+    void Activate(const Activation& activation, const Answer& answer);
     /// Each file goes to a copy of its own; what is no URI of a file is told in a box. An empty
     /// list is Activate.
-    void Open(const QStringList& uris, const QString& token, const Answer& answer);
+    void Open(const QStringList& uris, const Activation& activation, const Answer& answer);
     /// Each file goes to a copy of its own; of an ending that is none of ours, that is told.
-    void OpenPaths(const QStringList& paths, const QString& token, const Answer& answer);
+    void OpenPaths(const QStringList& paths, const Activation& activation, const Answer& answer);
     /// That call went to another copy.
     void ForgetStart() { m_startedByDesktop = false; }
 

@@ -12,18 +12,37 @@ namespace {
 /// Program.app, in which the program stands as Contents/MacOS/program.
 QString Bundle() { return QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../.."); }
 
-} // namespace
-
-void BundleCopies::StartFor(const OutsideFile& file, std::function<void(Started)> done)
+/// `done` gets whether the system has opened the bundle, once it says so.
+void OpenBundle(const QStringList& files, const std::function<void(bool)>& done)
 {
-    const bool started =
-        QProcess::startDetached("/usr/bin/open", { "-n", "-a", Bundle(), file.path });
-    done(started ? Started::Took : Started::Failed);
+    auto* const open = new QProcess(qApp);
+    QObject::connect(
+        open, &QProcess::finished, open, [open, done](int code, QProcess::ExitStatus status) {
+            open->deleteLater();
+            done(status == QProcess::NormalExit && code == 0);
+        });
+    QObject::connect(
+        open, &QProcess::errorOccurred, open, [open, done](QProcess::ProcessError why) {
+            if (why != QProcess::FailedToStart)
+                return; // it finishes as well
+            open->deleteLater();
+            done(false);
+        });
+    open->start("/usr/bin/open", QStringList{ "-n", "-a", Bundle() } + files);
 }
 
-void BundleCopies::Start(const QString&, std::function<void(bool)> done)
+} // namespace
+
+void BundleCopies::StartFor(
+    const OutsideFile& file, std::function<void()>, std::function<void(Started)> done)
 {
-    done(QProcess::startDetached("/usr/bin/open", { "-n", "-a", Bundle() }));
+    OpenBundle(
+        { file.path }, [done](bool opened) { done(opened ? Started::Took : Started::Failed); });
+}
+
+void BundleCopies::Start(const Activation&, std::function<void(bool)> done)
+{
+    OpenBundle({}, done);
 }
 
 FileEvents::FileEvents(FileTaker& own, Copies& copies)

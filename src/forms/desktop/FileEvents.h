@@ -19,8 +19,9 @@ public:
     {
         done(false);
     }
-    void StartFor(const OutsideFile& file, std::function<void(Started)> done) override;
-    void Start(const QString& token, std::function<void(bool)> done) override;
+    void StartFor(const OutsideFile& file, std::function<void()> sent,
+        std::function<void(Started)> done) override;
+    void Start(const Activation& activation, std::function<void(bool)> done) override;
 };
 
 /// Takes the system's events that ask for a file (QFileOpenEvent), which come to the application.
@@ -29,6 +30,9 @@ class FileEvents : public QObject {
 
 public:
     FileEvents(FileTaker& own, Copies& copies);
+
+    /// The program has been left: runs events until all files have been handed over.
+    void Finish() { m_handOver.Finish({}); }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

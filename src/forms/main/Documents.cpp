@@ -79,7 +79,7 @@ void Documents::New()
         false);
     PendingOpen = TemplateMode = false;
     PendingNew = true;
-    m_named.clear();
+    PutNamedAside();
     if (PromptColorDepth)
         m_settings.AskForDepth();
     else
@@ -93,18 +93,20 @@ void Documents::Open()
 {
     for (ImagePanel* panel : m_view.panels)
         panel->ClearSizeLimit();
-    m_named.clear();
+    PutNamedAside();
     OpenFile(Leaving::ForOpen);
 }
 
 void Documents::LoadTemplate()
 {
-    m_named.clear();
+    PutNamedAside();
     OpenFile(Leaving::ForTemplate);
 }
 
 void Documents::OpenNamed(const std::string& path)
 {
+    if (path.empty())
+        return; // a load without one would ask for it
     m_named = path;
     if (IsTemplateName(path)) {
         OpenFile(Leaving::ForTemplate);
@@ -143,6 +145,7 @@ void Documents::GoOn()
         return;
     if (ChangedSinceAsked() && !MayLeave(TemplateMode ? Leaving::ForTemplate : Leaving::ForOpen)) {
         TemplateMode = false;
+        PutNamedAside();
         GiveUp();
     } else {
         ForgetDropped();
@@ -169,6 +172,15 @@ void Documents::ForgetDropped()
         m_view.notes.Tell(Notes::Kind::Picture, {});
 }
 
+/// True: there was one.
+bool Documents::PutNamedAside()
+{
+    const std::string named = std::exchange(m_named, {});
+    if (!named.empty())
+        emit NamedPutAside(named);
+    return !named.empty();
+}
+
 /// No document came of the command: the open one keeps its depth and resolution. As long as one of
 /// the two windows stands, what was chosen is still meant for the document that it asks about.
 void Documents::GiveUp()
@@ -185,6 +197,7 @@ bool Documents::AsksForName() const { return m_newIconset && m_newIconset->isVis
 
 void Documents::CloseWindows()
 {
+    PutNamedAside(); // else its window would seem to be closed by the user
     m_settings.CloseAll();
     if (m_newIconset)
         m_newIconset->close();
@@ -299,11 +312,13 @@ void Documents::ShowNoIcons()
 /// One was opened or made: with the depth that was chosen last, wherever.
 void Documents::DocumentBegan()
 {
-    m_named.clear();
+    const bool depthWasForNamed = PutNamedAside();
     m_settings.KeepChoices();
     m_settings.ShowDepth();
     m_view.notes.DocumentEnded();
     emit Replaced();
+    if (depthWasForNamed)
+        m_settings.CloseDepthWindow();
 }
 
 void Documents::DocumentOpened()

@@ -35,7 +35,7 @@ public:
     void LoadTemplate();
     void Close();
     /// Opens a file as Open or Load Template would, by the ending of its name, without their
-    /// dialog and question: there is no document.
+    /// dialog and question: there is no document. Without a path nothing happens.
     void OpenNamed(const std::string& path);
     /// The depth window stands open for such a file.
     bool AwaitsNamed() const { return !m_named.empty(); }
@@ -49,6 +49,9 @@ public:
 signals:
     /// There is no document any more, or another one.
     void Replaced();
+    /// The file of OpenNamed will not be opened here: while the depth window stood for it, another
+    /// command or document took its place, or the program was left.
+    void NamedPutAside(const std::string& path);
 
 private:
     /// A command that leaves the open document.
@@ -60,6 +63,7 @@ private:
     void GoOn();
     void Load();
     void ForgetDropped();
+    bool PutNamedAside();
     void ShowNewIconset();
     void MakeNewIconset(const QString& name);
     void GiveUp();

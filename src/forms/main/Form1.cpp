@@ -115,7 +115,7 @@ struct Form1::Parts {
         , clipboard({ form, panels, commands }, ask, pictures, icons)
         , session({ frame, form, panels, commands, views, *ui.lblWorking, sides, order }, busy,
               settings, windows, documents, catalogs, search)
-        , outside(form, ask, busy, search, documents, session)
+        , outside(frame, form, ask, busy, search, documents, session)
         , help(form, commands)
         , greeting(form, commands, ask, session, appList)
         , keys(form, *ui.TreeView1, [this] { icons.RemoveSelected(); })

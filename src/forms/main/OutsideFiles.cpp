@@ -1,6 +1,7 @@
 #include "forms/main/OutsideFiles.h"
 
 #include "document/Document.h"
+#include "forms/common/Text.h"
 #include "forms/main/SettingsWindows.h"
 
 #include <QApplication>
@@ -13,13 +14,16 @@ namespace vypx {
 namespace {
 
 constexpr int LookAgainAfter = 300; // milliseconds
-constexpr qsizetype MostTexts = 20; // in one box
+constexpr qsizetype MostTexts = 20; // that are kept for the next box
+constexpr qsizetype MostLines = 40; // in one box
+constexpr const char* TokenVariable = "XDG_ACTIVATION_TOKEN";
 
 } // namespace
 
-OutsideFiles::OutsideFiles(QWidget& form, Ask& ask, BusyGuard& busy, AppSearch& search,
-    Documents& documents, Session& session)
-    : m_form(form)
+OutsideFiles::OutsideFiles(QWidget& frame, QWidget& form, Ask& ask, BusyGuard& busy,
+    AppSearch& search, Documents& documents, Session& session)
+    : m_frame(frame)
+    , m_form(form)
     , m_ask(ask)
     , m_busy(busy)
     , m_search(search)
@@ -32,13 +36,17 @@ OutsideFiles::OutsideFiles(QWidget& form, Ask& ask, BusyGuard& busy, AppSearch& 
     connect(&busy, &BusyGuard::Ended, this, &OutsideFiles::GoOn, Qt::QueuedConnection);
     connect(&search, &AppSearch::Ended, this, &OutsideFiles::GoOn, Qt::QueuedConnection);
     form.installEventFilter(this);
-    form.window()->installEventFilter(this);
+    frame.installEventFilter(this);
+    connect(&documents, &Documents::NamedPutAside, this,
+        [this](const std::string& path) { GiveBack({ .path = PathText(path) }); });
     session.AtEnd([this] { GiveBack(); });
 }
 
 void OutsideFiles::Begin()
 {
     m_hasBegun = true;
+    if (const auto activation = std::exchange(m_comesUp, {}))
+        ComeUp(*activation);
     LookAgain();
 }
 
@@ -54,7 +62,7 @@ bool OutsideFiles::Take(const OutsideFile& file)
         return false;
     m_waiting = file;
     if (m_hasBegun && IsKeptByWindow())
-        ComeUp(file.token); // so that the user sees what it waits for
+        ComeUp(file.activation); // so that the user sees what it waits for
     LookAgain();
     return true;
 }
@@ -65,22 +73,30 @@ void OutsideFiles::Tell(const QString& text)
         m_ask.Show(nullptr, { .text = text });
         return;
     }
-    if (m_texts.size() < MostTexts && !m_texts.contains(text))
+    const bool isKept = m_texts.contains(text);
+    if (!isKept && m_texts.size() < MostTexts)
         m_texts << text;
+    else if (!isKept)
+        ++m_moreTexts;
     LookAgain();
 }
 
-void OutsideFiles::ComeUp(const QString& token)
+void OutsideFiles::ComeUp(const Activation& activation)
 {
     if (m_session.HasEnded())
         return;
-    if (!token.isEmpty())
-        qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8()); // where Qt looks for it, once
-    BringUp(*m_form.window());
+    if (!m_hasBegun) { // the frame is not finished
+        m_comesUp = activation;
+        return;
+    }
+    if (!activation.token.isEmpty())
+        qputenv(TokenVariable, activation.token.toUtf8()); // where Qt looks for it, once
+    BringUp(m_frame);
     if (QWidget* const modal = QApplication::activeModalWidget()) {
         modal->raise();
         modal->activateWindow();
     }
+    qunsetenv(TokenVariable); // Qt on X11 does not look
 }
 
 /// A window or menu that the user has to end first.
@@ -122,7 +138,7 @@ void OutsideFiles::Serve()
     }
     const QScopedValueRollback<bool> serving(m_isServing, true);
     const OutsideFile file = *std::exchange(m_waiting, {});
-    ComeUp(file.token);
+    ComeUp(file.activation);
     m_documents.OpenNamed(file.path.toStdString());
 }
 
@@ -131,15 +147,32 @@ void OutsideFiles::GiveBack()
     if (m_session.HasEnded())
         ShowTexts(nullptr);
     if (const auto file = std::exchange(m_waiting, {}))
-        emit GivenBack(*file);
+        GiveBack(*file);
 }
 
-/// One box for all that has come together.
+void OutsideFiles::GiveBack(const OutsideFile& file)
+{
+    const QScopedValueRollback<bool> serving(m_isServing, true); // it must not come here at once
+    emit GivenBack(file);
+}
+
+/// One box for all that has come together; the first text in any case.
 void OutsideFiles::ShowTexts(QWidget* parent)
 {
     const QStringList texts = std::exchange(m_texts, {});
-    if (!texts.isEmpty())
-        m_ask.Show(parent, { .text = texts.join("\n\n") });
+    if (texts.isEmpty())
+        return;
+    QStringList shown;
+    qsizetype lines = 0;
+    for (const QString& text : texts) {
+        lines += text.count('\n') + 2;
+        if (lines > MostLines && !shown.isEmpty())
+            break;
+        shown << text;
+    }
+    if (const auto more = std::exchange(m_moreTexts, 0) + texts.size() - shown.size(); more > 0)
+        shown << tr("and %1 more").arg(more);
+    m_ask.Show(parent, { .text = shown.join("\n\n") });
 }
 
 bool OutsideFiles::eventFilter(QObject*, QEvent* event)

@@ -19,8 +19,9 @@ class OutsideFiles : public FileTaker {
     Q_OBJECT
 
 public:
-    OutsideFiles(QWidget& form, Ask& ask, BusyGuard& busy, AppSearch& search, Documents& documents,
-        Session& session);
+    /// `frame` is the main window, around `form`.
+    OutsideFiles(QWidget& frame, QWidget& form, Ask& ask, BusyGuard& busy, AppSearch& search,
+        Documents& documents, Session& session);
 
     /// The start has come to its end; until then everything waits.
     void Begin();
@@ -28,7 +29,7 @@ public:
     bool IsFree() const override;
     bool Take(const OutsideFile& file) override;
     void Tell(const QString& text) override;
-    void ComeUp(const QString& token) override;
+    void ComeUp(const Activation& activation) override;
 
 private:
     bool IsKeptWaiting() const;
@@ -37,9 +38,11 @@ private:
     void GoOn();
     void Serve();
     void GiveBack();
+    void GiveBack(const OutsideFile& file);
     void ShowTexts(QWidget* parent);
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+    QWidget& m_frame;
     QWidget& m_form;
     Ask& m_ask;
     BusyGuard& m_busy;
@@ -48,7 +51,9 @@ private:
     Session& m_session;
     QTimer m_look; // for what nothing else tells of
     std::optional<OutsideFile> m_waiting;
+    std::optional<Activation> m_comesUp; // at the end of the start
     QStringList m_texts;
+    int m_moreTexts = 0; // that were not kept
     bool m_hasBegun = false, m_isServing = false;
 };
 

@@ -2,7 +2,6 @@
 
 #include "forms/desktop/DesktopCalls.h"
 #include "forms/desktop/FileEvents.h"
-#include "forms/desktop/FileUris.h"
 
 #include <QCoreApplication>
 #include <QFileOpenEvent>
@@ -23,12 +22,12 @@ protected:
     {
     }
 
-    void Open(const QStringList& uris, const QString& token = {})
+    void Open(const QStringList& uris, const Activation& activation = {})
     {
-        calls.Open(uris, token, Answer());
+        calls.Open(uris, activation, Answer());
         copies.RunAll();
     }
-    void Activate(const QString& token = {}) { calls.Activate(token, Answer()); }
+    void Activate(const Activation& activation = {}) { calls.Activate(activation, Answer()); }
     DesktopCalls::Answer Answer()
     {
         return [this](const QString& error) { answers << error; };
@@ -67,11 +66,11 @@ TEST_F(DesktopCallsTest, EachFileOfACallIsAFileOfItsOwn)
     EXPECT_EQ(answers, Done);
 }
 
-TEST_F(DesktopCallsTest, TheTokenCountsForTheFirstFile)
+TEST_F(DesktopCallsTest, WhatBringsAWindowUpCountsForTheFirstFile)
 {
-    Open({ "file:///a.prc", "file:///b.prc" }, "token-1");
+    Open({ "file:///a.prc", "file:///b.prc" }, { "token-1", "id-1" });
 
-    EXPECT_THAT(own.taken, ElementsAre(OutsideFile{ "/a.prc", "token-1" }));
+    EXPECT_THAT(own.taken, ElementsAre(OutsideFile{ "/a.prc", { "token-1", "id-1" } }));
 }
 
 TEST_F(DesktopCallsTest, AnotherEndingIsTold)
@@ -91,6 +90,16 @@ TEST_F(DesktopCallsTest, WhatIsNoFileOfThisComputerIsToldAndAnsweredAndTheRestOp
     EXPECT_EQ(own.told, QStringList(text));
     EXPECT_EQ(Taken(), QStringList("/tmp/a.prc"));
     EXPECT_EQ(answers, QStringList(text));
+}
+
+TEST_F(DesktopCallsTest, ANameThatIsNoTextHasATextOfItsOwn)
+{
+    Open({ "file:///tmp/%ff.prc", "http://x/a.prc" });
+
+    const QStringList texts{ "Only files of this computer can be opened, not:\n\nhttp://x/a.prc",
+        "Names that are not in UTF-8 can't be read:\n\nfile:///tmp/%ff.prc" };
+    EXPECT_EQ(own.told, texts);
+    EXPECT_EQ(answers, QStringList(texts.join("\n\n")));
 }
 
 TEST_F(DesktopCallsTest, ABoxNeverGetsLongerThanAScreen)
@@ -135,10 +144,10 @@ TEST_F(DesktopCallsTest, AFileThatCouldNotBePlacedIsAnsweredAsAnError)
 
 TEST_F(DesktopCallsTest, ActivateStartsAFurtherCopy)
 {
-    Activate("token-2");
+    Activate({ "token-2", "id-2" });
 
-    EXPECT_EQ(copies.startedEmpty, QStringList("token-2"));
-    EXPECT_TRUE(own.cameUp.isEmpty());
+    EXPECT_THAT(copies.startedEmpty, ElementsAre(Activation{ "token-2", "id-2" }));
+    EXPECT_TRUE(own.cameUp.empty());
     EXPECT_EQ(answers, Done);
 }
 
@@ -146,7 +155,7 @@ TEST_F(DesktopCallsTest, OpenWithoutFilesIsActivate)
 {
     Open({});
 
-    EXPECT_EQ(copies.startedEmpty.size(), 1);
+    EXPECT_EQ(copies.startedEmpty.size(), 1u);
     EXPECT_EQ(answers, Done);
 }
 
@@ -162,13 +171,13 @@ TEST_F(DesktopCallsTest, AnActivateThatFailsIsToldAndAnswered)
 
 TEST_F(StartedByDesktop, TheFirstActivateBringsThisCopyUpAndTheNextStartsOne)
 {
-    Activate("first");
-    EXPECT_EQ(own.cameUp, QStringList("first"));
-    EXPECT_TRUE(copies.startedEmpty.isEmpty());
+    Activate({ "first", {} });
+    EXPECT_THAT(own.cameUp, ElementsAre(Activation{ "first", {} }));
+    EXPECT_TRUE(copies.startedEmpty.empty());
 
-    Activate("second");
+    Activate({ "second", {} });
 
-    EXPECT_EQ(copies.startedEmpty, QStringList("second"));
+    EXPECT_THAT(copies.startedEmpty, ElementsAre(Activation{ "second", {} }));
 }
 
 TEST_F(StartedByDesktop, AnOpenIsTheCallItWasStartedFor)
@@ -178,7 +187,7 @@ TEST_F(StartedByDesktop, AnOpenIsTheCallItWasStartedFor)
 
     Activate();
 
-    EXPECT_EQ(copies.startedEmpty.size(), 1);
+    EXPECT_EQ(copies.startedEmpty.size(), 1u);
 }
 
 TEST_F(StartedByDesktop, ACallThatAnotherCopyHeardIsNotWaitedFor)
@@ -187,32 +196,7 @@ TEST_F(StartedByDesktop, ACallThatAnotherCopyHeardIsNotWaitedFor)
 
     Activate();
 
-    EXPECT_EQ(copies.startedEmpty.size(), 1);
-}
-
-TEST(PathOfUri, DecodesPercentSigns)
-{
-    EXPECT_EQ(PathOfUri("file:///tmp/a%20b%25%23.prc"), "/tmp/a b%#.prc");
-    EXPECT_EQ(PathOfUri("file:///tmp/%C3%A4.prc"), QString("/tmp/\u00e4.prc"));
-    EXPECT_EQ(PathOfUri("file://localhost/tmp/a.prc"), "/tmp/a.prc");
-    EXPECT_EQ(PathOfUri("file:/tmp/a.prc"), "/tmp/a.prc");
-}
-
-TEST(PathOfUri, RefusesWhatIsNoFileOfThisComputer)
-{
-    for (const char* const uri : { "", "file:", "file://", "file://server/share/a.prc",
-             "http://x/a.prc", "/tmp/a.prc", "a.prc", "file:a.prc", "file:///tmp/a.prc?x",
-             "file:///tmp/a.prc#x", "file:///a%zz.prc", "file:///a%00.prc", "file:///a%ff.prc",
-             "file://user@localhost/a.prc", "file://localhost:80/a.prc" })
-        EXPECT_EQ(PathOfUri(uri), std::nullopt) << uri;
-}
-
-TEST(HasKnownEnding, LooksAtTheLastThreeCharactersAlone)
-{
-    for (const char* const path : { "/a.prc", "/a.PRC", "/a.pdb", "/a.vpt", "/aprc" })
-        EXPECT_TRUE(HasKnownEnding(path)) << path;
-    for (const char* const path : { "/a.png", "/a.prc~", "/", "" })
-        EXPECT_FALSE(HasKnownEnding(path)) << path;
+    EXPECT_EQ(copies.startedEmpty.size(), 1u);
 }
 
 class FileEventsTest : public ::testing::Test {

@@ -5,7 +5,6 @@
 
 #include <deque>
 #include <map>
-#include <set>
 #include <vector>
 
 namespace vypx::test {
@@ -23,11 +22,12 @@ public:
         return true;
     }
     void Tell(const QString& text) override { told << text; }
-    void ComeUp(const QString& token) override { cameUp << token; }
+    void ComeUp(const Activation& activation) override { cameUp.push_back(activation); }
 
     bool isFree = true;
     std::vector<OutsideFile> taken;
-    QStringList told, cameUp;
+    QStringList told;
+    std::vector<Activation> cameUp;
 };
 
 /// Other copies that answer when the test says so (RunOne, RunAll).
@@ -37,6 +37,7 @@ public:
         Free,
         HasDocument,
         Hangs,       ///< never answers: the time limit says no
+        NeverTakes,  ///< is free when it is asked and hangs when it is given the file
         RefusesLate, ///< is free when it is asked and no more when it is given the file
     };
 
@@ -53,12 +54,14 @@ public:
     {
         Later([this, copy, done] {
             asked << copy;
-            done(copies[copy] == Kind::Free || copies[copy] == Kind::RefusesLate);
+            done(copies[copy] != Kind::HasDocument && copies[copy] != Kind::Hangs);
         });
     }
     void Give(const QString& copy, const OutsideFile& file, std::function<void(bool)> done) override
     {
         Later([this, copy, file, done] {
+            if (copies[copy] == Kind::NeverTakes)
+                return;
             const bool takes = copies[copy] == Kind::Free;
             if (takes) {
                 files[copy] << file.path;
@@ -67,13 +70,17 @@ public:
             done(takes);
         });
     }
-    void StartFor(const OutsideFile& file, std::function<void(Started)> done) override
+    void StartFor(const OutsideFile& file, std::function<void()> sent,
+        std::function<void(Started)> done) override
     {
         ++starting;
         mostStarting = std::max(mostStarting, starting);
-        Later([this, file, done] {
+        Later([this, file, sent, done] {
             --starting;
             ++started;
+            sent();
+            if (startedHang)
+                return;
             Started result = Started::Took;
             if (!startsEndSo.empty()) {
                 result = startsEndSo.front();
@@ -87,9 +94,9 @@ public:
             done(result);
         });
     }
-    void Start(const QString& token, std::function<void(bool)> done) override
+    void Start(const Activation& activation, std::function<void(bool)> done) override
     {
-        startedEmpty << token;
+        startedEmpty.push_back(activation);
         done(canStart);
     }
 
@@ -117,9 +124,10 @@ public:
     std::map<QString, Kind> copies;
     std::map<QString, QStringList> files; // by copy
     std::deque<Started> startsEndSo;      // the next ones; then they take their file
-    bool canStart = true;
+    bool canStart = true, startedHang = false;
     int started = 0, starting = 0, mostStarting = 0;
-    QStringList asked, startedEmpty;
+    QStringList asked;
+    std::vector<Activation> startedEmpty;
 
 private:
     void Later(std::function<void()> act) { m_later.push_back(std::move(act)); }

@@ -2,6 +2,7 @@
 
 #include "forms/desktop/HandOver.h"
 
+#include <QTimer>
 #include <gmock/gmock.h>
 
 namespace vypx::test {
@@ -135,7 +136,9 @@ TEST_F(HandOverTest, ButNotForEver)
     copies.RunAll();
 
     EXPECT_LE(copies.started, 5);
-    EXPECT_EQ(own.told.size(), 1);
+    EXPECT_EQ(own.told,
+        QStringList("a.prc was not opened: each copy of VY Pixelworks that was started for it got "
+                    "another file first."));
     EXPECT_EQ(answers, QStringList("not a.prc"));
 }
 
@@ -153,8 +156,6 @@ TEST_F(HandOverTest, AFileThatWaitedInVainGoesToAnotherCopy)
 TEST_F(HandOverTest, ItIsAtWorkUntilTheLastFileIsPlaced)
 {
     own.isFree = false;
-    int idle = 0;
-    QObject::connect(&handOver, &HandOver::BecameIdle, [&] { ++idle; });
     Place("a.prc");
     Place("b.prc");
     EXPECT_FALSE(handOver.IsIdle());
@@ -162,7 +163,83 @@ TEST_F(HandOverTest, ItIsAtWorkUntilTheLastFileIsPlaced)
     copies.RunAll();
 
     EXPECT_TRUE(handOver.IsIdle());
-    EXPECT_EQ(idle, 1);
+}
+
+TEST_F(HandOverTest, CopiesThatHangWithTheirFileHoldNoOthersUp)
+{
+    own.isFree = false;
+    for (const char* const name : { "1", "2", "3", "4", "5" })
+        copies.copies[name] = Kind::NeverTakes;
+    for (int i = 0; i < 5; ++i) {
+        Place(QString("%1.prc").arg(i));
+        copies.RunAll();
+        copies.copies[QString::number(i + 1)] = Kind::HasDocument; // has a file by now
+    }
+    copies.copies["6"] = Kind::Free;
+
+    Place("last.prc");
+    copies.RunAll();
+
+    EXPECT_EQ(copies.AllFiles(), QStringList("last.prc"));
+    EXPECT_EQ(answers, QStringList("last.prc"));
+}
+
+TEST_F(HandOverTest, StartedCopiesThatHangHoldNoOthersUp)
+{
+    own.isFree = false;
+    copies.startedHang = true;
+    for (int i = 0; i < 10; ++i)
+        Place(QString("%1.prc").arg(i));
+
+    copies.RunAll();
+
+    EXPECT_EQ(copies.started, 10);
+    EXPECT_LE(copies.mostStarting, 4);
+}
+
+TEST_F(HandOverTest, AtTheEndItWaitsForWhatIsUnderWay)
+{
+    own.isFree = false;
+    for (const char* const path : { "a.prc", "b.prc" })
+        Place(path);
+    QTimer::singleShot(0, [&] { copies.RunAll(); });
+
+    handOver.Finish({});
+
+    EXPECT_EQ(answers.size(), 2);
+    EXPECT_TRUE(own.told.isEmpty());
+}
+
+TEST_F(HandOverTest, AtTheEndWhatNobodyAnswersIsTold)
+{
+    own.isFree = false;
+    copies.copies = { { "1", Kind::NeverTakes } };
+    Place("/tmp/a.prc");
+    copies.RunAll();
+
+    handOver.Finish({ .answers = 1 }); // where all are sent it does not wait for long
+
+    EXPECT_EQ(own.told,
+        QStringList("No copy of VY Pixelworks has answered that it opens:\n\n/tmp/a.prc"));
+    EXPECT_EQ(answers, QStringList("not /tmp/a.prc"));
+    EXPECT_TRUE(handOver.IsIdle());
+}
+
+TEST_F(HandOverTest, AtTheEndSoIsWhatStillLooksForACopy)
+{
+    own.isFree = false;
+    for (int i = 0; i < 12; ++i)
+        Place(QString("%1.prc").arg(i, 2, 10, QChar('0')));
+
+    handOver.Finish({ .all = 1 });
+
+    ASSERT_EQ(own.told.size(), 1);
+    EXPECT_TRUE(own.told[0].contains("\n09.prc\nand 2 more"));
+    EXPECT_EQ(answers.size(), 12);
+    copies.RunAll(); // too late
+    EXPECT_TRUE(copies.AllFiles().isEmpty());
+    EXPECT_EQ(copies.started, 0);
+    EXPECT_EQ(answers.size(), 12);
 }
 
 } // namespace

@@ -1,11 +1,7 @@
-#include "DocumentFixture.h"
-#include "GreetingFixture.h"
+#include "OutsideFixture.h"
 
-#include "document/IconStats.h"
 #include "forms/common/DisabledWindow.h"
-#include "forms/common/FileTaker.h"
 
-#include <QCheckBox>
 #include <QMenu>
 #include <gmock/gmock.h>
 
@@ -15,44 +11,7 @@ namespace {
 
 using testing::ElementsAre;
 
-/// A file of one large icon.
-Bytes OneIcon(const std::string& name)
-{
-    return Iconset{
-        .name = name,
-        .resources = { { "iTbl", 1000, IndexRecord("appl", "ALPH", 3500, 0) }, Picture(3500) }
-    }.File();
-}
-
-/// Files that come from outside into the program as `Base` has it.
-template <typename Base>
-class FromOutside : public Base {
-protected:
-    bool Take(const QString& path) { return Taker().Take({ path, {} }); }
-    FileTaker& Taker() { return this->frame->Form().FilesFromOutside(); }
-    /// Collects what is given back from now on.
-    void Watch()
-    {
-        QObject::connect(&Taker(), &FileTaker::GivenBack,
-            [this](const OutsideFile& file) { givenBack.push_back(file.path); });
-    }
-    QString Set(const std::string& name = "set.prc") { return this->Written(OneIcon("Set"), name); }
-    bool IsOpen(const std::string& name = "set.prc")
-    {
-        return FileLoaded && FileName == this->program.File(name);
-    }
-    /// Long enough for everything that looks at times.
-    static void RunEvents() { QTest::qWait(700); }
-    bool WaitUntilOpen(const std::string& name = "set.prc")
-    {
-        return QTest::qWaitFor([&] { return IsOpen(name); });
-    }
-
-    std::vector<QString> givenBack;
-};
-
 using OutsideFiles = FromOutside<Documents>;
-using OutsideFilesAtStart = FromOutside<GreetingFixture>;
 
 TEST_F(OutsideFiles, AnIconsetIsOpenedWithoutADialog)
 {
@@ -204,61 +163,6 @@ TEST_F(OutsideFiles, ABrokenFileIsToldAndTheNextOneOpened)
     EXPECT_TRUE(WaitUntilOpen());
 }
 
-TEST_F(OutsideFiles, ATemplateComesWithEverySlotEmpty)
-{
-    Take(Set("t.vpt"));
-
-    EXPECT_TRUE(WaitUntilOpen("t.vpt"));
-    EXPECT_EQ(StatTotal, 1);
-    EXPECT_EQ(StatHighRes + StatLowRes, 0);
-    EXPECT_TRUE(LoadedAsTemplate);
-    EXPECT_TRUE(ask.opened.empty());
-}
-
-TEST_F(OutsideFiles, ATemplateAsksForTheDepthFirst)
-{
-    PromptColorDepth = true;
-    Take(Set("t.vpt"));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return HasWindow("frmSelectCDepth"); }));
-    EXPECT_FALSE(FileLoaded);
-    EXPECT_FALSE(Taker().IsFree()); // that window is about this file
-
-    Click("cmdDoneCDepth");
-
-    EXPECT_TRUE(WaitUntilOpen("t.vpt"));
-    EXPECT_TRUE(LoadedAsTemplate);
-    EXPECT_TRUE(ask.opened.empty());
-}
-
-TEST_F(OutsideFiles, ATemplateWhoseDepthIsGivenUpIsForgotten)
-{
-    PromptColorDepth = true;
-    Take(Set("t.vpt"));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return HasWindow("frmSelectCDepth"); }));
-
-    Find<QDialog>("frmSelectCDepth").close();
-
-    EXPECT_TRUE(Taker().IsFree());
-    ask.CancelDialog();
-    PromptColorDepth = false;
-    Entry("mnuLoadTemplate").trigger(); // which asks as ever
-    EXPECT_EQ(ask.opened.size(), 1u);
-}
-
-TEST_F(OutsideFiles, OpenInsteadOfTheTemplateAsksForAFile)
-{
-    PromptColorDepth = true;
-    Take(Set("t.vpt"));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return HasWindow("frmSelectCDepth"); }));
-
-    Entry("mnuOpen").trigger();
-    ask.Choose(Set("mine.prc"));
-    Click("cmdDoneCDepth");
-
-    EXPECT_TRUE(IsOpen("mine.prc"));
-    EXPECT_FALSE(LoadedAsTemplate);
-}
-
 TEST_F(OutsideFiles, ADroppedFileThatWaitsForAnImportIsForgotten)
 {
     DroppedFile = true;
@@ -270,101 +174,48 @@ TEST_F(OutsideFiles, ADroppedFileThatWaitsForAnImportIsForgotten)
     EXPECT_FALSE(DroppedFile);
 }
 
-TEST_F(OutsideFiles, AMinimisedWindowComesUp)
+TEST_F(OutsideFiles, AnEmptyPathAsksForNothing)
 {
-    frame->showMinimized();
-
-    Take(Set());
-
-    EXPECT_TRUE(WaitUntilOpen());
-    EXPECT_FALSE(frame->isMinimized());
-}
-
-TEST_F(OutsideFiles, TheWindowComesUpToShowWhatTheFileWaitsFor)
-{
-    const DisabledWindow window(*frame);
-    frame->showMinimized();
-
-    Take(Set());
-
-    EXPECT_FALSE(frame->isMinimized());
-}
-
-TEST_F(OutsideFiles, AMessageWaitsAsAFileDoesAndSoDoTheFurtherOnes)
-{
-    auto window = std::make_unique<DisabledWindow>(*frame);
-    Taker().Tell("one");
-    Taker().Tell("two");
-    Taker().Tell("two");
+    EXPECT_TRUE(Take({}));
     RunEvents();
-    EXPECT_TRUE(ask.shown.empty());
-    ask.Answer(QMessageBox::Ok);
 
-    window.reset();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !ask.shown.empty(); }));
-
-    EXPECT_EQ(Messages(), QStringList("one\n\ntwo"));
-}
-
-TEST_F(OutsideFiles, AFileThatCameUnderAMessageIsOpenedAfterIt)
-{
-    Taker().Tell("Incorrect file type.");
-    ask.Answer(QMessageBox::Ok, [&] { EXPECT_TRUE(Take(Set())); });
-
-    EXPECT_TRUE(WaitUntilOpen());
-}
-
-TEST_F(OutsideFilesAtStart, SplashSearchAndTipAreWaitedFor)
-{
-    bool taken = false;
-    QTimer::singleShot(0, [&] { taken = Take(Set()); });
-    StartWith({ .splash = true, .search = true, .tip = true });
-    RunEvents();
-    ASSERT_NE(Splash(), nullptr);
+    EXPECT_TRUE(ask.opened.empty());
     EXPECT_FALSE(FileLoaded);
-
-    Press(Splash(), Qt::Key_Space);
-    RunEvents();
-    EXPECT_TRUE(taken);
-    EXPECT_TRUE(HasSearched());
-    ASSERT_NE(Tip(), nullptr);
-    EXPECT_FALSE(FileLoaded);
-
-    Click(Tip(), "cmdOK");
-
-    EXPECT_TRUE(WaitUntilOpen());
+    EXPECT_TRUE(Taker().IsFree());
 }
 
-TEST_F(OutsideFilesAtStart, AFileAmidTheSearchOfAStartIsOpenedAfterIt)
+TEST_F(OutsideFiles, UnderADialogOfTheUsersOwnOpenItWaitsAndIsGivenBackAfterIt)
 {
-    bool taken = false, wasLoaded = true;
-    AmidTheSearch([&] {
-        taken = Take(Set());
-        QCoreApplication::processEvents();
-        wasLoaded = FileLoaded;
+    Watch();
+    const QString other = Set();
+    ask.Choose(Set("own.prc"), [&] { EXPECT_TRUE(Take(other)); });
+
+    Entry("mnuOpen").trigger();
+    RunEvents();
+
+    EXPECT_TRUE(IsOpen("own.prc"));
+    EXPECT_THAT(givenBack, ElementsAre(other));
+}
+
+TEST_F(OutsideFiles, OneThatComesAmidALoadIsGivenBackAfterIt)
+{
+    Watch();
+    Resource broken = Picture(3501); // a box comes up amid the load
+    PutU16(broken.data, 10, 0x4000);
+    const QString box =
+        Written(Iconset{ .name = "Box", .resources = { Picture(3500), broken } }.File(), "box.prc");
+    const QString other = Set();
+    ask.Answer(QMessageBox::Ok, [&] {
+        EXPECT_TRUE(Take(other));
+        RunEvents();
+        EXPECT_TRUE(givenBack.empty());
     });
 
-    StartWith({ .search = true });
+    Open(box);
+    RunEvents();
 
-    EXPECT_TRUE(taken);
-    EXPECT_FALSE(wasLoaded);
-    EXPECT_TRUE(WaitUntilOpen());
-    EXPECT_TRUE(HasSearched());
-}
-
-TEST_F(OutsideFilesAtStart, ExitAmidTheSearchGivesTheFileBack)
-{
-    AmidTheSearch([&] {
-        Watch();
-        EXPECT_TRUE(Take(Set()));
-        frame->Form().ExitProgram();
-        EXPECT_FALSE(Taker().IsFree()); // though the search still runs
-    });
-
-    StartWith({ .search = true });
-
-    EXPECT_THAT(givenBack, ElementsAre(QString::fromStdString(program.File("set.prc"))));
-    EXPECT_FALSE(FileLoaded);
+    EXPECT_TRUE(IsOpen("box.prc"));
+    EXPECT_THAT(givenBack, ElementsAre(other));
 }
 
 } // namespace

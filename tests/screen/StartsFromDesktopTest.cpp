@@ -55,11 +55,9 @@ TEST_F(StartsFromDesktop, ACopyThatInheritedTheMarkOfAStartByTheBusStartsAFurthe
     StartBus();
     const auto copy = StartCopy({ "DBUS_STARTER_BUS_TYPE=session" });
     WaitForCopies(1);
-    ASSERT_TRUE(WaitForWindow(Empty));
 
-    EXPECT_EQ(Activate(), Done);
-
-    WaitForCopies(2);
+    // The first of them may still be taken for that of the start.
+    EXPECT_TRUE(WaitUntil([&] { return Copies().size() > 1; }, [&] { Activate(); }));
 }
 
 TEST_F(StartsFromDesktop, WhatBringsAWindowUpComesToTheNewCopyInItsOwnVariables)
@@ -68,7 +66,7 @@ TEST_F(StartsFromDesktop, WhatBringsAWindowUpComesToTheNewCopyInItsOwnVariables)
     const auto copy = StartCopy({ "DBUS_STARTER_BUS_TYPE=session",
         "DBUS_STARTER_ADDRESS=unix:path=/x", "XDG_ACTIVATION_TOKEN=old" });
     const std::string name = WaitForCopies(1).at(0);
-    ASSERT_TRUE(WaitForWindow(Empty));
+    Open({ Set("a.prc") }); // so that the next call is not taken for that of a start
 
     EXPECT_EQ(
         Call("org.freedesktop.Application.Activate", { "{'desktop-startup-id': <'x_TIME7'>}" }),

@@ -5,8 +5,8 @@
 #include "forms/desktop/BusStart.h"
 
 #include <QCoreApplication>
-#include <QDBusServiceWatcher>
 #include <QEventLoop>
+#include <QTimer>
 
 namespace vypx {
 
@@ -14,12 +14,13 @@ namespace {
 
 // Of RequestName: not to stand in line, and the answer of who does.
 constexpr uint NotInLine = 4, InLine = 0, StandsInLine = 2;
-constexpr int NameLimit = 2000; // milliseconds
+// Milliseconds.
+constexpr int NameLimit = 2000;
+constexpr int JustStarted = 3000; // since the name was taken: the call for a start comes at once
 
 } // namespace
 
 struct BusDesktop::Offered {
-    bool isStartedByBus = TakeStartByBus();
     QDBusConnection bus;
     BusCopies copies;
     HandOver handOver;
@@ -30,7 +31,7 @@ struct BusDesktop::Offered {
         : bus(connection)
         , copies(bus)
         , handOver(own, copies)
-        , calls(own, handOver, copies, isStartedByBus)
+        , calls(own, handOver, copies, TakeStartByBus())
         , object(own, calls)
     {
     }
@@ -49,28 +50,16 @@ BusDesktop::BusDesktop(FileTaker& own)
 
 BusDesktop::~BusDesktop() = default;
 
+/// A program that was merely started by one that the bus had started must not wait for a call for
+/// ever. Nor is it enough to wait for what the bus held until the name was taken: clients that ask
+/// what the object knows, or have it started first, call only then.
 void BusDesktop::TakeNames()
 {
-    if (m_offered->isStartedByBus)
-        ForgetStartAfterFirstCall();
     Ask("RequestName", { CopyName(QCoreApplication::applicationPid()), NotInLine }, [](uint) {});
     Ask("RequestName", { BusName(), InLine }, [this](uint answer) {
-        if (answer == StandsInLine)
-            m_offered->calls.ForgetStart(); // another copy hears the call
-    });
-}
-
-/// A program that was merely started by one that the bus had started must not wait for a call for
-/// ever. With the name the bus sends what it held for it, before the answer to whatever is asked
-/// later. Asked only when the bus's signal of the name is here: until the event loop runs, Qt keeps
-/// calls and signals back, but not answers, which would then come first.
-void BusDesktop::ForgetStartAfterFirstCall()
-{
-    auto* const watcher = new QDBusServiceWatcher(
-        BusName(), m_offered->bus, QDBusServiceWatcher::WatchForRegistration, this);
-    connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, [this, watcher] {
-        watcher->deleteLater();
-        Ask("GetId", {}, [this](uint) { m_offered->calls.ForgetStart(); });
+        const bool anotherHears = answer == StandsInLine;
+        QTimer::singleShot(
+            anotherHears ? 0 : JustStarted, this, [this] { m_offered->calls.ForgetStart(); });
     });
 }
 

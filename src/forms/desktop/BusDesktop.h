@@ -30,7 +30,6 @@ private:
     struct Offered;
 
     void TakeNames();
-    void ForgetStartAfterFirstCall();
     void Ask(const QString& method, const QVariantList& arguments,
         const std::function<void(uint answer)>& done);
 

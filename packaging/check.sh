@@ -66,9 +66,10 @@ fi
 
 if [ -x scripts/check-windows.sh ]; then
     part "Running what was compiled for Windows" \
-        scripts/check-windows.sh build/release/program/pixelworks-cli
+        scripts/check-windows.sh build/release/program/pixelworks-cli ${long:+--long}
 fi
 if [ -n "$long" ]; then
+    part "Building the benchmarks" cmake --build --preset release --target benchmarks
     part "Building the same once more" packaging/checks/rebuild.sh "$package"
 fi
 

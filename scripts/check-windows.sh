@@ -4,7 +4,8 @@
 # at the resources of the programs and at what an installation consists of. Installs what is missing
 # (Debian 12).
 #
-# check-windows.sh [TOOL]: TOOL is pixelworks-cli of this system; without it, it is built (build/release).
+# check-windows.sh [TOOL [--long]]: TOOL is pixelworks-cli of this system; without it, it is built
+# (build/release). With --long its output is compared for every iconset of the tests, not for a few.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source scripts/packages.sh
@@ -89,7 +90,9 @@ compare() { # NAME COMMAND ARGUMENT...: output, exit code and what is written ar
     [ "$here" -eq "$there" ] || fail "$name: exit code $there, and $here on this system"
     compared=$((compared + 1))
 }
-for file in tests/data/iconsets/*.prc data/samples/*.prc; do
+files=(tests/data/iconsets/{owners,depth4,scanline}.prc data/samples/*.prc)
+[ "${2:-}" != --long ] || files=(tests/data/iconsets/*.prc data/samples/*.prc)
+for file in "${files[@]}"; do
     name=$(basename "$file" .prc)
     compare "dump-$name" dump "$file" --work "$work/@/$name"
     compare "convert-$name" convert "$file" "$work/@/$name.prc" --work "$work/@/$name-convert" \

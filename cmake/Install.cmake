@@ -45,11 +45,8 @@ if(VYPX_SCREENSHOTS)
 endif()
 
 # vypx_install_text(TEMPLATE FOLDER NAME [COMPRESSED]): a file of packaging/ with the product's names
-# filled in, as NAME below FOLDER. One that is not there is passed over.
+# filled in, as NAME below FOLDER.
 function(vypx_install_text template folder name)
-    if(NOT EXISTS ${VYPX_PACKAGING}/${template})
-        return()
-    endif()
     set(made ${VYPX_TO_INSTALL}/${name})
     configure_file(${VYPX_PACKAGING}/${template} ${made} @ONLY)
     if("COMPRESSED" IN_LIST ARGN)

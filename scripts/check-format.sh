@@ -2,5 +2,5 @@
 # Fails and names the files whose layout is not that of .clang-format.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-git ls-files 'src/*.cpp' 'src/*.h' 'tests/*.cpp' 'tests/*.h' 'bench/*.cpp' 'fuzz/*.cpp' 'fuzz/*.h' |
-    xargs clang-format --dry-run --Werror
+find src tests bench fuzz \( -name '*.cpp' -o -name '*.h' \) -print0 |
+    xargs -0 clang-format --dry-run --Werror

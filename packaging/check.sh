@@ -66,9 +66,9 @@ else
         in_namespace packaging/checks/overlay.sh "$folder/unpacked" "$package"
 fi
 
-part "Running what was compiled for Windows" \
-    scripts/check-windows.sh build/release/program/pixelworks-cli ${long:+--long}
 if [ -n "$long" ]; then
+    part "Running what was compiled for Windows" \
+        scripts/check-windows.sh build/release/program/pixelworks-cli
     part "Building the benchmarks" cmake --build --preset release --target benchmarks
     part "Building the same once more" packaging/checks/rebuild.sh "$package"
 fi

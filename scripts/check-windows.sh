@@ -4,8 +4,7 @@
 # at the resources of the programs and at what an installation consists of. Installs what is missing
 # (Debian 12).
 #
-# check-windows.sh [TOOL [--long]]: TOOL is pixelworks-cli of this system; without it, it is built
-# (build/release). With --long its output is compared for every iconset of the tests, not for a few.
+# check-windows.sh [TOOL]: TOOL is pixelworks-cli of this system; without it, it is built (build/release).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source scripts/packages.sh
@@ -96,9 +95,7 @@ compare() { # NAME COMMAND ARGUMENT...: output, exit code and what is written ar
     compared=$((compared + 1))
     [ "$there" -ne 0 ] || worked=$((worked + 1))
 }
-files=(tests/data/iconsets/{owners,depth4,scanline}.prc data/samples/*.prc)
-[ "${2:-}" != --long ] || files=(tests/data/iconsets/*.prc data/samples/*.prc)
-for file in "${files[@]}"; do
+for file in tests/data/iconsets/*.prc data/samples/*.prc; do
     name=$(basename "$file" .prc)
     compare "dump-$name" dump "$file" --work "$work/@/$name"
     compare "convert-$name" convert "$file" "$work/@/$name.prc" --work "$work/@/$name-convert" \

@@ -44,7 +44,9 @@ say "Installing by apt"
 # Nothing else may be needed: what the package names is there, and no list of packages is.
 apt_in_root install --no-install-recommends /tmp/package.deb
 [ "$(chroot "$root" dpkg-query -W -f='${Status}' "$name")" = "install ok installed" ]
-chroot "$root" dpkg --verify "$name"
+# It tells of files that differ by its words alone.
+differing=$(chroot "$root" dpkg --verify "$name")
+[ -z "$differing" ] || { say "Installed files differ from the package's: $differing"; exit 1; }
 known || { say "The desktop's caches do not know the program."; exit 1; }
 
 "$checks/use.sh" "$root"

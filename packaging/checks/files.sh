@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # files.sh ROOT: what the package in ROOT holds: nothing for developers, modes by the rule, every file
-# that a desktop looks for, and no programs that look for libraries anywhere but in their own folder.
+# that a desktop looks for, a thumbnailer that makes pictures, and hardened programs that look for
+# libraries nowhere but in their own folder.
 set -euo pipefail
-root=$1
+root=$(realpath "$1")
 project=$(realpath "$(dirname "$0")/../..")
 bad=0
 fail() { # WORDS...
@@ -21,7 +22,8 @@ share=$root/usr/share
 wanted=("$share/applications/$id.desktop" "$share/metainfo/$id.metainfo.xml"
     "$share/mime/packages/$id.xml" "$share/dbus-1/services/$id.service"
     "$share/thumbnailers/vy-pixelworks.thumbnailer"
-    "$share/man/man1/vy-pixelworks.1.gz" "$share/doc/vy-pixelworks/changelog.Debian.gz"
+    "$share/man/man1/vy-pixelworks.1.gz" "$share/man/man1/pixelworks-cli.1.gz"
+    "$share/bash-completion/completions/pixelworks-cli" "$share/doc/vy-pixelworks/changelog.Debian.gz"
     "$share/vy-pixelworks/AppList.dat" "$share/vy-pixelworks/VYPX.chm"
     "$share/vy-pixelworks/samples/first-set.prc"
     "$share/icons/hicolor/scalable/apps/$id.svg")
@@ -33,14 +35,6 @@ for kind in "apps/$id" mimetypes/application-x-vantry-iconset{,-template}; do
         grep -q "PNG image data, $size x $size," <<<"$(file "$icon")" || fail "$icon is no picture of that size"
     done
 done
-# Both are there once their sources are.
-for source in man/pixelworks-cli.1.in pixelworks-cli.bash; do
-    [ -e "$project/packaging/linux/$source" ] || continue
-    case $source in
-        man/*) wanted+=("$share/man/man1/pixelworks-cli.1.gz") ;;
-        *) wanted+=("$share/bash-completion/completions/pixelworks-cli") ;;
-    esac
-done
 for path in "${wanted[@]}"; do
     [ -s "$path" ] || fail "${path#"$root"} is missing"
 done
@@ -49,6 +43,18 @@ service=$share/dbus-1/services/$id.service
 started=$(sed -n 's/^Exec=//p' "$service")
 [ -x "$root$started" ] || fail "the service starts $started, which is not there"
 grep -qx "Name=$id" "$service" || fail "the service has another name than $id"
+
+# A file manager fills the thumbnailer's line like this; names may hold blanks, and need no ending.
+pictures=$(mktemp -d)
+trap 'rm -rf "$pictures"' EXIT
+cp "$share/vy-pixelworks/samples/first-set.prc" "$pictures/a set.prc"
+read -ra line < <(sed -n 's/^Exec=//p' "$share/thumbnailers/vy-pixelworks.thumbnailer")
+line=("${line[@]//%s/128}")
+line=("${line[@]//%i/"$pictures/a set.prc"}")
+line=("${line[@]//%o/"$pictures/a picture"}")
+env -i PATH="$root/usr/bin" "${line[@]}" || fail "the thumbnailer's line fails: ${line[*]}"
+grep -qE ': PNG image data, (128 x [0-9]+|[0-9]+ x 128),' <<<"$(file "$pictures/a picture")" ||
+    fail "the thumbnailer makes no picture of 128 pixels"
 
 while read -r path; do
     fail "$path does not belong into a package"
@@ -72,7 +78,12 @@ for program in vy-pixelworks pixelworks-cli; do
         fail "$program does not find the module of its package"
     grep -qE 'RU?N?PATH +\$ORIGIN/\.\./lib[^:]*/vy-pixelworks$' <<<"$(objdump -p "$root/usr/bin/$program")" ||
         fail "$program looks for its module elsewhere, too"
+    elf=$(readelf --file-header --program-headers --dynamic --wide "$root/usr/bin/$program")
+    for sign in 'Type: +DYN ' 'FLAGS_1\) .*\<PIE\>' 'FLAGS_1\) .*\<NOW\>' 'GNU_RELRO '; do
+        grep -qE "$sign" <<<"$elf" || fail "$program is not hardened: no '$sign'"
+    done
 done
-[ -z "$(dpkg-deb --ctrl-tarfile "$root"/../*.deb | tar t | grep -vxE '\./(|control|md5sums)')" ] ||
+held=$(dpkg-deb --ctrl-tarfile "$root"/../*.deb | tar t)
+! grep -qvxE '\./(|control|md5sums)' <<<"$held" ||
     fail "the package has scripts or triggers of its own"
 exit "$bad"

@@ -17,7 +17,8 @@ cmake --preset release -B "$again" -DVYPX_CCACHE=OFF -DVYPX_TESTS=OFF -DVYPX_BEN
 }
 cmake --build "$again" --target vy-pixelworks pixelworks-cli program_folder
 dpkg-deb -x "$package" "$folder/first"
-dpkg-deb -x "$(packaging/pack.sh "$again" "$folder")" "$folder/second"
+repacked=$(packaging/pack.sh "$again" "$folder")
+dpkg-deb -x "$repacked" "$folder/second"
 for root in "$folder"/{first,second}; do
     rm "$root"/usr/share/vy-pixelworks/VYPX.chm
     find "$root" \( -path '*/bin/*' -o -name '*.so' \) -type f \

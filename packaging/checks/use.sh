@@ -4,12 +4,12 @@
 # namespace.
 set -euo pipefail
 root=$1
+umask 022
 project=$(realpath "$(dirname "$0")/../..")
 source "$project/scripts/packages.sh"
 
-homes=/tmp/vy-pixelworks-homes # in ROOT
-mkdir -p "$root$homes"
-trap 'rm -rf "${root:?}$homes"' EXIT
+homes=$(chroot "$root" mktemp -d /tmp/vy-pixelworks-homes.XXXXXX) # in ROOT
+trap 'rm -rf "${root:?}${homes:?}"' EXIT
 chmod 755 "$root$homes"
 
 fail() { # WORDS...
@@ -24,11 +24,13 @@ as_user() {
     exec chroot "$root" setpriv --reuid "$id" --regid "$id" --clear-groups \
         env -i HOME="$homes/$id" XDG_RUNTIME_DIR="$homes/$id/run" PATH=/usr/bin:/bin LANG=C.UTF-8 "$@"
 }
+# The home is open to all, as on many machines: what keeps others out is what the program makes.
 add_user() { # ID
     mkdir -p "$root$homes/$1/run"
     cp "$project/data/samples/first-set.prc" "$root$homes/$1/set.prc"
     chown -R "$1:$1" "$root$homes/$1"
-    chmod 700 "$root$homes/$1" "$root$homes/$1/run"
+    chmod 755 "$root$homes/$1"
+    chmod 700 "$root$homes/$1/run"
 }
 own_folder() { # ID
     echo "$root$homes/$1/.local/share/vy-pixelworks"
@@ -77,11 +79,9 @@ run_tool() { # ID
     said=$(as_user "$1" pixelworks-cli dump "$homes/$1/set.prc" --app-folder /usr/share/vy-pixelworks \
         --work "$homes/$1/work")
     grep -q '"icons"' <<<"$said" || fail "The tool of user $1 dumps nothing."
-    if grep -q validate <<<"$(as_user "$1" pixelworks-cli --help)"; then
-        said=$(as_user "$1" pixelworks-cli validate "$homes/$1/set.prc") &&
-            fail "The tool of user $1 finds nothing in the sample."
-        grep -q orphan <<<"$said" || fail "The tool of user $1 does not find the sample's orphan."
-    fi
+    said=$(as_user "$1" pixelworks-cli validate "$homes/$1/set.prc") &&
+        fail "The tool of user $1 finds nothing in the sample."
+    grep -q orphan <<<"$said" || fail "The tool of user $1 does not find the sample's orphan."
 }
 
 for id in 61001 61002 0; do
@@ -101,16 +101,28 @@ done
 
 say "Two users"
 for id in 61001 61002; do
-    folder=$(own_folder "$id")
     run_on_screen "$id"
-    [ -s "$folder/VYPX.ini" ] || fail "User $id has no settings."
-    (as_user 61001 touch "$homes/$id/.local/share/vy-pixelworks/probe") 2>/dev/null || [ "$id" -ne 61001 ] ||
-        fail "User $id can't write into the own folder."
-    # What the one changes the other does not see.
-    printf '[User %s]\nType=appl\nCreator={U%s}\n' "$id" "${id#61}" >>"$folder/AppList.dat"
+    [ -s "$(own_folder "$id")/VYPX.ini" ] || fail "User $id has no settings."
 done
+settings=$homes/61001/.local/share/vy-pixelworks/VYPX.ini # in ROOT
+catalog=${settings%/*}/AppList.dat
+(as_user 61001 touch "${settings%/*}/probe") || fail "User 61001 can't write into the own folder."
+for path in "${settings%/*}" "$settings" "$catalog"; do
+    ! (as_user 61002 test -w "$path") || fail "User 61002 can write to $path."
+done
+
+# What the one changes outlives the next run of both, and the other does not see it.
+difference() { # between the settings of the two, without the line numbers
+    diff "$(own_folder 61001)/VYPX.ini" "$(own_folder 61002)/VYPX.ini" | tr -d '\r' | grep '^[<>]' || true
+}
+[ -z "$(difference)" ] || fail "The users' settings differ after the same run: $(difference)"
+(as_user 61001 sed -i 's/^Version String=3\.20/Version String=6.1/' "$settings")
+(as_user 61001 sed -i '$a [User 61001]\nType=appl\nCreator={U001}' "$catalog")
+for id in 61001 61002; do
+    run_on_screen "$id"
+done
+[ "$(difference)" = $'< Version String=6.1\n> Version String=3.20' ] ||
+    fail "The users' settings differ by something else than what user 61001 set: $(difference)"
+grep -q 'User 61001' "$root$catalog" || fail "A start took back what user 61001 had changed."
+[ -s "$(own_folder 61002)/AppList.dat" ] || fail "User 61002 has no catalog."
 ! grep -q 'User 61001' "$(own_folder 61002)/AppList.dat" || fail "The users share a catalog."
-! (as_user 61002 cat "$homes/61001/.local/share/vy-pixelworks/VYPX.ini") 2>/dev/null ||
-    fail "User 61002 reads the settings of user 61001."
-run_program 61001
-grep -q 'User 61001' "$(own_folder 61001)/AppList.dat" || fail "A start took back what user 61001 had changed."

@@ -25,7 +25,8 @@ of colour.
 .
 It imports, cuts, scales and reduces pictures of many formats, adds icons
 for the applications that it finds, and queues a saved iconset for the next
-HotSync. The tool pixelworks-cli opens, fills and saves iconsets without windows.")
+HotSync. The tool pixelworks-cli opens, fills and saves iconsets
+without windows.")
 # What the programs link is found by itself; readers of more picture formats are loaded if present.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${VYPX_PROGRAM_FOLDER})
